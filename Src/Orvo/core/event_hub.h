@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "Orvo/core/connection.h"
+#include "Orvo/core/event_table.h"
+#include "Orvo/core/events.h"
+#include "Orvo/values/error.h"
+
+namespace Orvo {
+
+/// Receives any event, late-bound: its dispatch id, and copies of its arguments to read or assign.
+using LateBoundSink = std::function<void(Long dispatchId, std::span<Value> arguments)>;
+
+/// What a host wants to be told of errors that nobody waits for.
+using ErrorHandler = std::function<void(const Error&)>;
+
+/// Ends what the panel is doing, without an error, because the panel has been released meanwhile.
+struct Released {};
+
+/// The error currently being handled, whatever was thrown, by its number and description.
+Error currentError();
+
+/// Hands an event on to every sink, in the order in which they were connected; each gets copies of
+/// its own. Sinks may come, go and end the panel meanwhile: one that is gone isn't called any more,
+/// one that is new hears the next event.
+class EventHub final : public MarvaneAssistantEvents {
+public:
+    explicit EventHub(const ErrorHandler& onError) : onError_(onError) {}
+    ~EventHub() override { close(); }
+
+    Connection connect(MarvaneAssistantEvents& sink);
+    Connection connect(LateBoundSink sink);
+
+    /// Disconnects every sink; an event that is being raised throws Released when it comes back.
+    void close();
+
+    void OnOff() override;
+    void Mute(Integer& intChannel) override;
+    void DownLoad() override;
+    void VolumeChange(Integer& intChannel, Integer& intVolume) override;
+    void SetTemp(Integer& intChannel, Integer& intValue) override;
+    void WaveForm(Integer& intNChannel, Integer& intTypeWaveForm, Integer& intPosNeg) override;
+    void GeneralInformations(Integer& intIdDevice, String& strInformations, String& strSnAmp,
+                             String& strSnCard) override;
+    void ChangeAmpId(Integer& intIdDevice) override;
+
+private:
+    using Deliver = std::function<void(const Event& event, std::span<Value> arguments)>;
+
+    Connection connect(Deliver deliver);
+    void raise(const Event& event, std::initializer_list<Value> arguments);
+    void deliver(const Connection::Link& link, const Event& event, std::vector<Value> arguments);
+
+    const ErrorHandler& onError_;
+    std::vector<std::shared_ptr<Connection::Link>> links_;
+    bool isOpen_ = true;
+};
+
+}  // namespace Orvo

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "Orvo/core/member_table.h"
+#include "Orvo/values/error.h"
+
+namespace Orvo {
+
+/// The outcome of a late-bound call: a result, or the error that a direct call would have thrown.
+struct InvokeResult {
+    Value value{};
+    std::optional<Error> error{};
+};
+
+/// The dispatch id of a member, without regard to case.
+std::optional<Long> dispatchIdOf(std::string_view name);
+
+/// The member with this dispatch id and kind. Error 438 when there is none, error 383 when it is
+/// written but can only be read, error 394 when it is read but can only be written.
+const Member& findMember(Long dispatchId, MemberKind kind);
+
+/// The arguments converted to the member's parameters. Error 450 when their number is another.
+std::vector<Value> convertArguments(const Member& member, std::span<const Value> arguments);
+
+}  // namespace Orvo

@@ -1,0 +1,111 @@
+#include "Orvo/core/panel.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <utility>
+
+#include "Orvo/core/notification_table.h"
+#include "Orvo/layout/layout.h"
+
+namespace Orvo {
+namespace {
+
+using namespace Widgets;
+using namespace Layout;
+
+constexpr Integer kScopes = 4;
+constexpr std::array kFirstDestinations{optionRef("optP1"), optionRef("optP3")};
+constexpr std::array kTestSliders{sliderRef("ZelvinSlider3"), sliderRef("ZelvinSlider6")};
+constexpr Integer kHighestTestTemperature = 100;  // degrees Celsius
+
+void writeToStandardError(const Error& error) {
+    std::fprintf(stderr, "Orvo: run-time error %d: %s\n", static_cast<int>(error.number()),
+                 error.what());
+}
+
+}  // namespace
+
+class Panel::Prompt final : public InputPrompt {
+public:
+    explicit Prompt(InputPrompt& prompt) : prompt_(prompt) {}
+
+    String ask(const Question& question) override {
+        String answer = prompt_.ask(question);
+        if (isReleased_) throw Released{};
+        return answer;
+    }
+
+    void release() { isReleased_ = true; }
+
+private:
+    InputPrompt& prompt_;
+    bool isReleased_ = false;
+};
+
+Panel::Panel(std::shared_ptr<Runtime> runtime, Platform platform)
+    : runtime_(std::move(runtime)),
+      errorHandler_(writeToStandardError),
+      prompt_(std::make_unique<Prompt>(runtime_->inputPrompt())),
+      informationEntry(*runtime_, *prompt_, amplifierId, events),
+      portDiscovery(std::move(platform)) {}
+
+Panel::~Panel() = default;
+
+void Panel::create() {
+    runtime_->notifyTo(this);
+    Notification creation{
+        .widget = kNoWidget, .kind = NotificationKind::creation, .cause = Cause::code};
+    notify(creation);
+}
+
+void Panel::start() {
+    Runtime& widgets = *runtime_;
+    widgets[kTabs].setCurrentTab(kCommonTab);
+    for (Integer channel = 1; channel <= kScopes; ++channel) oscilloscope.drawAxes(channel);
+    for (const OptionRef first : kFirstDestinations) widgets[first].setValue(true);
+    amplifierId.fillList();
+    amplifierId.takeShownId();
+    for (const SliderRef test : kTestSliders) widgets[test].setMaximum(kHighestTestTemperature);
+}
+
+void Panel::release() {
+    runtime_->notifyTo(nullptr);
+    events.close();
+    prompt_->release();
+}
+
+void Panel::notify(Notification& notification) {
+    const auto alive = shared_from_this();
+    const auto* bound = std::find_if(kNotifications.begin(), kNotifications.end(), [&](auto& row) {
+        return row.widget == notification.widget && row.kind == notification.kind;
+    });
+    if (bound == kNotifications.end()) return;
+    if (notification.cause == Cause::code) return bound->handle(*this, notification, bound->number);
+    try {
+        bound->handle(*this, notification, bound->number);
+    } catch (const Released&) {
+        // Whoever released the panel waits for nothing.
+    } catch (...) {
+        report(currentError());
+    }
+}
+
+void Panel::checkThread() const {
+    if (std::this_thread::get_id() != thread_) throw Errors::wrongThread();
+}
+
+void Panel::setErrorHandler(ErrorHandler handler) {
+    errorHandler_ = handler ? std::move(handler) : writeToStandardError;
+}
+
+void Panel::report(const Error& error) const {
+    const ErrorHandler handler = errorHandler_;
+    try {
+        handler(error);
+    } catch (...) {
+        writeToStandardError(currentError());
+    }
+}
+
+}  // namespace Orvo

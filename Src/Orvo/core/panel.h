@@ -1,0 +1,83 @@
+#pragma once
+
+#include <memory>
+#include <thread>
+
+#include "Orvo/core/event_hub.h"
+#include "Orvo/core/host_commands.h"
+#include "Orvo/core/power_state.h"
+#include "Orvo/core/read_only_mode.h"
+#include "Orvo/generator/oscilloscope.h"
+#include "Orvo/generator/wave_generator.h"
+#include "Orvo/monitor/mute_state.h"
+#include "Orvo/monitor/rail_readouts.h"
+#include "Orvo/monitor/status_lamps.h"
+#include "Orvo/monitor/temperature.h"
+#include "Orvo/monitor/volume.h"
+#include "Orvo/service/amplifier_id.h"
+#include "Orvo/service/information_entry.h"
+#include "Orvo/service/message_log.h"
+#include "Orvo/service/port_discovery.h"
+#include "Orvo/service/quick_test.h"
+#include "Orvo/widgets/runtime.h"
+
+namespace Orvo {
+
+/// The panel's subjects over one set of widgets, and the entry through which the widgets notify
+/// them. It outlives its owner for as long as a call is under way.
+class Panel final : public Widgets::NotificationSink, public std::enable_shared_from_this<Panel> {
+public:
+    Panel(std::shared_ptr<Widgets::Runtime> runtime, Platform platform);
+    ~Panel() override;
+
+    /// Takes the widgets' notifications from here on, its own creation being the first.
+    void create();
+
+    /// Brings the widgets from their layout to the panel's first state, once.
+    void start();
+
+    /// No notification and no event passes from here on; what is under way ends without an error.
+    void release();
+
+    void notify(Widgets::Notification& notification) override;
+
+    /// Throws error 1001 on another thread than the one that made the panel.
+    void checkThread() const;
+
+    void setErrorHandler(ErrorHandler handler);
+
+private:
+    // Ends what is under way when the panel was released while a prompt was open.
+    class Prompt;
+
+    void report(const Error& error) const;
+
+    std::shared_ptr<Widgets::Runtime> runtime_;
+    std::thread::id thread_ = std::this_thread::get_id();
+    ErrorHandler errorHandler_;
+    ErrorHandler onError_ = [this](const Error& error) { report(error); };
+    std::unique_ptr<Prompt> prompt_;
+
+public:
+    // The subjects stand in the open for the members and the notification table, which only say who
+    // does what. NOLINTBEGIN(*-non-private-member-variables-in-classes)
+    EventHub events{onError_};
+    PowerState powerState{*runtime_, events};
+    HostCommands hostCommands{events};
+    ReadOnlyMode readOnlyMode{*runtime_};
+    StatusLamps statusLamps{*runtime_};
+    RailReadouts railReadouts{*runtime_};
+    Volume volume{*runtime_, events};
+    MuteState muteState{*runtime_};
+    Temperature temperature{*runtime_, events};
+    WaveGenerator waveGenerator{*runtime_, events};
+    Oscilloscope oscilloscope{*runtime_};
+    QuickTest quickTest{*runtime_};
+    MessageLog messageLog{*runtime_};
+    AmplifierId amplifierId{*runtime_, messageLog, events};
+    InformationEntry informationEntry;
+    PortDiscovery portDiscovery;
+    // NOLINTEND(*-non-private-member-variables-in-classes)
+};
+
+}  // namespace Orvo

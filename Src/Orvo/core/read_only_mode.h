@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Orvo/values/boolean.h"
+#include "Orvo/widgets/runtime.h"
+
+namespace Orvo {
+
+/// Keeps a person from operating the panel: a flag, and the enabled state of the input widgets. The
+/// displays follow the host in both modes.
+class ReadOnlyMode {
+public:
+    explicit ReadOnlyMode(Widgets::Runtime& widgets) : widgets_(widgets) {}
+
+    void set(Boolean value);
+    [[nodiscard]] Boolean get() const { return blnReadOnly; }
+
+private:
+    Widgets::Runtime& widgets_;
+    Boolean blnReadOnly;
+};
+
+}  // namespace Orvo

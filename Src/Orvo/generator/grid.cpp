@@ -1,0 +1,26 @@
+#include "Orvo/generator/grid.h"
+
+#include "Orvo/values/arithmetic.h"
+
+namespace Orvo {
+namespace {
+
+constexpr double kParts = 10.0;
+constexpr int kTopVolts = 120;
+constexpr int kVoltsPerMark = 30;
+
+}  // namespace
+
+std::vector<GridMark> gridMarks(float height) {
+    const int last = roundToInteger(height);
+    const int step = roundToInteger(height / kParts);
+    if (step <= 0) return {};
+    std::vector<GridMark> marks;
+    int volts = kTopVolts;
+    for (int y = step; y <= last; y += step, volts -= kVoltsPerMark) {
+        marks.push_back({static_cast<Integer>(y), static_cast<Integer>(volts)});
+    }
+    return marks;
+}
+
+}  // namespace Orvo

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+
+#include "Orvo/values/types.h"
+#include "Orvo/widgets/runtime.h"
+
+namespace Orvo {
+
+enum class Rail : std::uint8_t { positivePower, positiveAux, negativePower, negativeAux };
+
+/// The supply rails of both pairs: three digits each, the magnitude in volts. Signs and units are
+/// fixed captions.
+class RailReadouts {
+public:
+    explicit RailReadouts(Widgets::Runtime& widgets) : widgets_(widgets) {}
+
+    /// Another pair than 1 and 2 is passed over. Error 13 for a negative value.
+    void set(Rail rail, Integer pair, Integer volts);
+
+private:
+    Widgets::Runtime& widgets_;
+};
+
+}  // namespace Orvo

@@ -1,0 +1,49 @@
+#include "Orvo/service/amplifier_id.h"
+
+#include <array>
+
+#include "Orvo/layout/layout.h"
+#include "Orvo/values/arithmetic.h"
+#include "Orvo/values/text.h"
+
+namespace Orvo {
+namespace {
+
+using namespace Widgets;
+using namespace Layout;
+
+constexpr ComboRef kIds = comboRef("Combo1");
+constexpr std::array kIdLabels{labelRef("lblAmpId12"), labelRef("lblAmpId34")};
+constexpr Integer kHighestId = 99;
+constexpr Integer kCarriageReturn = 13;
+
+}  // namespace
+
+void AmplifierId::fillList() {
+    for (Integer id = 1; id <= kHighestId; ++id) widgets_[kIds].addItem(decimalText(id));
+}
+
+void AmplifierId::takeShownId() {
+    intIdDevice = roundToInteger(numericValue(widgets_[kIds].text()));
+}
+
+void AmplifierId::set(Integer id) {
+    intIdDevice = id;
+    widgets_[kIds].setText(decimalText(id));
+}
+
+void AmplifierId::picked() {
+    const double shown = numericValue(widgets_[kIds].text());
+    if (shown == intIdDevice) return;
+    intIdDevice = roundToInteger(shown);
+    for (const LabelRef label : kIdLabels) widgets_[label].setCaption(decimalText(intIdDevice));
+    log_.clear();
+    Integer id = intIdDevice;
+    host_.ChangeAmpId(id);
+}
+
+void AmplifierId::keyPressed(Integer& keyCode) {
+    if (keyCode != kCarriageReturn) keyCode = 0;
+}
+
+}  // namespace Orvo

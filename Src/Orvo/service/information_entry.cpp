@@ -1,0 +1,51 @@
+#include "Orvo/service/information_entry.h"
+
+#include "Orvo/layout/layout.h"
+#include "Orvo/values/text.h"
+
+namespace Orvo {
+namespace {
+
+using namespace Widgets;
+
+constexpr ButtonRef kButton = Layout::buttonRef("Command1");
+constexpr Long kPassword = 530284;
+constexpr int kTries = 2;
+constexpr Integer kControlR = 18;
+
+}  // namespace
+
+void InformationEntry::keyPressed(Integer& keyCode) {
+    if (keyCode == kControlR) start();
+}
+
+void InformationEntry::start() {
+    if (!knowsPassword()) return;
+    widgets_[kButton].setEnabled(false);
+    askAndRaise();
+    widgets_[kButton].setEnabled(true);
+}
+
+bool InformationEntry::knowsPassword() {
+    for (int tries = 0; tries < kTries; ++tries) {
+        const String typed = prompt_.ask({.text = u"Password", .title = {}, .echo = Echo::hidden});
+        if (typed == decimalText(kPassword)) return true;
+    }
+    return false;
+}
+
+void InformationEntry::askAndRaise() {
+    String strSnAmp =
+        prompt_.ask({.text = u"Serial number of amplifier", .title = u"SN Amplifier"});
+    if (strSnAmp.empty()) return;
+    String strSnCard = prompt_.ask(
+        {.text = u"Serial number of Control Module Card", .title = u"SN Control Module"});
+    if (strSnCard.empty()) return;
+    String strInformations =
+        prompt_.ask({.text = u"General Informations of Amplifier", .title = u"New Informations"});
+    widgets_.screen().setPointer(Pointer::hourglass);
+    Integer intIdDevice = id_.get();
+    host_.GeneralInformations(intIdDevice, strInformations, strSnAmp, strSnCard);
+}
+
+}  // namespace Orvo

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Orvo/core/events.h"
+#include "Orvo/service/amplifier_id.h"
+#include "Orvo/widgets/runtime.h"
+
+namespace Orvo {
+
+/// Lets service staff enter an amplifier's serial numbers and information, behind a password, and
+/// hands them to the host. Nothing of it is kept.
+class InformationEntry {
+public:
+    InformationEntry(Widgets::Runtime& widgets, Widgets::InputPrompt& prompt, AmplifierId& id,
+                     MarvaneAssistantEvents& host)
+        : widgets_(widgets), prompt_(prompt), id_(id), host_(host) {}
+
+    /// Two tries at the password, then the three prompts, then GeneralInformations.
+    void start();
+    /// Ctrl+R in the log starts the entry.
+    void keyPressed(Integer& keyCode);
+
+private:
+    [[nodiscard]] bool knowsPassword();
+    void askAndRaise();
+
+    Widgets::Runtime& widgets_;
+    Widgets::InputPrompt& prompt_;
+    AmplifierId& id_;
+    MarvaneAssistantEvents& host_;
+};
+
+}  // namespace Orvo

@@ -1,0 +1,16 @@
+#include "Orvo/service/message_log.h"
+
+#include "Orvo/layout/layout.h"
+
+namespace Orvo {
+namespace {
+
+constexpr Widgets::ListRef kLog = Layout::listRef("List1");
+
+}  // namespace
+
+void MessageLog::add(const String& line) { widgets_[kLog].addItem(line); }
+
+void MessageLog::clear() { widgets_[kLog].clear(); }
+
+}  // namespace Orvo

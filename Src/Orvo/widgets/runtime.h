@@ -1,0 +1,62 @@
+#pragma once
+
+#include "Orvo/values/types.h"
+#include "Orvo/widgets/notification.h"
+#include "Orvo/widgets/reference.h"
+#include "Orvo/widgets/widgets.h"
+
+namespace Orvo::Widgets {
+
+enum class Pointer : Integer { standard = 0, hourglass = 11 };
+
+/// The screen's mouse pointer.
+class Screen {
+public:
+    virtual ~Screen() = default;
+    virtual void setPointer(Pointer pointer) = 0;
+};
+
+enum class Echo : std::uint8_t { shown, hidden };
+
+struct Question {
+    String text;
+    String title;  ///< empty: the runtime chooses one
+    Echo echo = Echo::shown;
+};
+
+/// A modal prompt for one line of text, its field empty at first.
+class InputPrompt {
+public:
+    virtual ~InputPrompt() = default;
+    /// The text typed, or an empty one when the person cancels. Timers tick and the host may call
+    /// the panel, or release it, while the prompt is open.
+    virtual String ask(const Question& question) = 0;
+};
+
+/// The widgets of one panel, made from the layout, as the panel sees them.
+class Runtime {
+public:
+    virtual ~Runtime() = default;
+
+    virtual Label& operator[](LabelRef label) = 0;
+    virtual Shape& operator[](ShapeRef shape) = 0;
+    virtual Line& operator[](LineRef line) = 0;
+    virtual Button& operator[](ButtonRef button) = 0;
+    virtual Option& operator[](OptionRef option) = 0;
+    virtual Check& operator[](CheckRef check) = 0;
+    virtual Combo& operator[](ComboRef combo) = 0;
+    virtual List& operator[](ListRef list) = 0;
+    virtual Picture& operator[](PictureRef picture) = 0;
+    virtual Timer& operator[](TimerRef timer) = 0;
+    virtual Tabs& operator[](TabsRef tabs) = 0;
+    virtual Digit& operator[](DigitRef digit) = 0;
+    virtual Slider& operator[](SliderRef slider) = 0;
+
+    virtual Screen& screen() = 0;
+    virtual InputPrompt& inputPrompt() = 0;
+
+    /// From now on notifications go to `sink`; to nobody when it is null.
+    virtual void notifyTo(NotificationSink* sink) = 0;
+};
+
+}  // namespace Orvo::Widgets
