@@ -1,0 +1,124 @@
+#include <stdexcept>
+#include <thread>
+
+#include "Support/bench.h"
+
+namespace Orvo::Tests {
+namespace {
+
+using Events = PanelTest;
+
+class Assigning final : public MarvaneAssistantEvents {
+public:
+    void Mute(Integer& intChannel) override {
+        heard.push_back(intChannel);
+        intChannel = 9;
+    }
+    std::vector<Integer> heard;
+};
+
+TEST_F(Events, PassCopiesThatASinkMayAssignTo) {
+    Assigning first;
+    Assigning second;
+    const auto one = panel_.connect(first);
+    const auto two = panel_.connect(second);
+    person_.click(id("Command11"));
+    person_.click(id("Command11"));
+    EXPECT_EQ(first.heard, (std::vector<Integer>{2, 2}));
+    EXPECT_EQ(second.heard, (std::vector<Integer>{2, 2}));
+}
+
+TEST_F(Events, EndWithTheirConnection) {
+    int heard = 0;
+    {
+        const auto connection = panel_.connect([&](Long, std::span<Value>) { ++heard; });
+        person_.click(id("cmdOnOff"));
+    }
+    person_.click(id("cmdOnOff"));
+    EXPECT_EQ(heard, 1);
+}
+
+TEST_F(Events, LetASinkDisconnectItselfAndAnotherAndConnectANewOne) {
+    Connection self;
+    Connection later;
+    Connection added;
+    Lines heard;
+    self = panel_.connect([&](Long, std::span<Value>) {
+        heard.emplace_back("self");
+        self.disconnect();
+        later.disconnect();
+        added = panel_.connect([&](Long, std::span<Value>) { heard.emplace_back("added"); });
+    });
+    later = panel_.connect([&](Long, std::span<Value>) { heard.emplace_back("later"); });
+    person_.click(id("cmdOnOff"));
+    EXPECT_EQ(heard, Lines{"self"});
+    person_.click(id("cmdOnOff"));
+    EXPECT_EQ(heard, (Lines{"self", "added"}));
+}
+
+TEST_F(Events, LetASinkReleaseThePanelInTheMidstOfAHandler) {
+    // The entry goes on after its event, and a click's event is followed by the mouse's release.
+    for (const auto* name : {"Command17", "cmdOnOff", "chkOnOff12", "cmdGo12"}) {
+        auto bench = makeBench();
+        int heard = 0;
+        const auto one = bench->panel().connect([&](Long, std::span<Value>) {
+            ++heard;
+            bench->release();
+        });
+        const auto two = bench->panel().connect([&](Long, std::span<Value>) { ++heard; });
+        bench->store().input().click(id(name));
+        bench->store().input().click(id(name));
+        EXPECT_EQ(heard, 1) << name;
+    }
+}
+
+TEST_F(Events, GoOnWhenASinkFails) {
+    const auto failing = panel_.connect([&](Long id, std::span<Value>) {
+        if (id == 1) throw std::runtime_error("no link");
+        panel_.Volume(1, -32768);
+    });
+    int heard = 0;
+    const auto other = panel_.connect([&](Long, std::span<Value>) { ++heard; });
+    person_.click(id("cmdOnOff"));
+    person_.click(id("Command12"));
+    EXPECT_EQ(heard, 2);
+    EXPECT_EQ(takeLines(),
+              (Lines{"OnOff", "! 1003 Host handler failed: no link", "Mute 1", "! 6 Overflow"}));
+}
+
+TEST_F(Events, MayOutliveTheirPanel) {
+    auto bench = makeBench();
+    const auto connection = bench->panel().connect([](Long, std::span<Value>) {});
+    EXPECT_TRUE(connection.isConnected());
+    bench->release();
+    EXPECT_FALSE(connection.isConnected());
+}
+
+using Threads = PanelTest;
+
+TEST_F(Threads, OtherThanThePanelsAreRefusedAndChangeNothing) {
+    Long direct = 0;
+    Long late = 0;
+    std::thread([&] {
+        direct = errorOf([&] { panel_.Connected(kTrue); });
+        const Value argument = Boolean(true);
+        late = panel_.invoke(0x68030013, MemberKind::let, {&argument, 1}).error->number();
+    }).join();
+    EXPECT_EQ(direct, 1001);
+    EXPECT_EQ(late, 1001);
+    EXPECT_FALSE(isLit("shpConnected"));
+}
+
+TEST_F(Events, OfAHandlerThatFailsGoToTheErrorHandler) {
+    class Failing final : public Runtime::OperationObserver {
+        void before(const Runtime::Operation& /*operation*/) override { throw Error(7, "Gone"); }
+    } failing;
+    store_.observeWith(&failing);
+    person_.click(id("cmdGo12"));
+    store_.advance(std::chrono::milliseconds(1500));
+    store_.observeWith(nullptr);
+    EXPECT_EQ(takeLines(), (Lines{"! 7 Gone", "! 7 Gone", "! 7 Gone"}));
+}
+
+}  // namespace
+}  // namespace Orvo::Tests

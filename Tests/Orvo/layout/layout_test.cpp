@@ -1,0 +1,77 @@
+#include "Orvo/layout/layout.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "Orvo/values/text.h"
+
+namespace Orvo::Tests {
+namespace {
+
+using namespace Layout;
+
+std::string hex(Colour colour) {
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), "%02x%02x%02x", colour.red, colour.green, colour.blue);
+    return text.data();
+}
+
+std::string font(const Font& font) {
+    constexpr const char* kFaces[] = {"arial", "microgramma", "serif", "standard"};
+    std::ostringstream out;
+    out << kFaces[static_cast<int>(font.face)] << ' ' << font.points;
+    if (font.isBold) out << " bold";
+    if (font.isItalic) out << " italic";
+    if (font.isUnderlined) out << " underlined";
+    return out.str();
+}
+
+std::string line(const Widget& widget) {
+    constexpr const char* kKinds[] = {"label",  "shape", "line",  "frame", "button",
+                                      "option", "check", "combo", "list",  "picture",
+                                      "image",  "timer", "tabs",  "digit", "slider"};
+    const Style& style = widget.style;
+    const auto& [left, top, width, height] = widget.place;
+    std::ostringstream out;
+    out << widget.name << " | " << kKinds[static_cast<int>(style.kind)] << " | "
+        << (widget.container == kNoWidget ? "-" : describe(widget.container).name) << ' '
+        << widget.tab << " | " << left << ' ' << top << ' ' << width << ' ' << height << " | \""
+        << toUtf8(widget.caption) << "\" | " << font(style.font) << " | " << hex(style.text) << ' '
+        << hex(style.back) << ' ' << hex(style.fill) << ' ' << hex(style.border);
+    if (!style.isVisible) out << " hidden";
+    if (!style.isEnabled) out << " disabled";
+    if (style.isSelected) out << " selected";
+    if (style.isSolid) out << " solid";
+    return out.str();
+}
+
+// ORVO_UPDATE=1 ./test -R Layout writes the list anew; a review then sees what a change moved.
+TEST(Layout, IsTheListOfAllWidgets) {
+    const std::string path = ORVO_TEST_DATA "/widgets.txt";
+    std::ostringstream actual;
+    for (const Widget& widget : kWidgets) actual << line(widget) << '\n';
+    if (std::getenv("ORVO_UPDATE") != nullptr) std::ofstream(path) << actual.str();
+    std::ostringstream expected;
+    expected << std::ifstream(path).rdbuf();
+    EXPECT_EQ(actual.str(), expected.str());
+}
+
+TEST(Layout, KeepsEverythingInsideItsContainer) {
+    for (const Widget& widget : kWidgets) {
+        if (widget.container == kNoWidget || widget.style.kind == Kind::image) continue;
+        const Place& outer = describe(widget.container).place;
+        const Place& place = widget.place;
+        const bool isLine = widget.style.kind == Kind::line;
+        const int right = isLine ? std::max(place.left, place.width) : place.left + place.width;
+        const int bottom = isLine ? std::max(place.top, place.height) : place.top + place.height;
+        EXPECT_GE(place.left, 0) << widget.name;
+        EXPECT_LE(right, outer.width) << widget.name;
+        EXPECT_LE(bottom, outer.height + kTwipsPerPixel) << widget.name;
+    }
+}
+
+}  // namespace
+}  // namespace Orvo::Tests

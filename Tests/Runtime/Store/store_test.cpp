@@ -1,0 +1,201 @@
+#include "Runtime/Store/store.h"
+
+#include <functional>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "Support/bench.h"
+
+namespace Orvo::Tests {
+namespace {
+
+using namespace std::chrono_literals;
+using Runtime::Store;
+using Widgets::Notification;
+
+// A store without a panel, and what it notifies: "click optP1".
+class StoreTest : public testing::Test, Widgets::NotificationSink {
+protected:
+    StoreTest() { store_.notifyTo(this); }
+
+    void notify(Notification& notification) override {
+        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
+        heard_.push_back(std::string(kNames[static_cast<int>(notification.kind)]) + ' ' +
+                         std::string(Layout::describe(notification.widget).name));
+        if (answer_) answer_(notification);
+    }
+
+    std::vector<std::string> takeHeard() { return std::exchange(heard_, {}); }
+
+    std::shared_ptr<Store> shared_ = Store::create();
+    Store& store_ = *shared_;
+    Runtime::UserInput& person_ = store_.input();
+    std::vector<std::string> heard_;
+    std::function<void(Notification&)> answer_;
+};
+
+using Heard = std::vector<std::string>;
+
+TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
+    constexpr auto kP1 = Layout::optionRef("optP1");
+    constexpr auto kN1 = Layout::optionRef("optN1");
+    constexpr auto kP3 = Layout::optionRef("optP3");
+    store_[kP3].setValue(true);
+    store_[kP1].setValue(true);
+    person_.click(kN1.id);
+    EXPECT_FALSE(store_[kP1].value());
+    EXPECT_TRUE(store_[kN1].value());
+    EXPECT_TRUE(store_[kP3].value());
+    EXPECT_EQ(takeHeard(), (Heard{"click optP3", "click optP1", "click optN1", "release optN1"}));
+}
+
+TEST_F(StoreTest, TicksInOrderOnItsClock) {
+    std::vector<std::int64_t> times;
+    answer_ = [&](Notification&) { times.push_back(store_.now().count()); };
+    store_.advance(1499ms);
+    EXPECT_EQ(takeHeard(), Heard());
+    store_.advance(1501ms);
+    EXPECT_EQ(times, (std::vector<std::int64_t>{1500, 1500, 3000, 3000}));
+    EXPECT_EQ(takeHeard(), (Heard{"tick tmrVirtualTemp12", "tick tmrVirtualTemp34",
+                                  "tick tmrVirtualTemp12", "tick tmrVirtualTemp34"}));
+}
+
+TEST_F(StoreTest, StartsTheIntervalOfATimerThatIsEnabledAnew) {
+    constexpr auto kTimer = Layout::timerRef("tmrVirtualTemp12");
+    store_[Layout::timerRef("tmrVirtualTemp34")].setEnabled(false);
+    store_.advance(1000ms);
+    store_[kTimer].setEnabled(true);
+    EXPECT_EQ(store_.untilNextTick(), 500ms);
+    store_[kTimer].setEnabled(false);
+    EXPECT_EQ(store_.untilNextTick(), std::nullopt);
+    store_.advance(1000ms);
+    store_[kTimer].setEnabled(Boolean(Integer{2}));
+    EXPECT_EQ(store_.untilNextTick(), 1500ms);
+}
+
+TEST_F(StoreTest, TicksOnceForAllTheTimeThatItMissed) {
+    store_[Layout::timerRef("tmrVirtualTemp34")].setEnabled(false);
+    store_.catchUp(10s);
+    EXPECT_EQ(takeHeard(), Heard{"tick tmrVirtualTemp12"});
+    EXPECT_EQ(store_.untilNextTick(), 500ms);
+}
+
+TEST_F(StoreTest, LetsATickPassTimeItself) {
+    answer_ = [&, isFirst = true](Notification&) mutable {
+        if (std::exchange(isFirst, false)) store_.advance(3000ms);
+    };
+    store_.advance(2000ms);
+    EXPECT_EQ(store_.now(), 4500ms);
+    EXPECT_EQ(takeHeard().size(), 6U);
+}
+
+TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
+    constexpr auto kSlider = Layout::sliderRef("ZelvinSlider1");
+    const auto& state = store_.get<Runtime::StoredSlider>(kSlider.id).state();
+    store_[kSlider].setPosition(-40);
+    EXPECT_EQ(store_[kSlider].position(), -40);
+    EXPECT_EQ(state.shown(), 0);
+    person_.press(kSlider.id);
+    EXPECT_TRUE(bool(store_[kSlider].buttonDown()));
+    person_.move(kSlider.id, 35);
+    EXPECT_EQ(store_[kSlider].position(), 30);
+    store_[kSlider].setEnabled(false);
+    EXPECT_FALSE(bool(store_[kSlider].buttonDown()));
+    person_.slide(kSlider.id, 3);
+    EXPECT_EQ(store_[kSlider].position(), 30);
+    EXPECT_EQ(takeHeard(), Heard{"change ZelvinSlider1"});
+}
+
+TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
+    auto& tabs = store_[Layout::kTabs];
+    const auto& state = store_.get<Runtime::StoredTabs>(Layout::kTabs.id).state();
+    person_.selectTab(Layout::kTabs.id, 2);
+    tabs.setTabEnabled(1, false);
+    EXPECT_EQ(state.current, 2);
+    tabs.setTabEnabled(2, false);
+    EXPECT_EQ(state.current, 0);
+    person_.selectTab(Layout::kTabs.id, 2);
+    EXPECT_EQ(state.current, 0);
+    EXPECT_EQ(errorOf([&] { tabs.setTabEnabled(3, true); }), 5);
+}
+
+TEST_F(StoreTest, IgnoresInputToWhatIsHiddenOrDisabledByWhatContainsIt) {
+    const auto button = id("Command12");
+    const auto clicked = [&] {
+        person_.click(button);
+        return takeHeard() == Heard{"click Command12", "release Command12"};
+    };
+    EXPECT_TRUE(clicked());
+    store_.show(id("Frame6"), false);
+    EXPECT_FALSE(clicked());
+    store_.show(id("Frame6"), true);
+    store_.enable(id("SSTab1"), false);
+    EXPECT_FALSE(clicked());
+    store_.enable(id("SSTab1"), true);
+    store_[Layout::kTabs].setTabEnabled(1, false);
+    EXPECT_FALSE(clicked());
+    store_[Layout::kTabs].setTabEnabled(1, true);
+    EXPECT_TRUE(clicked());
+}
+
+TEST_F(StoreTest, LetsAComboBoxBePickedAndTypedIn) {
+    constexpr auto kCombo = Layout::comboRef("Combo1");
+    for (const auto* item : {u"1", u"2"}) store_[kCombo].addItem(item);
+    person_.pick(kCombo.id, u"2");
+    EXPECT_EQ(store_[kCombo].text(), u"1");
+    store_.enable(kCombo.id, true);
+    person_.pick(kCombo.id, u"2");
+    person_.pick(kCombo.id, u"3");
+    EXPECT_EQ(store_[kCombo].text(), u"2");
+    person_.type(kCombo.id, u'5');
+    EXPECT_EQ(store_[kCombo].text(), u"25");
+    person_.type(kCombo.id, 8);
+    answer_ = [](Notification& notification) { notification.keyCode = 0; };
+    person_.type(kCombo.id, u'6');
+    EXPECT_EQ(store_[kCombo].text(), u"2");
+    EXPECT_EQ(takeHeard(), (Heard{"click Combo1", "key Combo1", "key Combo1", "key Combo1"}));
+}
+
+// Notes what is said to have changed.
+class Noting final : public Runtime::View {
+public:
+    void changed(Widgets::WidgetId widget) override { ids.push_back(widget); }
+    std::vector<Widgets::WidgetId> ids;
+};
+
+TEST_F(StoreTest, TellsItsViewOfChangesOnly) {
+    Noting view;
+    store_.showOn(&view);
+    constexpr auto kLamp = Layout::shapeRef("Shape16");
+    store_[kLamp].setFillStyle(Widgets::FillStyle::transparent);
+    EXPECT_TRUE(view.ids.empty());
+    store_[kLamp].setFillStyle(Widgets::FillStyle::solid);
+    store_.screen().setPointer(Widgets::Pointer::hourglass);
+    EXPECT_EQ(view.ids, (std::vector<Widgets::WidgetId>{kLamp.id, Layout::kNoWidget}));
+}
+
+class FailingAt final : public Runtime::OperationObserver {
+public:
+    explicit FailingAt(int count) : left_(count) {}
+    void before(const Runtime::Operation& /*operation*/) override {
+        if (left_-- == 0) throw Error(7, "Gone");
+    }
+
+private:
+    int left_;
+};
+
+TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
+    constexpr auto kPicture = Layout::pictureRef("Picture1");
+    const std::array<Widgets::Point, 4> points{{{0, 0}, {1, 1}, {2, 0}, {3, 1}}};
+    FailingAt thirdLine(6);
+    store_.observeWith(&thirdLine);
+    EXPECT_EQ(errorOf([&] { store_[kPicture].polyline(points, Layout::kGreen); }), 7);
+    const auto& drawing = store_.get<Runtime::StoredPicture>(kPicture.id).state().drawing;
+    ASSERT_EQ(drawing.size(), 1U);
+    EXPECT_EQ(std::get<Runtime::DrawnPolyline>(drawing[0]).points.size(), 3U);
+}
+
+}  // namespace
+}  // namespace Orvo::Tests

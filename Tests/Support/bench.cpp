@@ -1,0 +1,82 @@
+#include "Support/bench.h"
+
+#include <utility>
+
+#include "Orvo/values/text.h"
+
+namespace Orvo::Tests {
+namespace {
+
+std::string textOf(const Value& value) {
+    return toUtf8(std::get<String>(convert(value, ValueType::string)));
+}
+
+}  // namespace
+
+Widgets::WidgetId id(std::string_view name) {
+    const auto found = Layout::findWidget(name);
+    EXPECT_TRUE(found.has_value()) << name;
+    return found.value_or(0);
+}
+
+PanelTest::PanelTest() {
+    connection_ = panel_.connect([this](Long dispatchId, std::span<Value> arguments) {
+        std::string line(kEvents[static_cast<std::size_t>(dispatchId - 1)].name);
+        for (const Value& argument : arguments) line += ' ' + textOf(argument);
+        lines_.push_back(line);
+    });
+    panel_.setErrorHandler([this](const Error& error) {
+        lines_.push_back("! " + std::to_string(error.number()) + ' ' + error.description());
+    });
+}
+
+bool PanelTest::isLit(std::string_view shape) const {
+    return store_.get<Runtime::StoredShape>(id(shape)).state().fillStyle ==
+           Widgets::FillStyle::solid;
+}
+
+String PanelTest::caption(std::string_view label) const {
+    return store_.get<Runtime::StoredLabel>(id(label)).state().caption;
+}
+
+Colour PanelTest::colour(std::string_view label) const {
+    return store_.get<Runtime::StoredLabel>(id(label)).state().colour;
+}
+
+Colour PanelTest::lineColour(std::string_view line) const {
+    return store_.get<Runtime::StoredLine>(id(line)).state().colour;
+}
+
+bool PanelTest::isVisible(std::string_view widget) const {
+    return store_.widget(id(widget)).isVisible();
+}
+
+bool PanelTest::isEnabled(std::string_view widget) const {
+    return store_.widget(id(widget)).isEnabled();
+}
+
+bool PanelTest::isSelected(std::string_view option) const {
+    return store_.get<Runtime::StoredOption>(id(option)).state().value;
+}
+
+bool PanelTest::isChecked(std::string_view check) const {
+    return store_.get<Runtime::StoredCheck>(id(check)).state().value ==
+           Widgets::CheckValue::checked;
+}
+
+Integer PanelTest::position(std::string_view slider) const {
+    return store_.get<Runtime::StoredSlider>(id(slider)).state().position;
+}
+
+std::string PanelTest::digits(const std::vector<std::string_view>& names) const {
+    std::string shown;
+    for (const std::string_view name : names) {
+        const auto digit = store_.get<Runtime::StoredDigit>(id(name)).state().digit;
+        shown += digit ? std::to_string(*digit) : "_";
+    }
+    return shown;
+}
+
+PanelTest::Lines PanelTest::takeLines() { return std::exchange(lines_, {}); }
+
+}  // namespace Orvo::Tests

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "Orvo/core/marvane_assistant.h"
+#include "Orvo/layout/layout.h"
+#include "Runtime/Store/store.h"
+
+namespace Orvo {
+
+inline void PrintTo(Boolean value, std::ostream* out) { *out << "Boolean " << value.raw(); }
+inline void PrintTo(Colour colour, std::ostream* out) {
+    *out << int{colour.red} << ',' << int{colour.green} << ',' << int{colour.blue};
+}
+
+namespace Tests {
+
+constexpr Boolean kTrue = true;
+constexpr Boolean kFalse = false;
+
+/// A panel on one of the runtimes. The test program that a conformance test is linked into says
+/// which.
+class Bench {
+public:
+    virtual ~Bench() = default;
+    virtual MarvaneAssistant& panel() = 0;
+    virtual Runtime::Store& store() = 0;
+    /// Releases the panel; nothing else may be asked of it afterwards.
+    virtual void release() = 0;
+};
+
+std::unique_ptr<Bench> makeBench();
+
+/// The widget of a name, which must exist.
+Widgets::WidgetId id(std::string_view name);
+
+/// A panel, and what it raised and reported, as lines: "Mute 1", "! 6 Overflow".
+class PanelTest : public testing::Test {
+protected:
+    using Lines = std::vector<std::string>;
+
+    PanelTest();
+
+    [[nodiscard]] bool isLit(std::string_view shape) const;
+    [[nodiscard]] String caption(std::string_view label) const;
+    [[nodiscard]] Colour colour(std::string_view label) const;
+    [[nodiscard]] Colour lineColour(std::string_view line) const;
+    [[nodiscard]] bool isVisible(std::string_view widget) const;
+    [[nodiscard]] bool isEnabled(std::string_view widget) const;
+    [[nodiscard]] bool isSelected(std::string_view option) const;
+    [[nodiscard]] bool isChecked(std::string_view check) const;
+    [[nodiscard]] Integer position(std::string_view slider) const;
+    /// The digits of several widgets, "_" for one that is dark.
+    [[nodiscard]] std::string digits(const std::vector<std::string_view>& names) const;
+
+    /// What has been raised and reported since the last call.
+    Lines takeLines();
+
+    std::unique_ptr<Bench> bench_ = makeBench();
+    MarvaneAssistant& panel_ = bench_->panel();
+    Runtime::Store& store_ = bench_->store();
+    Runtime::UserInput& person_ = store_.input();
+    Lines lines_;
+    Connection connection_;
+};
+
+/// The number of the error that a call ends with; 0 when it doesn't.
+template <class Call>
+Long errorOf(Call call) {
+    try {
+        call();
+    } catch (const Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+}  // namespace Tests
+}  // namespace Orvo
