@@ -44,7 +44,7 @@ consteval Event event(Long dispatchId, std::string_view name,
     if (!fits<decltype(kFunction)>(parameters)) throw "the parameters are not the function's";
     return {.dispatchId = dispatchId,
             .name = name,
-            .parameterSlots = slots<4>(parameters),
+            .parameterSlots = padded<4>(parameters),
             .parameterCount = parameters.size(),
             .deliver = &deliverEvent<kFunction>};
 }

@@ -67,7 +67,7 @@ consteval bool fits(std::initializer_list<Parameter> parameters) {
 }
 
 template <std::size_t kSlots>
-consteval std::array<Parameter, kSlots> slots(std::initializer_list<Parameter> parameters) {
+consteval std::array<Parameter, kSlots> padded(std::initializer_list<Parameter> parameters) {
     std::array<Parameter, kSlots> filled{};
     for (std::size_t i = 0; i < parameters.size(); ++i) filled[i] = std::data(parameters)[i];
     return filled;
@@ -102,7 +102,7 @@ consteval Member member(int number, std::string_view name, MemberKind kind, Long
             .name = name,
             .kind = kind,
             .dispatchId = dispatchId,
-            .parameterSlots = slots<2>(parameters),
+            .parameterSlots = padded<2>(parameters),
             .parameterCount = parameters.size(),
             .result = result,
             .call = &callMember<kFunction>};

@@ -1,7 +1,5 @@
 #include "Orvo/generator/trace.h"
 
-#include <cstddef>
-
 namespace Orvo {
 namespace {
 
@@ -13,12 +11,13 @@ constexpr double kFullScale = 255.0;
 
 std::vector<Widgets::Point> tracePoints(std::span<const Integer> samples, Long upperBound,
                                         float width, float height) {
+    const auto count = static_cast<int>(samples.size());
     std::vector<Widgets::Point> points(samples.size());
     const double room = double{width} - kTraceMargin;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        const double x = kTraceMargin + room * static_cast<double>(i + 1) / upperBound;
-        const double y = (samples[i] * kGain - kOffset) * height / kFullScale;
-        points[i] = {static_cast<float>(x), static_cast<float>(y)};
+    for (int i = 0; i < count; ++i) {
+        const double x = kTraceMargin + room * (i + 1) / upperBound;
+        const double y = (samples.data()[i] * kGain - kOffset) * height / kFullScale;
+        points.data()[i] = {static_cast<float>(x), static_cast<float>(y)};
     }
     return points;
 }

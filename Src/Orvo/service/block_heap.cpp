@@ -13,14 +13,18 @@ constexpr std::int64_t kLast = std::numeric_limits<Long>::max();
 }  // namespace
 
 Long BlockHeap::allocate(std::size_t bytes) {
-    if (bytes > static_cast<std::size_t>(kLast - kFirst)) return 0;
-    const auto size = static_cast<std::int64_t>(bytes);
-    if (blocks_.empty()) next_ = kFirst;
-    if (next_ + size + kGap > kLast) return 0;
-    const std::int64_t address = next_;
+    const std::int64_t address = nextAddress();
+    const std::int64_t room = kLast - kGap - address;
+    if (room < 0 || bytes > static_cast<std::size_t>(room)) return 0;
     blocks_.emplace(address, std::vector<std::byte>(bytes));
-    next_ += (size / kGap + 2) * kGap;
     return static_cast<Long>(address);
+}
+
+// Above the last block that is left, so that one which stays does not make the addresses run out.
+std::int64_t BlockHeap::nextAddress() const {
+    if (blocks_.empty()) return kFirst;
+    const auto& [address, bytes] = *blocks_.rbegin();
+    return address + (static_cast<std::int64_t>(bytes.size()) / kGap + 2) * kGap;
 }
 
 void BlockHeap::release(Long address) { blocks_.erase(address); }

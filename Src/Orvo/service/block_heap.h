@@ -18,8 +18,9 @@ public:
     [[nodiscard]] std::size_t blockCount() const { return blocks_.size(); }
 
 private:
+    [[nodiscard]] std::int64_t nextAddress() const;
+
     std::map<std::int64_t, std::vector<std::byte>> blocks_;  // by first address
-    std::int64_t next_ = 0x10000;
 };
 
 }  // namespace Orvo

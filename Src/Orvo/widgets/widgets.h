@@ -1,6 +1,6 @@
 #pragma once
 
-#include <span>
+#include <vector>
 
 #include "Orvo/values/boolean.h"
 #include "Orvo/values/types.h"
@@ -111,7 +111,7 @@ public:
     virtual void print(const String& text) = 0;
     /// Joins the points in order: the same as drawing one line for each segment, and reading the
     /// scale's width and height before every one but the first; only faster.
-    virtual void polyline(std::span<const Point> points, Colour colour) = 0;
+    virtual void polyline(std::vector<Point> points, Colour colour) = 0;
 };
 
 class Tabs {

@@ -246,12 +246,11 @@ void StoredPicture::print(const String& text) {
     draw(DrawnText{state_.current, text, state_.foreColour, state_.fontSize});
 }
 
-void StoredPicture::polyline(std::span<const Point> points, Colour colour) {
+void StoredPicture::polyline(std::vector<Point> points, Colour colour) {
     std::size_t reached = store().isObserved() ? 0 : points.size();
     const auto keep = [&] {
-        if (reached < 2) return;
-        const auto drawn = points.first(reached);
-        draw(DrawnPolyline{{drawn.begin(), drawn.end()}, colour});
+        points.resize(reached);
+        if (reached > 1) draw(DrawnPolyline{std::move(points), colour});
     };
     try {
         for (; reached < points.size(); ++reached) observePoint(points, reached, colour);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <span>
+#include <vector>
 
 #include "Orvo/widgets/notification.h"
 #include "Orvo/widgets/widgets.h"
@@ -155,7 +156,7 @@ public:
     void setForeColour(Colour text) override;
     void setFontSize(float points) override;
     void print(const String& text) override;
-    void polyline(std::span<const Widgets::Point> points, Colour colour) override;
+    void polyline(std::vector<Widgets::Point> points, Colour colour) override;
 
     /// The drawing area in pixels.
     [[nodiscard]] int width() const;
