@@ -188,7 +188,7 @@ private:
 
 TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
     constexpr auto kPicture = Layout::pictureRef("Picture1");
-    const std::array<Widgets::Point, 4> points{{{0, 0}, {1, 1}, {2, 0}, {3, 1}}};
+    const std::vector<Widgets::Point> points{{0, 0}, {1, 1}, {2, 0}, {3, 1}};
     FailingAt thirdLine(6);
     store_.observeWith(&thirdLine);
     EXPECT_EQ(errorOf([&] { store_[kPicture].polyline(points, Layout::kGreen); }), 7);

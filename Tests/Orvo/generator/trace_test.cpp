@@ -1,0 +1,89 @@
+#include "Orvo/generator/trace.h"
+
+#include <numeric>
+
+#include <gtest/gtest.h>
+
+#include "Support/bench.h"
+
+namespace Orvo::Tests {
+namespace {
+
+TEST(TracePoints, SpreadTheSamplesOverTheSurface) {
+    const std::vector<Integer> samples{128, 255, 0};
+    const auto points = tracePoints(samples, 100, 195, 95);
+    EXPECT_FLOAT_EQ(points[0].x, 31.65F);
+    EXPECT_NEAR(points[0].y, 47.69, 0.005);
+    EXPECT_NEAR(points[1].y, 98.31, 0.005);
+    EXPECT_NEAR(points[2].y, -3.34, 0.005);
+    EXPECT_EQ(tracePoints(std::vector<Integer>(100), 100, 195, 95).back().x, 195);
+}
+
+using Trace = PanelTest;
+
+struct Drawn {
+    std::size_t grid = 0;
+    std::vector<Widgets::Point> points{};
+};
+
+Drawn drawnOn(Runtime::Store& store, const char* name) {
+    Drawn drawn;
+    for (const auto& item : store.get<Runtime::StoredPicture>(id(name)).state().drawing) {
+        if (const auto* trace = std::get_if<Runtime::DrawnPolyline>(&item)) {
+            EXPECT_EQ(trace->colour, rgb(0, 255, 0));
+            drawn.points = trace->points;
+        } else {
+            ++drawn.grid;
+        }
+    }
+    return drawn;
+}
+
+TEST_F(Trace, JoinsTheSamplesFromIndex1AndStopsWhereTheArrayDoes) {
+    using Dimensions = std::vector<IntegerArray::Bounds>;
+    const struct {
+        const char* label;
+        IntegerArray samples;
+        std::size_t points;
+        Long error;
+    } kRows[] = {
+        {"one sample", IntegerArray(1, {7}), 0, 0},
+        {"none, upper bound 0", IntegerArray(1, {}), 0, 0},
+        {"two", IntegerArray(1, {7, 8}), 2, 0},
+        {"from 0", IntegerArray(0, std::vector<Integer>(100)), 99, 0},
+        {"from -3", IntegerArray(-3, std::vector<Integer>(6)), 2, 0},
+        {"no dimension", IntegerArray(), 0, 9},
+        {"two dimensions", IntegerArray(Dimensions{{1, 4}, {1, 4}}), 0, 9},
+        {"two dimensions, short", IntegerArray(Dimensions{{1, 1}, {1, 4}}), 0, 0},
+        {"from 2", IntegerArray(2, {1, 2, 3}), 0, 9},
+        {"the longest", IntegerArray(1, std::vector<Integer>(32767)), 32767, 0},
+        {"one more", IntegerArray(1, std::vector<Integer>(32768)), 32767, 6},
+        {"two more", IntegerArray(1, std::vector<Integer>(32769)), 0, 6},
+    };
+    for (const auto& row : kRows) {
+        SCOPED_TRACE(row.label);
+        panel_.DisegnaFormaDOnda(2, IntegerArray(1, {1, 2, 3}));
+        EXPECT_EQ(errorOf([&] { panel_.DisegnaFormaDOnda(2, row.samples); }), row.error);
+        const Drawn drawn = drawnOn(store_, "Picture2");
+        EXPECT_EQ(drawn.grid, 19U);
+        EXPECT_EQ(drawn.points.size(), row.points);
+        EXPECT_TRUE(drawnOn(store_, "Picture1").points.empty());
+    }
+    panel_.DisegnaFormaDOnda(3, IntegerArray(0, {99, 1, 2}));
+    EXPECT_EQ(drawnOn(store_, "Picture3").points.front().x, 112.5);
+    EXPECT_NEAR(drawnOn(store_, "Picture3").points.front().y, -2.9394, 0.0001);
+}
+
+TEST_F(Trace, DrawsNothingForAChannelThatThereIsNot) {
+    panel_.DisegnaFormaDOnda(1, IntegerArray(1, {1, 2}));
+    for (const Integer channel : {Integer{0}, Integer{5}, Integer{-1}}) {
+        EXPECT_EQ(errorOf([&] {
+                      panel_.DisegnaFormaDOnda(channel, IntegerArray(1, {3, 4, 5}));
+                  }),
+                  5);
+    }
+    EXPECT_EQ(drawnOn(store_, "Picture1").points.size(), 2U);
+}
+
+}  // namespace
+}  // namespace Orvo::Tests
