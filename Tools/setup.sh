@@ -5,11 +5,15 @@
 root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd -P)
 
 declare -A packages_for=(
-    [build]="g++ cmake ninja-build"
+    # A build without libcups2-dev knows no print servers.
+    [build]="g++ cmake ninja-build libcups2-dev"
     # libgl-dev because Qt's own CMake package asks for it; the fonts because
     # an offscreen window would show no text without any.
     [window]="qt6-base-dev libgl-dev fonts-dejavu-core fonts-liberation"
     [tests]="libgtest-dev libbenchmark-dev"
+    # For CI only, as this starts a print server on the machine; the tests that
+    # need one are skipped without.
+    [server]="cups-daemon"
     # Another version formats differently and finds other things.
     [lint]="clang-format-14 clang-tidy-14"
 )
