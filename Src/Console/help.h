@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Console/command.h"
+
+namespace Orvo::Console {
+
+/// The word that asks for help at a terminal; it is no command of the language.
+constexpr std::string_view kHelp = "help";
+
+/// The command as it is written: its name and what follows it.
+std::string usage(const Command& command);
+
+/// The answer to "help" and "help COMMAND", several lines; none when the line asks for no help.
+std::optional<std::string> help(std::string_view line);
+
+}  // namespace Orvo::Console

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <charconv>
+#include <concepts>
+#include <limits>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+#include "Console/words.h"
+#include "Orvo/core/value.h"
+
+namespace Orvo::Console {
+
+/// The digits of a whole number: decimal, or hexadecimal after "0x", with an optional sign.
+struct Digits {
+    std::string_view digits;
+    int base = 10;
+    bool isNegative = false;
+};
+
+/// None when the text is not written that way.
+std::optional<Digits> digitsOf(std::string_view text);
+
+/// None also when the number doesn't fit.
+template <std::signed_integral Whole>
+std::optional<Whole> wholeNumber(std::string_view text) {
+    const auto written = digitsOf(text);
+    if (!written) return std::nullopt;
+    long long value = 0;
+    const auto& digits = written->digits;
+    const auto [end, status] =
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, written->base);
+    if (status != std::errc{}) return std::nullopt;
+    if (written->isNegative) value = -value;
+    using Limits = std::numeric_limits<Whole>;
+    if (value < Limits::min() || value > Limits::max()) return std::nullopt;
+    return static_cast<Whole>(value);
+}
+
+/// What a word stands for where a value of this type is expected. Throws Misunderstood when it is
+/// no literal of the type.
+Value literal(const Word& word, ValueType type);
+
+/// What a word stands for where any value may stand: a number in the narrowest type that holds it.
+Value naturalLiteral(const Word& word);
+
+}  // namespace Orvo::Console

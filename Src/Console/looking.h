@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "Console/argument_types.h"
+#include "Runtime/Store/store.h"
+
+// The commands that look at the panel or change its layout. Each function returns its closing
+// line.
+namespace Orvo::Console::Looking {
+
+/// A widget as `show` prints it.
+std::string describe(const Runtime::Store& widgets, WidgetId widget);
+
+std::string show(Session& session, const Shown& widget);
+std::string items(Session& session, const ItemHolder& widget);
+std::string drawing(Session& session, const Picture& picture);
+std::string widgets(Session& session);
+std::string set(Session& session, const AnyWidget& widget, const LayoutProperty& property,
+                const Truth& value);
+std::string shot(Session& session, const File& file);
+std::string quit(Session& session);
+
+}  // namespace Orvo::Console::Looking

@@ -1,0 +1,90 @@
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "Console/completion.h"
+#include "Console/help.h"
+#include "Console/options.h"
+#include "Console/script.h"
+#include "Console/store_bench.h"
+#include "Console/terminal.h"
+
+// orvo-console: the panel script on the in-memory runtime.
+namespace {
+
+using namespace Orvo::Console;
+
+enum Status { done, notUnderstood, cannotRun };
+
+constexpr Grammar kGrammar{.speaker = Grammar::Speaker::anyone, .place = Place::inMemory};
+
+int runScript(int descriptor, const std::string& name, AtComplaint atComplaint) {
+    StoreBench bench;
+    const bool isUnderstood = Script(bench, kGrammar, descriptor, name, atComplaint).run();
+    return isUnderstood ? done : notUnderstood;
+}
+
+int runFile(const std::string& name, AtComplaint atComplaint) {
+    const int descriptor = ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) throw std::system_error(errno, std::generic_category(), name);
+    return runScript(descriptor, name, atComplaint);
+}
+
+int talk() {
+    StoreBench bench;
+    BufferedOutput output;
+    Session session(bench, kGrammar, [&output](std::string_view line) { output.line(line); });
+    Terminal terminal(completions);
+    while (!session.hasQuit()) {
+        const auto line = terminal.ask("orvo> ");
+        if (!line) {
+            output.line("");
+            break;
+        }
+        const auto text = help(*line);
+        if (text) {
+            output.line(*text);
+        } else {
+            session.run(*line);
+        }
+        output.flush();
+    }
+    output.flush();
+    return done;
+}
+
+int print(const std::string& text) {
+    BufferedOutput output;
+    output.line(text);
+    output.flush();
+    return done;
+}
+
+int run(const Options& options) {
+    if (options.wish == Options::Wish::help) return print(std::string(kUsage));
+    if (options.wish == Options::Wish::version) return print("orvo-console " ORVO_VERSION);
+    if (options.file && options.file != "-") return runFile(*options.file, options.atComplaint);
+    if (!options.file && ::isatty(STDIN_FILENO) != 0) return talk();
+    return runScript(STDIN_FILENO, "<stdin>", options.atComplaint);
+}
+
+void complain(const std::string& text) { std::fprintf(stderr, "orvo-console: %s\n", text.c_str()); }
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(readOptions({argv + std::min(argc, 1), argv + argc}));
+    } catch (const WrongUsage& wrong) {
+        complain(wrong.text + "\nTry orvo-console --help.");
+    } catch (const std::exception& failure) {
+        complain(failure.what());
+    }
+    return cannotRun;
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Orvo::Console {
+
+/// What a script does after a "?".
+enum class AtComplaint : std::uint8_t { stop, goOn };
+
+/// What the command line asks for.
+struct Options {
+    enum class Wish : std::uint8_t { run, help, version };
+
+    Wish wish = Wish::run;
+    AtComplaint atComplaint = AtComplaint::stop;
+    std::optional<std::string> file{};  ///< none: standard input
+};
+
+/// What is thrown for a command line that can't be understood.
+struct WrongUsage {
+    std::string text;
+};
+
+Options readOptions(std::span<const char* const> arguments);
+
+extern const std::string_view kUsage;
+
+}  // namespace Orvo::Console

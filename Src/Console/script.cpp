@@ -1,0 +1,52 @@
+#include "Console/script.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+namespace Orvo::Console {
+namespace {
+
+// Some editors begin a file with it.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// In characters from 1.
+std::ptrdiff_t columnAt(std::string_view line, std::size_t offset) {
+    const std::string_view before = line.substr(0, offset);
+    return 1 + std::count_if(before.begin(), before.end(), [](char byte) {
+               return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80;
+           });
+}
+
+}  // namespace
+
+Script::Script(Bench& bench, const Grammar& grammar, int descriptor, std::string name,
+               AtComplaint atComplaint)
+    : session_(bench, grammar, [this](std::string_view line) { output_.line(line); }),
+      lines_(descriptor, [this] { output_.flush(); }),
+      name_(std::move(name)),
+      atComplaint_(atComplaint) {}
+
+bool Script::run() {
+    bool isUnderstood = true;
+    while (!session_.hasQuit() && (isUnderstood || atComplaint_ == AtComplaint::goOn)) {
+        auto line = lines_.next();
+        if (!line) break;
+        if (++lineNumber_ == 1 && line->starts_with(kByteOrderMark)) {
+            line->remove_prefix(kByteOrderMark.size());
+        }
+        const auto complaint = session_.run(*line);
+        if (complaint) report(*complaint, *line);
+        isUnderstood = isUnderstood && !complaint;
+    }
+    output_.flush();
+    return isUnderstood;
+}
+
+void Script::report(const Misunderstood& complaint, std::string_view line) {
+    output_.flush();
+    std::fprintf(stderr, "%s:%zu:%td: %s\n", name_.c_str(), lineNumber_,
+                 columnAt(line, complaint.offset), complaint.text.c_str());
+}
+
+}  // namespace Orvo::Console

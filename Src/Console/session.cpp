@@ -1,0 +1,131 @@
+#include "Console/session.h"
+
+#include <utility>
+
+#include "Console/text_of.h"
+
+namespace Orvo::Console {
+namespace {
+
+// How deep handlers may start one another before the script runs out of stack space.
+constexpr std::size_t kDeepest = 64;
+
+Error outOfStackSpace() { return {28, "Out of stack space"}; }
+
+std::string failure(const Error& error) { return "! " + textOf(error); }
+
+}  // namespace
+
+// A command while it runs, with the first error that it left to nobody.
+class Session::Frame {
+public:
+    explicit Frame(Session& session)
+        : session_(session), outer_(std::exchange(session.frame_, this)) {}
+    ~Frame() { session_.frame_ = outer_; }
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
+
+    std::optional<Error> error;  // NOLINT(*-non-private-member-variables-in-classes)
+
+private:
+    Session& session_;
+    Frame* outer_;
+};
+
+Session::Session(Bench& bench, const Grammar& grammar, Output output)
+    : bench_(bench), grammar_(grammar), output_(std::move(output)) {
+    bench_.tell(this);
+}
+
+std::optional<Misunderstood> Session::run(std::string_view text) {
+    firstComplaint_.reset();
+    try {
+        const std::vector<Word> words = split(text);
+        if (!words.empty()) perform(parse(words, grammar_));
+    } catch (const Misunderstood& misunderstood) {
+        line(complaint(misunderstood));
+    }
+    return std::exchange(firstComplaint_, std::nullopt);
+}
+
+void Session::row(std::string_view text) { line("- " + std::string(text)); }
+
+void Session::remember(const Event& event, Action action) {
+    handlersOf(event).push_back(std::make_shared<Handler>(Handler{std::move(action)}));
+}
+
+void Session::forget(const Event& event) {
+    for (const auto& handler : handlersOf(event)) handler->isForgotten = true;
+    handlersOf(event).clear();
+}
+
+void Session::renew() {
+    for (const Event& event : kEvents) forget(event);
+    answers_.clear();
+    bench_.renew();
+}
+
+void Session::raised(const Event& event, std::span<const Value> arguments) {
+    std::string text = "event " + std::string(event.name);
+    for (const Value& argument : arguments) text += ' ' + textOf(argument);
+    line(text);
+    if (depth_ == 0) isExhausted_ = false;
+    const Handlers handlers = handlersOf(event);
+    ++depth_;
+    for (const auto& handler : handlers) {
+        if (!handler->isForgotten && !isExhausted_) perform(handler->action);
+    }
+    --depth_;
+}
+
+void Session::failed(const Error& error) {
+    if (frame_ != nullptr && !frame_->error) frame_->error = error;
+}
+
+std::optional<String> Session::asked(const Widgets::Question& question) {
+    std::optional<String> answer;
+    if (!answers_.empty()) {
+        answer = std::move(answers_.front());
+        answers_.pop_front();
+    }
+    const std::string typed = answer ? textOf(StringView(*answer)) : "cancel";
+    line("prompt " + textOf(StringView(question.text)) + ' ' + textOf(StringView(question.title)) +
+         " -> " + typed);
+    return answer;
+}
+
+void Session::perform(const Action& action) {
+    if (depth_ > kDeepest) {
+        isExhausted_ = true;
+        return line(failure(outOfStackSpace()));
+    }
+    line(closingLine(action));
+}
+
+std::string Session::closingLine(const Action& action) {
+    Frame frame(*this);
+    try {
+        std::string closing = action(*this);
+        return frame.error ? failure(*frame.error) : closing;
+    } catch (const Error& error) {
+        return failure(error);
+    } catch (const Misunderstood& misunderstood) {
+        return complaint(misunderstood);
+    }
+}
+
+std::string Session::complaint(const Misunderstood& misunderstood) {
+    if (!firstComplaint_) firstComplaint_ = misunderstood;
+    return "? " + misunderstood.text;
+}
+
+void Session::line(std::string_view text) {
+    if (depth_ == 0) return output_(text);
+    output_(std::string(2 * depth_, ' ').append(text));
+}
+
+Session::Handlers& Session::handlersOf(const Event& event) {
+    return handlers_[static_cast<std::size_t>(&event - kEvents.data())];
+}
+
+}  // namespace Orvo::Console

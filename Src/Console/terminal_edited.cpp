@@ -1,0 +1,58 @@
+#include <array>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+#include <editline/readline.h>
+
+#include "Console/terminal.h"
+
+namespace Orvo::Console {
+namespace {
+
+// The library calls back without a context.
+Completer completerInUse = nullptr;  // NOLINT(*-avoid-non-const-global-variables)
+
+struct Free {
+    void operator()(char* text) const { std::free(text); }  // NOLINT(*-no-malloc)
+};
+
+// Gives out the candidates one by one; `state` is 0 for the first.
+char* nextCandidate(const char* typed, int state) {
+    static std::vector<std::string> candidates;
+    static std::size_t next = 0;
+    if (state == 0) {
+        const std::string_view line(rl_line_buffer);
+        const auto start = static_cast<std::size_t>(rl_point) - std::strlen(typed);
+        candidates = completerInUse(line.substr(0, start), typed);
+        next = 0;
+    }
+    return next < candidates.size() ? strdup(candidates[next++].c_str()) : nullptr;
+}
+
+char** complete(const char* typed, int /*start*/, int /*end*/) {
+    // Without candidates of ours the library would offer names of files.
+    rl_attempted_completion_over = 1;
+    return rl_completion_matches(typed, nextCandidate);
+}
+
+}  // namespace
+
+Terminal::Terminal(Completer completer) {
+    static std::array blanks{' ', '\t', '\0'};
+    completerInUse = completer;
+    rl_basic_word_break_characters = blanks.data();
+    rl_attempted_completion_function = complete;
+    using_history();
+}
+
+std::optional<std::string> Terminal::ask(const std::string& prompt) {
+    const std::unique_ptr<char, Free> line(readline(prompt.c_str()));
+    if (!line) return std::nullopt;
+    if (*line != '\0') add_history(line.get());
+    return line.get();
+}
+
+}  // namespace Orvo::Console
