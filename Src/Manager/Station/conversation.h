@@ -1,0 +1,57 @@
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "Manager/Station/event_log.h"
+#include "Manager/Station/observed_panel.h"
+
+namespace Orvo::Manager {
+
+/// Whether the steady flow of measured values, traces and repetitions is written down too.
+enum class Detail { changes, everything };
+
+/// Writes down what the panel raises and what its host answers, in the panel script's words. What
+/// the host does while it handles an event stands under it, indented.
+///
+/// With Detail::changes, what the host says of its own accord is left out when it is a measured
+/// value, a trace or a question, or when it only repeats what the host said last.
+class Conversation final : public CallListener {
+public:
+    explicit Conversation(EventLog& log) : log_(log) {}
+
+    void setDetail(Detail detail) { detail_ = detail; }
+    [[nodiscard]] Detail detail() const { return detail_; }
+
+    /// The time since the start, which a comment tells after every pause of a second.
+    void setTime(std::chrono::milliseconds time) { time_ = time; }
+
+    /// An event is raised; everything up to `handled` is the answer to it.
+    void raised(Long dispatchId, std::span<const Value> arguments);
+    void handled();
+
+    void called(const Member& member, std::span<const Value> arguments) override;
+    void returned(const Member& member, const Value& result) override;
+    void failed(const Member& member, const Error& error) override;
+    /// An error that no caller waits for.
+    void failed(const Error& error);
+
+private:
+    bool isWorthALine(const Member& member, std::span<const Value> arguments);
+    bool isNews(const Member& member, std::span<const Value> arguments);
+    void write(const std::string& text);
+
+    EventLog& log_;
+    Detail detail_ = Detail::changes;
+    std::chrono::milliseconds time_{0};
+    std::chrono::milliseconds timeOfLastLine_{0};
+    int depth_ = 0;
+    bool isLastCallShown_ = false;
+    // The last value by member and index.
+    std::map<std::pair<int, std::string>, std::string> lastSaid_;
+};
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+namespace Orvo::Manager {
+
+/// What is connected to the panel. It calls the panel's members and hears its events, from the
+/// time it is made to its end.
+class Device {
+public:
+    virtual ~Device() = default;
+    /// How a person knows it, in UTF-8: "Simulated amplifier".
+    [[nodiscard]] virtual std::string name() const = 0;
+    /// Lets time pass.
+    virtual void advance(std::chrono::milliseconds elapsed) = 0;
+    /// The time since the last word from the amplifier, or since the beginning.
+    [[nodiscard]] virtual std::chrono::milliseconds sinceLastWord() const = 0;
+};
+
+}  // namespace Orvo::Manager

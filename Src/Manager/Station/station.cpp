@@ -1,0 +1,66 @@
+#include "Manager/Station/station.h"
+
+#include <utility>
+
+namespace Orvo::Manager {
+
+Station::Station(MarvaneAssistant& panel)
+    : panel_(panel),
+      calls_(panel, *this),
+      beforeDevice_(panel.connect([this](Long dispatchId, std::span<Value> arguments) {
+          conversation_.raised(dispatchId, arguments);
+      })) {
+    connect(nullptr);
+}
+
+Station::~Station() = default;
+
+void Station::connectSimulator(std::uint32_t seed, Simulator::PowerAtStart power) {
+    disconnect();
+    connect(std::make_unique<SimulatedDevice>(panel_, calls_, seed, power));
+}
+
+void Station::disconnect() {
+    if (!isConnected()) return;
+    connect(nullptr);
+    calls_.Connected(false);
+}
+
+void Station::connect(std::unique_ptr<Device> device) {
+    device_ = std::move(device);
+    wasConnected_ |= isConnected();
+    afterDevice_ = panel_.connect([this](Long, std::span<Value>) { conversation_.handled(); });
+}
+
+Simulator::SimulatedHost* Station::simulator() const {
+    auto* device = dynamic_cast<SimulatedDevice*>(device_.get());
+    return device == nullptr ? nullptr : &device->host();
+}
+
+void Station::advance(Milliseconds elapsed) {
+    now_ += elapsed;
+    conversation_.setTime(now_);
+    if (isConnected()) device_->advance(elapsed);
+}
+
+Situation Station::situation() const {
+    if (!isConnected()) return {.connectedTo = {}, .showsOldValues = wasConnected_};
+    return {
+        .connectedTo = device_->name(), .isLinkUp = isLinkUp_, .silence = device_->sinceLastWord()};
+}
+
+void Station::called(const Member& member, std::span<const Value> arguments) {
+    conversation_.called(member, arguments);
+    traces_.note(member, arguments);
+    if (member.name == "Connected") isLinkUp_ = bool(std::get<Boolean>(arguments[0]));
+}
+
+void Station::returned(const Member& member, const Value& result) {
+    conversation_.returned(member, result);
+}
+
+void Station::failed(const Member& member, const Error& error) {
+    conversation_.failed(member, error);
+}
+
+}  // namespace Orvo::Manager

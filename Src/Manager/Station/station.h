@@ -1,0 +1,64 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include "Manager/Station/conversation.h"
+#include "Manager/Station/event_log.h"
+#include "Manager/Station/observed_panel.h"
+#include "Manager/Station/simulated_device.h"
+#include "Manager/Station/status_text.h"
+#include "Manager/Station/traces.h"
+
+namespace Orvo::Manager {
+
+/// A panel with what is connected to it, and with what is known of what passes between them. Its
+/// time is its owner's to advance. It must end before the panel.
+class Station final : private CallListener {
+public:
+    using Milliseconds = std::chrono::milliseconds;
+
+    explicit Station(MarvaneAssistant& panel);
+    ~Station() override;
+
+    /// One device at a time: what was connected is disconnected first.
+    void connectSimulator(std::uint32_t seed,
+                          Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
+    /// The panel shows that the link is down, and for the rest what it showed last.
+    void disconnect();
+    [[nodiscard]] bool isConnected() const { return device_ != nullptr; }
+    /// Null when it isn't what is connected.
+    [[nodiscard]] Simulator::SimulatedHost* simulator() const;
+
+    void advance(Milliseconds elapsed);
+    [[nodiscard]] Situation situation() const;
+
+    /// The panel for whoever plays the host beside the device; what is called here is listened to.
+    [[nodiscard]] MarvaneAssistantInterface& panel() { return calls_; }
+    [[nodiscard]] Conversation& conversation() { return conversation_; }
+    [[nodiscard]] EventLog& log() { return log_; }
+    [[nodiscard]] const Traces& traces() const { return traces_; }
+
+private:
+    void connect(std::unique_ptr<Device> device);
+
+    void called(const Member& member, std::span<const Value> arguments) override;
+    void returned(const Member& member, const Value& result) override;
+    void failed(const Member& member, const Error& error) override;
+
+    MarvaneAssistant& panel_;
+    ObservedPanel calls_;
+    EventLog log_;
+    Conversation conversation_{log_};
+    Traces traces_;
+    bool isLinkUp_ = false;
+    bool wasConnected_ = false;
+    Milliseconds now_{0};
+
+    // An event goes to the sinks in this order: what the device does lies between the other two.
+    Connection beforeDevice_;
+    std::unique_ptr<Device> device_;
+    Connection afterDevice_;
+};
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,85 @@
+#include "Manager/Station/traces.h"
+
+#include <charconv>
+#include <cstddef>
+
+#include "Orvo/generator/grid.h"
+#include "Orvo/generator/trace.h"
+#include "Orvo/layout/layout.h"
+#include "Runtime/Store/stored_widgets.h"
+
+namespace Orvo::Manager {
+namespace {
+
+constexpr Integer kFirstDrawn = 1;
+constexpr std::string_view kDrawTrace = "DisegnaFormaDOnda";
+constexpr std::string_view kDrawGrid = "DisegnaAssi";
+
+constexpr bool isChannel(Integer channel) { return channel >= 1 && channel <= kChannels; }
+constexpr std::size_t at(Integer channel) { return static_cast<std::size_t>(channel - 1); }
+
+constexpr auto kSurfaceHeight = static_cast<float>(
+    Layout::describe(Layout::pictureRef("Picture1").id).place.height / Layout::kTwipsPerPixel -
+    2 * Runtime::kPictureBorder);
+
+// Volts at a height on the surface, by two marks of its scale.
+class Scale {
+public:
+    Scale() {
+        const auto marks = gridMarks(kSurfaceHeight);
+        top_ = marks.at(0);
+        perPixel_ = double(marks.at(1).volts - top_.volts) / (marks.at(1).y - top_.y);
+    }
+    [[nodiscard]] double volts(double y) const { return top_.volts + (y - top_.y) * perPixel_; }
+
+private:
+    GridMark top_;
+    double perPixel_ = 0;
+};
+
+std::string withTwoDecimals(double value) {
+    std::array<char, 64> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                   std::chars_format::fixed, 2);
+    return {digits.data(), end.ptr};
+}
+
+// The samples from index 1 on.
+std::span<const Integer> drawn(const IntegerArray& samples) {
+    if (samples.dimensionCount() != 1 || samples.bounds().lower > kFirstDrawn) return {};
+    const auto skipped = static_cast<std::size_t>(kFirstDrawn - samples.bounds().lower);
+    return samples.elements().subspan(std::min(skipped, samples.elements().size()));
+}
+
+}  // namespace
+
+void Traces::note(const Member& member, std::span<const Value> arguments) {
+    if (member.name == kDrawTrace) {
+        draw(std::get<Integer>(arguments[0]), std::get<IntegerArray>(arguments[1]));
+    } else if (member.name == kDrawGrid) {
+        const auto channel = std::get<Integer>(arguments[0]);
+        draw(isChannel(channel) ? channel : Integer{1}, {});
+    }
+}
+
+void Traces::draw(Integer channel, const IntegerArray& samples) {
+    if (isChannel(channel)) samples_[at(channel)] = samples;
+}
+
+const IntegerArray& Traces::samples(Integer channel) const { return samples_[at(channel)]; }
+bool Traces::has(Integer channel) const { return !drawn(samples(channel)).empty(); }
+
+std::string traceCsv(const IntegerArray& samples) {
+    const auto values = drawn(samples);
+    const auto upper = static_cast<Long>(values.size());
+    const auto points = tracePoints(values, upper, 1, kSurfaceHeight);
+    const Scale scale;
+    std::string csv = "index,sample (counts),level (V)\n";
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        csv += std::to_string(i + 1) + ',' + std::to_string(values[i]) + ',' +
+               withTwoDecimals(scale.volts(double(points[i].y))) + '\n';
+    }
+    return csv;
+}
+
+}  // namespace Orvo::Manager

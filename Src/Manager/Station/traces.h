@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+
+#include "Orvo/core/member_table.h"
+
+namespace Orvo::Manager {
+
+constexpr Integer kChannels = 4;
+
+/// The samples that each channel's scope shows at this moment, as the host sent them.
+class Traces {
+public:
+    /// A host's call, of any member.
+    void note(const Member& member, std::span<const Value> arguments);
+
+    /// No dimension when the scope shows no trace. Channels are 1 to 4.
+    [[nodiscard]] const IntegerArray& samples(Integer channel) const;
+    [[nodiscard]] bool has(Integer channel) const;
+
+private:
+    void draw(Integer channel, const IntegerArray& samples);
+
+    std::array<IntegerArray, kChannels> samples_;
+};
+
+/// The samples as comma-separated values, a line each below a header with the units; the level is
+/// read off the scope's own scale, in volts. Numbers have a point in every locale. Samples that a
+/// scope doesn't draw, those with index 0 and below, are left out.
+std::string traceCsv(const IntegerArray& samples);
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDockWidget>
+#include <QPlainTextEdit>
+
+#include "Manager/Station/event_log.h"
+
+namespace Orvo::Manager {
+
+/// The event view: the log's lines beside the panel, the newest in sight unless a person has
+/// scrolled up.
+class EventDock final : public QDockWidget {
+public:
+    /// The actions stand above the lines.
+    EventDock(const EventLog& log, const QList<QAction*>& actions, QWidget* parent = nullptr);
+
+    /// Brings what is new in the log to the screen.
+    void refresh();
+    [[nodiscard]] QString text() const { return lines_->toPlainText(); }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void append();
+    void showNewest();
+
+    const EventLog& log_;
+    QPlainTextEdit* lines_;
+    std::uint64_t shown_ = 0;
+    std::uint64_t clears_ = 0;
+};
+
+}  // namespace Orvo::Manager

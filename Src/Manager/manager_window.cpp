@@ -1,0 +1,116 @@
+#include "Manager/manager_window.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QLayout>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+
+#include "Manager/zoom.h"
+#include "Orvo/core/marvane_assistant.h"
+#include "Runtime/Ports/machine_platform.h"
+#include "Runtime/Store/store.h"
+
+namespace Orvo::Manager {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kTick = 25ms;
+constexpr auto kRefresh = 200ms;
+// A machine that was asleep doesn't live through the night in the morning.
+constexpr qint64 kLongestTick = 1000;
+
+}  // namespace
+
+ManagerWindow::ManagerWindow(const Options& options)
+    : options_(options),
+      panel_(new Window::PanelWidget(Runtime::machinePlatform(), this)),
+      station_(panel_->panel()),
+      zoomArea_(new ZoomArea(*panel_, this)),
+      statusLine_(new StatusLine),
+      saver_(new FileSaver(*this)),
+      menus_(new Menus(*this)),
+      events_(new EventDock(station_.log(), menus_->eventActions(), this)) {
+    layOut();
+    connect(saver_, &FileSaver::said, statusLine_, &StatusLine::say);
+    panel_->panel().setErrorHandler([this](const Error& error) {
+        station_.conversation().failed(error);
+        statusLine_->say("Error " + QString::number(error.number()) + ": " + error.what());
+    });
+    setReadOnly(options.isReadOnly);
+    selectTab(options.tab);
+    zoomArea_->setZoom(options.zoom);
+    startClock();
+    refresh();
+}
+
+ManagerWindow::~ManagerWindow() { panel_->panel().setErrorHandler({}); }
+
+void ManagerWindow::layOut() {
+    setCentralWidget(zoomArea_);
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addPermanentWidget(statusLine_, 1);
+    statusBar()->setMinimumWidth(statusLine_->minimumWidth());
+    addDockWidget(Qt::RightDockWidgetArea, events_);
+    events_->hide();
+    connect(events_, &QDockWidget::topLevelChanged, this, &ManagerWindow::adaptSize);
+}
+
+void ManagerWindow::startClock() {
+    connect(&tick_, &QTimer::timeout, this, &ManagerWindow::advance);
+    connect(&refreshes_, &QTimer::timeout, this, &ManagerWindow::refresh);
+    tick_.setTimerType(Qt::PreciseTimer);
+    sinceTick_.start();
+    tick_.start(kTick);
+    refreshes_.start(kRefresh);
+}
+
+void ManagerWindow::advance() {
+    const qint64 elapsed = std::min(sinceTick_.restart(), kLongestTick);
+    station_.advance(std::chrono::milliseconds(elapsed));
+}
+
+void ManagerWindow::open() {
+    adaptSize();
+    show();
+    if (options_.isFullScreen) setFullScreen(true);
+}
+
+void ManagerWindow::refresh() {
+    menus_->refresh();
+    events_->refresh();
+    statusLine_->showReadOnly(isReadOnly());
+    statusLine_->showZoom(zoomArea_->zoom());
+    showSituation();
+}
+
+void ManagerWindow::showSituation() {
+    const StatusText text = statusText(station_.situation());
+    statusLine_->showText(text);
+    const QString title = QString::fromStdString(text.connection) + " - Marvane Manager";
+    setWindowTitle(text.isStale ? "Old values: " + title : title);
+}
+
+// As large as the panel needs, where the screen has room for it.
+void ManagerWindow::adaptSize() {
+    if (isFullScreen() || isMaximized()) return;
+    layout()->activate();
+    const QSize frame = frameGeometry().size() - size();
+    resize(sizeHint().boundedTo(screen()->availableSize() - frame));
+}
+
+void ManagerWindow::closeEvent(QCloseEvent* event) {
+    tick_.stop();
+    refreshes_.stop();
+    // Nobody sits in front any more: what the panel still asks is cancelled at once.
+    panel_->store().promptWith(nullptr);
+    for (QDialog* dialog : findChildren<QDialog*>()) dialog->reject();
+    QMainWindow::closeEvent(event);
+}
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QTimer>
+
+#include "Manager/Station/station.h"
+#include "Manager/event_dock.h"
+#include "Manager/file_saver.h"
+#include "Manager/menus.h"
+#include "Manager/options.h"
+#include "Manager/status_line.h"
+#include "Manager/zoom_area.h"
+#include "Runtime/Qt/panel_widget.h"
+
+namespace Orvo::Manager {
+
+/// The program's window: the panel, what is connected to it, and what a person can do beside the
+/// panel.
+class ManagerWindow final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit ManagerWindow(const Options& options = {});
+    ~ManagerWindow() override;
+
+    /// Shows the window, as the options say.
+    void open();
+
+    [[nodiscard]] Window::PanelWidget& panelWidget() { return *panel_; }
+    [[nodiscard]] Station& station() { return station_; }
+
+    /// Brings menus, status line and event view up to date; that happens by itself several times
+    /// a second.
+    void refresh();
+
+    // What the menus command.
+
+    /// With the seed of the options, from the beginning.
+    void connectSimulator(Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
+    void connectNothing();
+    void runQuickTest();
+    void setFault(Simulator::Fault fault, bool isOn);
+    void setReadOnly(bool isReadOnly);
+    [[nodiscard]] bool isReadOnly() const;
+
+    void savePicture();
+    void saveScopePicture(Integer channel);
+    void saveTrace(Integer channel);
+    void copyMessageLog();
+    void saveMessageLog();
+
+    /// Tabs are counted from 1. One that is disabled doesn't come to the front.
+    void selectTab(int tab);
+    void setZoom(int percent);
+    void zoomIn();
+    void zoomOut();
+    void setFullScreen(bool isFullScreen);
+
+    void showEvents(bool isShown);
+    [[nodiscard]] bool areEventsShown() const { return !events_->isHidden(); }
+    void setEventDetail(Detail detail) { station_.conversation().setDetail(detail); }
+    void copyEvents();
+    void clearEvents() { station_.log().clear(); }
+
+    void showShortcuts();
+    void showAbout();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void layOut();
+    void startClock();
+    void advance();
+    void adaptSize();
+    void showSituation();
+    [[nodiscard]] QString messageLog() const;
+
+    const Options options_;
+    Window::PanelWidget* const panel_;
+    Station station_;
+    ZoomArea* const zoomArea_;
+    StatusLine* const statusLine_;
+    FileSaver* const saver_;
+    Menus* const menus_;
+    EventDock* const events_;
+    QTimer tick_;
+    QTimer refreshes_;
+    QElapsedTimer sinceTick_;
+    int zoomBefore_ = 100;
+};
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,124 @@
+#include "Manager/options.h"
+
+#include <limits>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include "Manager/zoom.h"
+#include "Orvo/layout/common_tab.h"
+
+namespace Orvo::Manager {
+namespace {
+
+// A value that isn't what it should be.
+struct Refused {
+    QString reason;
+};
+
+class CommandLine {
+public:
+    CommandLine() {
+        parser_.setApplicationDescription(
+            "Shows the front panel of a four-channel power amplifier, and a simulated amplifier "
+            "behind it.");
+        parser_.addOptions({help_, version_, simulate_, zoom_, tab_, readOnly_, fullScreen_});
+    }
+
+    std::variant<Options, Ending> parse(const QStringList& words);
+
+private:
+    Options options() const;
+    template <class Number>
+    Number numberOf(const QCommandLineOption& option, Number lowest, Number highest) const;
+    QString helpText() const;
+
+    const QCommandLineOption help_{{"h", "help"}, "Shows this help and ends."};
+    const QCommandLineOption version_{{"v", "version"}, "Shows the version and ends."};
+    const QCommandLineOption simulate_{
+        "simulate",
+        "Connects the simulated amplifier, which is the default. The same seed gives the same "
+        "life; it is 1 unless given.",
+        "SEED", "1"};
+    const QCommandLineOption zoom_{
+        "zoom",
+        QString("The panel's size in percent, %1 to %2.").arg(kSmallestZoom).arg(kLargestZoom),
+        "PERCENT", "100"};
+    const QCommandLineOption tab_{
+        "tab", "The tab in front: 1 is Common, 2 is Ch1 + Ch2, 3 is Ch3 + Ch4.", "NUMBER", "1"};
+    const QCommandLineOption readOnly_{"read-only", "Shows everything, operates nothing."};
+    const QCommandLineOption fullScreen_{"fullscreen", "Fills the screen."};
+    QCommandLineParser parser_;
+};
+
+// The parser knows values that must be given, or none.
+QStringList withSeed(QStringList words) {
+    words.replaceInStrings(QRegularExpression("^--simulate$"), "--simulate=1");
+    return words;
+}
+
+QString nameOf(const QCommandLineOption& option) { return "--" + option.names().last(); }
+
+Ending wrongUsage(const QString& reason) {
+    const QString program = QCoreApplication::applicationName();
+    return {kWrongUsage, program + ": " + reason + "\nTry \"" + program + " --help\"."};
+}
+
+std::variant<Options, Ending> CommandLine::parse(const QStringList& words) {
+    if (!parser_.parse(withSeed(words))) return wrongUsage(parser_.errorText());
+    if (parser_.isSet(help_)) return Ending{0, helpText()};
+    if (parser_.isSet(version_)) {
+        return Ending{
+            0, QCoreApplication::applicationName() + ' ' + QCoreApplication::applicationVersion()};
+    }
+    const QStringList loose = parser_.positionalArguments();
+    if (!loose.isEmpty()) {
+        return wrongUsage("\"" + loose.first() + "\" is not expected here. Options begin with " +
+                          "\"--\", and a seed is written --simulate=7.");
+    }
+    try {
+        return options();
+    } catch (const Refused& refused) {
+        return wrongUsage(refused.reason);
+    }
+}
+
+Options CommandLine::options() const {
+    constexpr int kTabs = int(Layout::kTabCaptions.size());
+    return {
+        .zoom = numberOf(zoom_, kSmallestZoom, kLargestZoom),
+        .tab = numberOf(tab_, 1, kTabs),
+        .seed = numberOf<std::uint32_t>(simulate_, 0, std::numeric_limits<std::uint32_t>::max()),
+        .isReadOnly = parser_.isSet(readOnly_),
+        .isFullScreen = parser_.isSet(fullScreen_)};
+}
+
+template <class Number>
+Number CommandLine::numberOf(const QCommandLineOption& option, Number lowest,
+                             Number highest) const {
+    const QString text = parser_.value(option);
+    bool isNumber = false;
+    const qint64 number = text.toLongLong(&isNumber);
+    if (isNumber && number >= lowest && number <= highest) return Number(number);
+    throw Refused{QString("%1 takes a whole number from %2 to %3, not \"%4\".")
+                      .arg(nameOf(option))
+                      .arg(lowest)
+                      .arg(highest)
+                      .arg(text)};
+}
+
+QString CommandLine::helpText() const {
+    QString text = parser_.helpText();
+    text.replace("--simulate <SEED>", "--simulate[=SEED]");
+    text.replace(QCoreApplication::arguments().first(), QCoreApplication::applicationName());
+    return text.trimmed();
+}
+
+}  // namespace
+
+std::variant<Options, Ending> parseCommandLine(const QStringList& words) {
+    return CommandLine().parse(words);
+}
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <variant>
+
+#include <QString>
+#include <QStringList>
+
+namespace Orvo::Manager {
+
+/// How a person wants the program to start.
+struct Options {
+    int zoom = 100;  ///< percent
+    int tab = 1;     ///< counted from 1
+    std::uint32_t seed = 1;
+    bool isReadOnly = false;
+    bool isFullScreen = false;
+};
+
+/// There is nothing to start: the program says this and ends. Status 0 is an answer for standard
+/// output, any other an error for standard error.
+struct Ending {
+    int status = 0;
+    QString text;
+};
+
+constexpr int kWrongUsage = 2;
+
+/// The command line, the program's name being its first word. Needs the application object.
+std::variant<Options, Ending> parseCommandLine(const QStringList& words);
+
+}  // namespace Orvo::Manager

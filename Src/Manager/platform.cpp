@@ -1,0 +1,33 @@
+#include "Manager/platform.h"
+
+#include <QGuiApplication>
+
+namespace Orvo::Manager {
+namespace {
+
+constexpr auto kVariable = "QT_QPA_PLATFORM";
+
+bool isGiven(const char* variable) { return !qEnvironmentVariableIsEmpty(variable); }
+
+}  // namespace
+
+// With both, which one is better depends on the desktop, and the toolkit knows its ways.
+QByteArray platformFor(bool hasX, bool hasWayland) {
+    if (hasX && hasWayland) return {};
+    if (hasX) return "xcb;offscreen";
+    if (hasWayland) return "wayland;offscreen";
+    return "offscreen";
+}
+
+void choosePlatform() {
+    if (isGiven(kVariable)) return;
+    const QByteArray platform = platformFor(isGiven("DISPLAY"), isGiven("WAYLAND_DISPLAY"));
+    if (!platform.isEmpty()) qputenv(kVariable, platform);
+}
+
+bool hasDisplay() {
+    const QString platform = QGuiApplication::platformName();
+    return platform != "offscreen" && platform != "minimal";
+}
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+#include <QMainWindow>
+#include <QString>
+
+namespace Orvo::Manager {
+
+/// What a key does.
+struct Shortcut {
+    QString group;  ///< the menu, or "Panel"
+    QString what;
+    QString keys;
+};
+
+/// Those of the window's menus, in their order, and of the buttons of its panel.
+std::vector<Shortcut> shortcutsOf(const QMainWindow& window, const QWidget& panel);
+
+/// Shows them all.
+void openShortcutsDialog(QMainWindow& window, const QWidget& panel);
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLabel>
+#include <QTimer>
+#include <QWidget>
+
+#include "Manager/Station/status_text.h"
+
+namespace Orvo::Manager {
+
+/// The line below the panel: link, what is connected, how old its last word is, and for a few
+/// seconds what has just been done.
+class StatusLine final : public QWidget {
+public:
+    explicit StatusLine(QWidget* parent = nullptr);
+
+    void showText(const StatusText& text);
+    void showReadOnly(bool isReadOnly) { readOnly_->setVisible(isReadOnly); }
+    void showZoom(int percent) { zoom_->setText(QString::number(percent) + " %"); }
+    void say(const QString& message);
+
+private:
+    QLabel* addLabel(const QString& name);
+
+    QLabel* link_;
+    QLabel* connection_;
+    QLabel* lastWord_;
+    QLabel* message_;
+    QLabel* readOnly_;
+    QLabel* zoom_;
+    QTimer messageEnds_;
+};
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,132 @@
+#include "Runtime/Qt/buttons.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "Runtime/Qt/chrome.h"
+
+namespace Orvo::Window {
+
+CommandButton::CommandButton(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : PressButton(store, id, parent) {}
+
+// The caption isn't Qt's text, which would replace the shortcut by its own.
+void CommandButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor back = toQt(looks().back);
+    if (!isEnabled()) back = QColor::fromHsv(back.hue(), back.saturation() / 4, 140);
+    if (isEnabled() && underMouse() && !isDown()) back = back.lighter(108);
+    drawFace(painter, rect(), back, isDown() ? Face::sunken : Face::raised, zoom());
+
+    const int sunk = isDown() ? qRound(zoom()) : 0;
+    painter.setPen(isEnabled() ? toQt(looks().text) : QColor(84, 84, 84));
+    painter.drawText(rect().translated(sunk, sunk), Qt::AlignCenter | Qt::TextWordWrap,
+                     toQt(description().caption));
+    drawFocus(painter, *this, zoom());
+}
+
+OptionButton::OptionButton(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : PressButton(store, id, parent) {
+    setCheckable(true);
+}
+
+void OptionButton::refresh() {
+    PressButton::refresh();
+    setChecked(stored<Runtime::StoredOption>().value);
+    setFocusPolicy(isTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+bool OptionButton::isTabStop() const {
+    if (stored<Runtime::StoredOption>().value) return true;
+    for (WidgetId other = 0; other < Layout::kWidgetCount; ++other) {
+        const auto& widget = Layout::describe(other);
+        if (widget.container != description().container || widget.style.kind != looks().kind)
+            continue;
+        if (store().get<Runtime::StoredOption>(other).state().value) return false;
+    }
+    return true;
+}
+
+void OptionButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPointF centre = QRectF(rect()).center();
+    const double radius = 5.2 * zoom();
+    const QColor ring = isEnabled() ? QColor(225, 230, 238) : QColor(125, 130, 138);
+    painter.setPen(QPen(ring, 1.2 * zoom()));
+    painter.setBrush(isDown() || (isEnabled() && underMouse()) ? QColor(52, 60, 76)
+                                                               : QColor(20, 24, 32));
+    painter.drawEllipse(centre, radius, radius);
+    if (isChecked()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isEnabled() ? toQt(looks().text) : ring);
+        painter.drawEllipse(centre, radius / 2, radius / 2);
+    }
+    if (!hasFocus()) return;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(64, 156, 255), 1.5 * zoom()));
+    painter.drawEllipse(centre, radius, radius);
+}
+
+void OptionButton::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            return selectNext(-1);
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            return selectNext(+1);
+        default:
+            return PressButton::keyPressEvent(event);
+    }
+}
+
+// The focus goes first: selecting may be the end of all this.
+void OptionButton::selectNext(int step) {
+    constexpr int kCount = int(Layout::kWidgetCount);
+    for (int i = 1; i < kCount; ++i) {
+        const auto next = WidgetId((id() + kCount + step * i) % kCount);
+        const auto& widget = Layout::describe(next);
+        if (widget.container != description().container || widget.style.kind != looks().kind)
+            continue;
+        if (!store().acceptsInput(next)) continue;
+        const auto name = QLatin1StringView(widget.name.data(), qsizetype(widget.name.size()));
+        if (auto* button = parentWidget()->findChild<QWidget*>(name))
+            button->setFocus(Qt::TabFocusReason);
+        return input().activate(next);
+    }
+}
+
+PowerButton::PowerButton(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : PressButton(store, id, parent) {
+    setCheckable(true);
+}
+
+void PowerButton::refresh() {
+    PressButton::refresh();
+    setChecked(stored<Runtime::StoredCheck>().value == Widgets::CheckValue::checked);
+}
+
+void PowerButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool isSunken = isChecked() != isDown();
+    const QColor body = isEnabled() && underMouse() ? QColor(86, 92, 102) : QColor(74, 80, 90);
+    drawFace(painter, rect(), body, isSunken ? Face::sunken : Face::raised, zoom());
+
+    const QColor dark = isEnabled() ? QColor(172, 180, 192) : QColor(115, 120, 128);
+    const QColor symbol = isChecked() && isEnabled() ? QColor(70, 235, 90) : dark;
+    const double sunk = isSunken ? zoom() : 0;
+    const QPointF centre = QRectF(rect()).center() + QPointF(0, sunk);
+    const double radius = 0.24 * height();
+    painter.setPen(QPen(symbol, 2 * zoom(), Qt::SolidLine, Qt::RoundCap));
+    painter.setBrush(Qt::NoBrush);
+    // Degrees are counted in sixteenths: a ring open at the top.
+    painter.drawArc(QRectF(centre - QPointF(radius, radius), centre + QPointF(radius, radius)),
+                    (90 + 40) * 16, (360 - 80) * 16);
+    painter.drawLine(centre - QPointF(0, radius * 1.15), centre - QPointF(0, radius * 0.2));
+    drawFocus(painter, *this, zoom());
+}
+
+}  // namespace Orvo::Window

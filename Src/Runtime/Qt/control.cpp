@@ -1,0 +1,51 @@
+#include "Runtime/Qt/control.h"
+
+#include "Runtime/Qt/buttons.h"
+#include "Runtime/Qt/combo_box.h"
+#include "Runtime/Qt/hints.h"
+#include "Runtime/Qt/log_view.h"
+#include "Runtime/Qt/scope.h"
+#include "Runtime/Qt/slider.h"
+
+namespace Orvo::Window {
+
+Control::Control(QWidget& self, Runtime::Store& store, WidgetId id)
+    : self_(self), store_(store), id_(id) {
+    const std::string_view name = Layout::describe(id).name;
+    self.setObjectName(QString::fromLatin1(name.data(), qsizetype(name.size())));
+    describeTo(self, id);
+}
+
+void Control::layOut(const Scale& scale) {
+    zoom_ = scale.zoom();
+    self_.setGeometry(scale.rect(id_));
+    self_.setFont(toQt(looks().font, zoom_));
+}
+
+void Control::refresh() {
+    self_.setVisible(store_.isShown(id_));
+    self_.setEnabled(store_.acceptsInput(id_));
+}
+
+Control* makeControl(Runtime::Store& store, WidgetId id, QWidget* parent) {
+    switch (Layout::describe(id).style.kind) {
+        case Layout::Kind::button:
+            return new CommandButton(store, id, parent);
+        case Layout::Kind::option:
+            return new OptionButton(store, id, parent);
+        case Layout::Kind::check:
+            return new PowerButton(store, id, parent);
+        case Layout::Kind::combo:
+            return new ComboBox(store, id, parent);
+        case Layout::Kind::list:
+            return new LogView(store, id, parent);
+        case Layout::Kind::slider:
+            return new Slider(store, id, parent);
+        case Layout::Kind::picture:
+            return new Scope(store, id, parent);
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace Orvo::Window

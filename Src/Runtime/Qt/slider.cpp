@@ -1,0 +1,153 @@
+#include "Runtime/Qt/slider.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include "Runtime/Qt/chrome.h"
+#include "Runtime/Qt/mouse.h"
+
+namespace Orvo::Window {
+
+namespace {
+
+constexpr double kCapHeight = 11;  // pixels at zoom 1
+constexpr double kCapInset = 3.5;  // pixels at zoom 1
+constexpr double kEnd = 3;         // pixels at zoom 1
+constexpr int kTicks = 7;
+
+}  // namespace
+
+Slider::Slider(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : QWidget(parent), Control(*this, store, id) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void Slider::refresh() {
+    Control::refresh();
+    if (!stored<Runtime::StoredSlider>().isHeld) grip_.reset();
+    update();
+}
+
+SliderTrack Slider::track() const {
+    const double margin = (kEnd + kCapHeight / 2) * zoom();
+    return {margin, height() - 2 * margin, stored<Runtime::StoredSlider>().maximum, zeroOf(id())};
+}
+
+QRectF Slider::cap() const {
+    const double inset = kCapInset * zoom();
+    const double tall = kCapHeight * zoom();
+    return {inset, track().capAt(position()) - tall / 2, width() - 2 * inset, tall};
+}
+
+// What takes the mouse away, such as a prompt that opens, also takes the release.
+bool Slider::event(QEvent* event) {
+    const auto type = event->type();
+    if (type == QEvent::Hide || type == QEvent::WindowBlocked || type == QEvent::UngrabMouse)
+        letGo();
+    return QWidget::event(event);
+}
+
+void Slider::letGo() {
+    grip_.reset();
+    input().drop(id());
+}
+
+void Slider::mousePressEvent(QMouseEvent* event) {
+    const auto button = mouseButtonOf(*event);
+    if (!button) return event->ignore();
+    const double y = event->position().y();
+    const QRectF grabbed = cap();
+    input().press(id(), *button);
+    if (event->button() != Qt::LeftButton) return;
+    const bool isOnCap = y >= grabbed.top() && y <= grabbed.bottom();
+    if (isOnCap) grip_ = y - grabbed.center().y();
+    if (!isOnCap) moveUp(y < grabbed.top() ? track().page() : -track().page());
+}
+
+void Slider::mouseMoveEvent(QMouseEvent* event) {
+    if (grip_) input().move(id(), track().positionAt(event->position().y() - *grip_));
+}
+
+void Slider::mouseReleaseEvent(QMouseEvent* event) {
+    const auto button = mouseButtonOf(*event);
+    if (!button) return event->ignore();
+    if (event->button() == Qt::LeftButton) grip_.reset();
+    const bool isInside = rect().contains(event->position().toPoint());
+    input().release(
+        id(), *button,
+        isInside ? Runtime::ReleasedWhere::onWidget : Runtime::ReleasedWhere::elsewhere);
+}
+
+void Slider::moveUp(int steps) { input().move(id(), position() + track().upwards(steps)); }
+
+void Slider::keyPressEvent(QKeyEvent* event) {
+    const int range = track().maximum;
+    switch (event->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Right:
+            return moveUp(1);
+        case Qt::Key_Down:
+        case Qt::Key_Left:
+            return moveUp(-1);
+        case Qt::Key_PageUp:
+            return moveUp(track().page());
+        case Qt::Key_PageDown:
+            return moveUp(-track().page());
+        case Qt::Key_Home:
+            return moveUp(-range);
+        case Qt::Key_End:
+            return moveUp(range);
+        default:
+            return event->ignore();
+    }
+}
+
+void Slider::wheelEvent(QWheelEvent* event) {
+    if (!hasFocus()) return event->ignore();
+    wheel_ += event->angleDelta().y();
+    const int steps = wheel_ / QWheelEvent::DefaultDeltasPerStep;
+    wheel_ %= QWheelEvent::DefaultDeltasPerStep;
+    event->accept();
+    if (steps != 0) moveUp(steps);
+}
+
+void Slider::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(14, 16, 20));
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawScale(painter);
+    drawCap(painter);
+    drawFocus(painter, *this, zoom());
+}
+
+void Slider::drawScale(QPainter& painter) const {
+    const SliderTrack along = track();
+    const double centre = width() / 2.0;
+    const double reach = width() / 2.0 - kCapInset * zoom();
+    painter.setPen(QPen(isEnabled() ? QColor(120, 128, 140) : QColor(66, 70, 78), zoom()));
+    for (int tick = 0; tick < kTicks; ++tick) {
+        const double y = qRound(along.top + along.length * tick / (kTicks - 1)) + 0.5;
+        const double length = reach * (tick == kTicks / 2 ? 1.0 : 0.7);
+        painter.drawLine(QPointF(centre - length, y), QPointF(centre + length, y));
+    }
+    const double half = 2.5 * zoom();
+    painter.setPen(QPen(QColor(70, 76, 86), zoom()));
+    painter.setBrush(QColor(0, 0, 0));
+    painter.drawRoundedRect(
+        QRectF(centre - half, along.top - half, 2 * half, along.length + 2 * half), half, half);
+}
+
+void Slider::drawCap(QPainter& painter) const {
+    const QRectF place = cap();
+    QColor colour = isEnabled() ? QColor(196, 201, 208) : QColor(104, 108, 114);
+    if (isEnabled() && underMouse()) colour = colour.lighter(108);
+    drawFace(painter, place, colour, grip_ ? Face::sunken : Face::raised, zoom());
+    painter.setPen(QPen(QColor(30, 34, 40), 1.4 * zoom()));
+    const double y = place.center().y();
+    painter.drawLine(QPointF(place.left() + 2 * zoom(), y), QPointF(place.right() - 2 * zoom(), y));
+}
+
+}  // namespace Orvo::Window

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+
+#include "Runtime/Qt/control.h"
+#include "Runtime/Qt/slider_track.h"
+
+namespace Orvo::Window {
+
+/// A vertical fader. Dragging moves the cap, a click beside it steps towards the pointer by a tenth
+/// of the range: a stray click must not send the volume to its end.
+class Slider final : public QWidget, public Control {
+public:
+    Slider(Runtime::Store& store, WidgetId id, QWidget* parent);
+    void refresh() override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    [[nodiscard]] SliderTrack track() const;
+    [[nodiscard]] QRectF cap() const;
+    [[nodiscard]] int position() const { return stored<Runtime::StoredSlider>().shown(); }
+    void moveUp(int steps);
+    void letGo();
+    void drawScale(QPainter& painter) const;
+    void drawCap(QPainter& painter) const;
+
+    std::optional<double> grip_;  // while dragged: the pointer's distance from the cap's middle
+    int wheel_ = 0;               // eighths of a degree that are no whole step yet
+};
+
+}  // namespace Orvo::Window

@@ -1,0 +1,78 @@
+#include <gtest/gtest.h>
+
+#include "Manager/options.h"
+#include "Manager/platform.h"
+
+namespace Orvo::Manager {
+namespace {
+
+std::variant<Options, Ending> parse(const QStringList& words) {
+    return parseCommandLine(QStringList("marvane-manager") + words);
+}
+
+TEST(CommandLine, SaysHowToStart) {
+    const auto options = std::get<Options>(parse(
+        {"--zoom", "150", "--tab=2", "--read-only", "--fullscreen", "--simulate=4294967295"}));
+    EXPECT_EQ(options.zoom, 150);
+    EXPECT_EQ(options.tab, 2);
+    EXPECT_TRUE(options.isReadOnly);
+    EXPECT_TRUE(options.isFullScreen);
+    EXPECT_EQ(options.seed, 4294967295U);
+}
+
+TEST(CommandLine, TakesTheSimulatorWithoutASeed) {
+    EXPECT_EQ(std::get<Options>(parse({"--simulate", "--tab", "3"})).seed, 1U);
+}
+
+TEST(CommandLine, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
+    struct Row {
+        QStringList words;
+        const char* says;
+    };
+    const Row rows[] = {
+        {{"--zoom", "49"}, "--zoom takes a whole number from 50 to 800, not \"49\""},
+        {{"--zoom", "801"}, "from 50 to 800, not \"801\""},
+        {{"--zoom", "big"}, "from 50 to 800, not \"big\""},
+        {{"--zoom="}, "from 50 to 800, not \"\""},
+        {{"--zoom"}, "zoom"},
+        {{"--tab", "0"}, "--tab takes a whole number from 1 to 3, not \"0\""},
+        {{"--tab", "4"}, "from 1 to 3, not \"4\""},
+        {{"--simulate=-1"}, "--simulate takes a whole number from 0 to 4294967295, not \"-1\""},
+        {{"--simulate=4294967296"}, "not \"4294967296\""},
+        {{"--simulate", "7"}, "--simulate=7"},
+        {{"--read-only=1"}, "read-only"},
+        {{"--loud"}, "loud"},
+        {{"file"}, "\"file\" is not expected"},
+    };
+    for (const Row& row : rows) {
+        const auto parsed = parse(row.words);
+        const auto* ending = std::get_if<Ending>(&parsed);
+        ASSERT_NE(ending, nullptr) << row.says;
+        EXPECT_EQ(ending->status, 2) << row.says;
+        EXPECT_TRUE(ending->text.contains(row.says)) << ending->text.toStdString();
+        EXPECT_TRUE(ending->text.contains("--help")) << row.says;
+    }
+}
+
+TEST(CommandLine, HelpNamesEveryOption) {
+    const auto help = std::get<Ending>(parse({"--zoom", "150", "--help"}));
+    EXPECT_EQ(help.status, 0);
+    for (const char* option : {"--help", "--version", "--simulate[=SEED]", "--zoom <PERCENT>",
+                               "--tab <NUMBER>", "--read-only", "--fullscreen"}) {
+        EXPECT_TRUE(help.text.contains(option)) << option;
+    }
+}
+
+TEST(CommandLine, VersionIsOneLine) {
+    EXPECT_EQ(std::get<Ending>(parse({"--version"})).text, "marvane-manager 1.2.3");
+}
+
+TEST(Platform, ADisplayThatCannotBeReachedLeavesOffscreen) {
+    EXPECT_EQ(platformFor(false, false), "offscreen");
+    EXPECT_EQ(platformFor(true, false), "xcb;offscreen");
+    EXPECT_EQ(platformFor(false, true), "wayland;offscreen");
+    EXPECT_EQ(platformFor(true, true), "");
+}
+
+}  // namespace
+}  // namespace Orvo::Manager

@@ -1,0 +1,144 @@
+#include "Manager/Station/conversation.h"
+
+#include <gtest/gtest.h>
+
+#include "Support/bench.h"
+
+namespace Orvo::Manager {
+namespace {
+
+using namespace std::chrono_literals;
+using Log = std::deque<std::string>;
+
+class ConversationTest : public Tests::PanelTest {
+protected:
+    EventLog log_;
+    Conversation conversation_{log_};
+    ObservedPanel host_{panel_, conversation_};
+    Connection events_ = panel_.connect([this](Long id, std::span<Value> arguments) {
+        conversation_.raised(id, arguments);
+        if (answer_) answer_();
+        conversation_.handled();
+    });
+    std::function<void()> answer_;
+};
+
+// Notes the calls of members, and what came of them.
+class Notes final : public CallListener {
+public:
+    void called(const Member& member, std::span<const Value> arguments) override {
+        number = member.number;
+        values.assign(arguments.begin(), arguments.end());
+    }
+    void returned(const Member& member, const Value& value) override {
+        isReturned = member.number == number;
+        result = value;
+    }
+    void failed(const Member&, const Error& what) override { error = what.number(); }
+
+    int number = 0;
+    std::vector<Value> values;
+    Value result;
+    bool isReturned = false;
+    Long error = 0;
+};
+
+using ObservedPanelTest = Tests::PanelTest;
+
+TEST_F(ObservedPanelTest, HandsEveryMemberOnAndTellsOfIt) {
+    for (const Member& member : kMembers) {
+        Notes notes;
+        ObservedPanel observed(panel_, notes);
+        std::vector<Value> arguments;
+        for (const Parameter& parameter : member.parameters()) {
+            arguments.push_back(convert(
+                Value(), parameter.type == ValueType::array ? ValueType::integer : parameter.type));
+            if (parameter.type == ValueType::array) arguments.back() = IntegerArray(1, {1, 2});
+        }
+        if (member.name == "DisegnaFormaDOnda") arguments[0] = Integer{1};
+        member.call(observed, arguments);
+        EXPECT_EQ(notes.number, member.number) << member.name;
+        EXPECT_EQ(notes.values, arguments) << member.name;
+        EXPECT_TRUE(notes.isReturned) << member.name;
+        EXPECT_EQ(typeOf(notes.result), member.result) << member.name;
+    }
+}
+
+TEST_F(ObservedPanelTest, LetsErrorsThroughAndTellsOfThem) {
+    Notes notes;
+    ObservedPanel observed(panel_, notes);
+    EXPECT_EQ(Tests::errorOf([&] { observed.VNPower(1, -5); }), 13);
+    EXPECT_EQ(notes.error, 13);
+}
+
+TEST_F(ConversationTest, AnswersStandUnderTheirEvent) {
+    answer_ = [this] {
+        host_.Mute(1, true);
+        host_.Mute(Integer{1});
+    };
+    person_.click(Tests::id("Command12"));
+    host_.Protection(2, true);
+    EXPECT_EQ(log_.lines(), Log({"event Mute 1", "  let Mute 1 -1", "  get Mute 1", "  = -1",
+                                 "let Protection 2 -1"}));
+}
+
+TEST_F(ConversationTest, LeavesOutTheSteadyFlowUnlessAskedForEverything) {
+    const auto flow = [this] {
+        host_.VPPower(1, 48);
+        host_.DisegnaFormaDOnda(1, {1, {7, 8}});
+        host_.PowerOn();
+    };
+    flow();
+    EXPECT_EQ(log_.lines(), Log());
+    conversation_.setDetail(Detail::everything);
+    flow();
+    EXPECT_EQ(log_.lines(),
+              Log({"let VPPower 1 48", "call DisegnaFormaDOnda 1 [7 8]", "get PowerOn", "= 0"}));
+}
+
+TEST_F(ConversationTest, LeavesOutWhatOnlyRepeatsTheLastValueOfTheSameIndex) {
+    for (const bool isOn : {true, true, false}) host_.Signal(1, isOn);
+    host_.Signal(2, false);
+    host_.ClearTest();
+    host_.ClearTest();
+    EXPECT_EQ(log_.lines(), Log({"let Signal 1 -1", "let Signal 1 0", "let Signal 2 0",
+                                 "call ClearTest", "call ClearTest"}));
+}
+
+TEST_F(ConversationTest, ShowsErrors) {
+    EXPECT_THROW(host_.chkTest(6, true), Error);
+    EXPECT_EQ(log_.lines(),
+              Log({"let chkTest 6 -1", "! 340 Control array element '6' doesn't exist"}));
+}
+
+TEST_F(ConversationTest, TellsTheTimeAfterAPause) {
+    host_.Connected(true);
+    conversation_.setTime(999ms);
+    host_.PowerOn(true);
+    conversation_.setTime(12'345ms);
+    host_.PowerOn(false);
+    EXPECT_EQ(log_.lines(),
+              Log({"let Connected -1", "let PowerOn -1", "# 12.3 s", "let PowerOn 0"}));
+}
+
+TEST(EventLog, KeepsTheLastLines) {
+    EventLog log;
+    for (std::size_t i = 0; i < EventLog::kMostLines + 2; ++i) log.add(std::to_string(i));
+    EXPECT_EQ(log.lines().size(), EventLog::kMostLines);
+    EXPECT_EQ(log.lines().front(), "2");
+    EXPECT_EQ(log.added(), EventLog::kMostLines + 2);
+}
+
+TEST(EventLog, CutsALongLineBetweenCharacters) {
+    EventLog log;
+    std::string line;
+    while (line.size() < 5000) line += "€";
+    log.add(line);
+    const std::string& cut = log.lines().front();
+    EXPECT_LE(cut.size(), EventLog::kLongestLine);
+    EXPECT_EQ(cut.size() % 3, 0U);
+    EXPECT_TRUE(cut.ends_with("€…"));
+}
+
+}  // namespace
+}  // namespace Orvo::Manager

@@ -1,0 +1,185 @@
+#include <functional>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QTabBar>
+#include <QWheelEvent>
+
+#include "window_fixture.h"
+
+namespace Orvo::Window {
+namespace {
+
+using Gesture = std::function<void(QWidget&)>;
+
+Gesture click(Qt::MouseButton button) {
+    return [=](QWidget& widget) { QTest::mouseClick(&widget, button); };
+}
+
+Gesture key(Qt::Key code, Qt::KeyboardModifiers modifiers = {}) {
+    return [=](QWidget& widget) {
+        widget.setFocus();
+        QTest::keyClick(&widget, code, modifiers);
+    };
+}
+
+Gesture wheel(bool isFocused) {
+    return [=](QWidget& widget) {
+        if (isFocused) widget.setFocus();
+        QWheelEvent event({5, 5}, {5, 5}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&widget, &event);
+    };
+}
+
+void pressAndReleaseBeside(QWidget& widget) {
+    QTest::mousePress(&widget, Qt::LeftButton);
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {-20, -20});
+}
+
+void dragUp(QWidget& widget) {
+    const QPoint top(widget.width() / 2, 9);  // where a volume slider's cap is at first
+    QTest::mousePress(&widget, Qt::LeftButton, {}, top);
+    QTest::mouseMove(&widget, top + QPoint(0, 40));
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, top + QPoint(0, 40));
+}
+
+void clickGroove(QWidget& widget) {
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, {widget.width() / 2, widget.height() - 4});
+}
+
+struct InputRow {
+    const char* label;
+    int tab;
+    const char* widget;
+    Gesture gesture;
+    const char* heard;
+};
+
+class InputTest : public WindowTest {};
+
+TEST_F(InputTest, WhatAPersonDoesReachesThePanel) {
+    const InputRow rows[] = {
+        {"left click", 0, "cmdOnOff", click(Qt::LeftButton), "cmdOnOff click, cmdOnOff release"},
+        {"right click", 0, "cmdOnOff", click(Qt::RightButton), "cmdOnOff release"},
+        {"middle click", 1, "chkOnOff12", click(Qt::MiddleButton), "chkOnOff12 release"},
+        {"dragged off", 1, "chkOnOff12", pressAndReleaseBeside, "chkOnOff12 release"},
+        {"click on a check box", 1, "chkOnOff12", click(Qt::LeftButton),
+         "chkOnOff12 click, chkOnOff12 release"},
+        {"click on an option", 1, "optN1", click(Qt::LeftButton), "optN1 click, optN1 release"},
+        {"space", 0, "cmdOnOff", key(Qt::Key_Space), "cmdOnOff key32, cmdOnOff click"},
+        {"enter", 0, "cmdOnOff", key(Qt::Key_Return), "cmdOnOff key13, cmdOnOff click"},
+        {"space on a check box", 1, "chkOnOff12", key(Qt::Key_Space),
+         "chkOnOff12 key32, chkOnOff12 click"},
+        {"enter on a check box", 1, "chkOnOff12", key(Qt::Key_Return), ""},
+        {"arrow to the next option", 1, "optN1", key(Qt::Key_Down), "optP2 click"},
+        {"arrow round the end", 1, "optN2", key(Qt::Key_Down), "optP1 click"},
+        {"arrow back", 1, "optN2", key(Qt::Key_Up), "optP2 click"},
+        {"shortcut", 0, "List1", key(Qt::Key_P, Qt::AltModifier), "cmdOnOff click"},
+        {"shortcut of the tab in front", 2, "cmdGo34", key(Qt::Key_S, Qt::AltModifier),
+         "cmdGo34 click"},
+        {"Ctrl+R in the log", 0, "List1", key(Qt::Key_R, Qt::ControlModifier), "List1 key18"},
+        {"arrow in the log", 0, "List1", key(Qt::Key_Down), ""},
+        {"key in a disabled combo", 0, "Combo1", key(Qt::Key_5), ""},
+        {"slider dragged", 1, "ZelvinSlider1", dragUp,
+         "ZelvinSlider1 change, ZelvinSlider1 release"},
+        {"click on the groove", 1, "ZelvinSlider1", clickGroove,
+         "ZelvinSlider1 change, ZelvinSlider1 release"},
+        {"down on a slider", 1, "ZelvinSlider1", key(Qt::Key_Down), "ZelvinSlider1 change"},
+        {"up at the loudest", 1, "ZelvinSlider1", key(Qt::Key_Up), ""},
+        {"wheel without the focus", 1, "ZelvinSlider3", wheel(false), ""},
+        {"wheel with the focus", 1, "ZelvinSlider3", wheel(true), "ZelvinSlider3 change"},
+        {"wheel over the tabs", 0, "SSTab1", wheel(true), ""},
+    };
+    for (const InputRow& row : rows) {
+        SCOPED_TRACE(row.label);
+        toTab(row.tab);
+        store_[Widgets::SliderRef{idOf("ZelvinSlider1")}].setPosition(0);
+        settle();
+        panel_.heard.clear();
+        row.gesture(control(row.widget));
+        EXPECT_EQ(panel_.heard, row.heard);
+        control("SSTab1").setFocus();
+    }
+}
+
+TEST_F(InputTest, ACheckBoxFlipsOncePerClick) {
+    toTab(1);
+    auto& power = control<QAbstractButton>("chkOnOff12");
+    QTest::mouseClick(&power, Qt::LeftButton);
+    settle();
+    EXPECT_TRUE(power.isChecked());
+    pressAndReleaseBeside(power);
+    settle();
+    EXPECT_TRUE(power.isChecked());
+    power.click();
+    settle();
+    EXPECT_FALSE(power.isChecked());
+}
+
+TEST_F(InputTest, ASliderIsHeldWhileItsButtonIsDown) {
+    toTab(1);
+    QWidget& slider = control("ZelvinSlider1");
+    const auto isHeld = [&] {
+        return store_.get<Runtime::StoredSlider>(idOf("ZelvinSlider1")).state().isHeld;
+    };
+    QTest::mousePress(&slider, Qt::LeftButton);
+    EXPECT_TRUE(isHeld());
+    QTest::mouseRelease(&slider, Qt::LeftButton, {}, {-50, 500});
+    EXPECT_FALSE(isHeld());
+    QTest::mousePress(&slider, Qt::LeftButton);
+    toTab(0);
+    EXPECT_FALSE(isHeld()) << "nobody would tell the release";
+}
+
+TEST_F(InputTest, UpIsMoreOnEverySlider) {
+    toTab(1);
+    struct {
+        const char* name;
+        Integer before, after;
+    } rows[] = {{"ZelvinSlider1", 15, 14}, {"ZelvinSlider3", 15, 16}};
+    for (const auto& row : rows) {
+        auto& slider = store_[Widgets::SliderRef{idOf(row.name)}];
+        slider.setPosition(row.before);
+        key(Qt::Key_Up)(control(row.name));
+        EXPECT_EQ(slider.position(), row.after) << row.name;
+    }
+}
+
+TEST_F(InputTest, AComboTakesWhatTheStoreTakes) {
+    auto& combo = store_[Widgets::ComboRef{idOf("Combo1")}];
+    for (const char16_t* item : {u"1", u"2", u"12"}) combo.addItem(item);
+    combo.setEnabled(true);
+    settle();
+    auto& box = control<QComboBox>("Combo1");
+    key(Qt::Key_2)(box);
+    EXPECT_EQ(combo.text(), u"12");
+    panel_.discardsKeys = true;
+    key(Qt::Key_5)(box);
+    EXPECT_EQ(combo.text(), u"12");
+    panel_.heard.clear();
+    settle();
+    key(Qt::Key_Up)(box);
+    settle();
+    EXPECT_EQ(panel_.heard, "Combo1 click");
+    EXPECT_EQ(combo.text(), u"2");
+}
+
+TEST_F(InputTest, TabsFollowMouseKeysAndTheStoresWord) {
+    auto& tabs = control<QTabBar>("SSTab1");
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+    settle();
+    EXPECT_TRUE(control("cmdGo12").isVisible());
+    key(Qt::Key_Right)(tabs);
+    settle();
+    EXPECT_TRUE(control("cmdGo34").isVisible());
+    store_[Widgets::TabsRef{0}].setTabEnabled(2, false);
+    settle();
+    EXPECT_EQ(tabs.currentIndex(), 1);
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(2).center());
+    EXPECT_EQ(tabs.currentIndex(), 1);
+    key(Qt::Key_Tab, Qt::ControlModifier)(tabs);
+    EXPECT_EQ(tabs.currentIndex(), 0) << "past the disabled tab";
+}
+
+}  // namespace
+}  // namespace Orvo::Window

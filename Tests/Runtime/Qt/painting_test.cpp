@@ -1,0 +1,113 @@
+#include <QPaintEvent>
+
+#include "window_fixture.h"
+
+namespace Orvo::Window {
+namespace {
+
+/// Adds up what is painted, in pixels of the front.
+class PaintWatch final : public QObject {
+public:
+    explicit PaintWatch(QWidget& front) : front_(front) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        auto* widget = qobject_cast<QWidget*>(object);
+        if (event->type() == QEvent::Paint && widget != nullptr && widget != &front_ &&
+            front_.isAncestorOf(widget)) {
+            ++events;
+            const QRegion& region = static_cast<QPaintEvent*>(event)->region();
+            painted += region.translated(widget->mapTo(&front_, QPoint()));
+        }
+        return false;
+    }
+
+    QRegion painted;
+    int events = 0;
+
+private:
+    QWidget& front_;
+};
+
+class PaintingTest : public WindowTest {
+protected:
+    PaintingTest() {
+        toTab(1);
+        for (int i = 0; i < 5; ++i) QTest::qWait(20);
+    }
+
+    QRegion paintedBy(const std::function<void()>& change) {
+        PaintWatch watch(front_);
+        change();
+        QTest::qWait(60);
+        return watch.painted;
+    }
+};
+
+TEST_F(PaintingTest, OnlyWhatChangedIsPainted) {
+    const QRegion lamp = paintedBy(
+        [&] { store_[Widgets::ShapeRef{idOf("Shape6")}].setFillStyle(Widgets::FillStyle::solid); });
+    const QRect place = Scale(1).rect(idOf("Shape6"));
+    EXPECT_TRUE(lamp.boundingRect().contains(place));
+    EXPECT_TRUE(place.adjusted(-8, -8, 8, 8).contains(lamp.boundingRect())) << "the glow, no more";
+}
+
+TEST_F(PaintingTest, NothingChangedPaintsNothing) {
+    const auto nothing = paintedBy([&] {
+        store_[Widgets::ShapeRef{idOf("Shape6")}].setFillStyle(Widgets::FillStyle::transparent);
+        store_[Widgets::LabelRef{idOf("lblConnected12")}].setCaption(u"Connected");
+    });
+    EXPECT_TRUE(nothing.isEmpty());
+}
+
+TEST_F(PaintingTest, WhatIsBehindAnotherTabIsNotPainted) {
+    const auto behind = paintedBy([&] { store_[Widgets::DigitRef{idOf("LED9")}].setDigit(8); });
+    EXPECT_TRUE(behind.isEmpty());
+}
+
+TEST_F(PaintingTest, ManyWritesArePaintedOnce) {
+    PaintWatch watch(front_);
+    for (int i = 0; i < 10'000; ++i) {
+        store_[Widgets::DigitRef{idOf("LED1")}].setDigit(Integer(i % 10));
+        store_[Widgets::SliderRef{idOf("ZelvinSlider1")}].setPosition(Integer(i % 30));
+    }
+    QTest::qWait(60);
+    EXPECT_EQ(watch.events, 2) << "the page and the slider";
+}
+
+TEST_F(PaintingTest, TextThatRanOverItsPlaceIsWipedAway) {
+    auto& result = store_[Widgets::LabelRef{idOf("lblConnected12")}];
+    result.setCaption(u"Disconnected, and for long");
+    settle();
+    const QRect wide = paintedBy([&] { result.setCaption(u"x"); }).boundingRect();
+    EXPECT_GT(wide.width(), 2 * Scale(1).rect(idOf("lblConnected12")).width());
+}
+
+TEST_F(PaintingTest, AScopeShowsWhatIsDrawnInItsOwnUnits) {
+    auto& surface = store_[Widgets::PictureRef{idOf("Picture1")}];
+    for (const double zoom : {1.0, 2.0}) {
+        front_.setZoom(zoom);
+        surface.clear();
+        surface.line({0, 50}, {195, 50}, rgb(0, 255, 0));
+        settle();
+        const QImage image = control("Picture1").grab().toImage();
+        const auto pixel = [&](double x, double y) {
+            return image.pixelColor(int((2 + x + 0.5) * zoom), int((2 + y + 0.5) * zoom));
+        };
+        EXPECT_EQ(pixel(0, 50), QColor(0, 255, 0));
+        EXPECT_EQ(pixel(194, 50), QColor(0, 255, 0));
+        EXPECT_EQ(pixel(100, 48), QColor(0, 0, 0));
+    }
+}
+
+TEST_F(PaintingTest, LitIsBrightAndDarkIsDark) {
+    const auto colourOf = [&](const char* lamp) {
+        return front_.grab().toImage().pixelColor(Scale(1).rect(idOf(lamp)).center());
+    };
+    EXPECT_LT(colourOf("Shape6").green(), 120);
+    store_[Widgets::ShapeRef{idOf("Shape6")}].setFillStyle(Widgets::FillStyle::solid);
+    settle();
+    EXPECT_GT(colourOf("Shape6").green(), 240);
+}
+
+}  // namespace
+}  // namespace Orvo::Window
