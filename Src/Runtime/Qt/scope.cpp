@@ -71,13 +71,9 @@ void Scope::draw(QPainter& painter, const Runtime::DrawnText& text) const {
     painter.drawText(QPointF(text.at.x * across_, baseline), toQt(text.text));
 }
 
-// Segment by segment: as one outline, a dense trace takes Qt a hundred times as long.
 void Scope::draw(QPainter& painter, const Runtime::DrawnPolyline& polyline) const {
-    const QPolygonF trace = traceOnScreen(polyline.points, across_, down_);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(
-        QPen(toQt(polyline.colour), qMax(1.0, 1.2 * down_), Qt::SolidLine, Qt::RoundCap));
-    for (qsizetype i = 1; i < trace.size(); ++i) painter.drawLine(trace[i - 1], trace[i]);
+    painter.setPen(toQt(polyline.colour));
+    drawLines(painter, traceLines(polyline.points, across_, down_), qMax(1, qRound(down_)));
 }
 
 }  // namespace Orvo::Window

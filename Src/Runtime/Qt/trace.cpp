@@ -1,41 +1,63 @@
 #include "Runtime/Qt/trace.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+
+#include <QPainter>
 
 namespace Orvo::Window {
 
 namespace {
 
-// In the order of a column's points: first, then the two extremes as they came, then last.
-void appendColumn(QPolygonF& trace, const QPointF* first, const QPointF* end) {
-    const auto byHeight = [](const QPointF& a, const QPointF& b) { return a.y() < b.y(); };
-    const auto [low, high] = std::minmax_element(first, end, byHeight);
-    const std::array kept{first, std::min(low, high), std::max(low, high), end - 1};
-    const QPointF* previous = nullptr;
-    for (const QPointF* point : kept) {
-        if (point != previous) trace.append(*point);
-        previous = point;
-    }
+QPoint pixelOf(Widgets::Point point, double across, double down) {
+    return {int(std::floor(double(point.x) * across)), int(std::floor(double(point.y) * down))};
 }
+
+// What the points of one pixel column cover.
+struct Column {
+    explicit Column(QPoint first) : x(first.x()), top(first.y()), bottom(first.y()) {}
+
+    void cover(int y) {
+        top = std::min(top, y);
+        bottom = std::max(bottom, y);
+    }
+    [[nodiscard]] QLine line() const { return {x, top, x, bottom}; }
+
+    int x;
+    int top;
+    int bottom;
+};
 
 }  // namespace
 
-QPolygonF traceOnScreen(std::span<const Widgets::Point> points, double across, double down) {
-    QPolygonF all;
-    QPolygonF trace;
-    all.reserve(qsizetype(points.size()));
-    for (const auto& [x, y] : points) all.append({double(x) * across, double(y) * down});
-    const QPointF* const end = all.constData() + all.size();
-    for (const QPointF* first = all.constData(); first != end;) {
-        const double column = std::floor(first->x());
-        const auto isBeyond = [&](const QPointF& point) { return std::floor(point.x()) != column; };
-        const QPointF* next = std::find_if(first, end, isBeyond);
-        appendColumn(trace, first, next);
-        first = next;
+QList<QLine> traceLines(std::span<const Widgets::Point> points, double across, double down) {
+    QList<QLine> lines;
+    if (points.empty()) return lines;
+    QPoint last = pixelOf(points.front(), across, down);
+    Column column(last);
+    for (const Widgets::Point& point : points.subspan(1)) {
+        const QPoint next = pixelOf(point, across, down);
+        if (next.x() != column.x) {
+            lines.append(column.line());
+            lines.append(QLine(last, next));
+            column = Column(next);
+        }
+        column.cover(next.y());
+        last = next;
     }
-    return trace;
+    lines.append(column.line());
+    return lines;
+}
+
+void drawLines(QPainter& painter, const QList<QLine>& lines, int thickness) {
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (int right = 0; right < thickness; ++right) {
+        for (int below = 0; below < thickness; ++below) {
+            painter.translate(right, below);
+            painter.drawLines(lines);
+            painter.translate(-right, -below);
+        }
+    }
 }
 
 }  // namespace Orvo::Window
