@@ -180,6 +180,7 @@ void SimulatedHost::disconnect() {
     isConnected_ = false;
     dataDue_.reset();
     quickTest_.abandon();
+    if (powerAsked_) panel_.PowerOn(panel_.PowerOn());
     powerAsked_.reset();
     sliders_.giveUp();
     panel_.Connected(false);

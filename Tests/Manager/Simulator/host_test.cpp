@@ -65,6 +65,10 @@ TEST_F(HostTest, PutsAPowerButtonBackThatCameToNothing) {
     EXPECT_TRUE(isChecked("chkOnOff12"));
     pass(500);
     EXPECT_FALSE(isChecked("chkOnOff12"));
+    person_.click(id("chkOnOff12"));
+    host_->set(Fault::linkLoss, true);
+    pass(1000);
+    EXPECT_FALSE(isChecked("chkOnOff12"));
 }
 
 TEST_F(HostTest, DoesNotFlipThePowerButtonsToAndFro) {
