@@ -5,8 +5,9 @@
 root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd -P)
 
 declare -A packages_for=(
-    # A build without libcups2-dev knows no print servers.
-    [build]="g++ cmake ninja-build libcups2-dev"
+    # A build without libcups2-dev knows no print servers, one without libedit-dev
+    # no line editing.
+    [build]="g++ cmake ninja-build libcups2-dev libedit-dev"
     # libgl-dev because Qt's own CMake package asks for it; the fonts because
     # an offscreen window would show no text without any.
     [window]="qt6-base-dev libgl-dev fonts-dejavu-core fonts-liberation"
