@@ -1,7 +1,6 @@
 #include "Runtime/Qt/trace.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <QPainter>
 
@@ -9,8 +8,14 @@ namespace Orvo::Window {
 
 namespace {
 
+// std::floor is a function call wherever the compiler may not count on a newer processor.
+int floorOf(double value) {
+    const int towardsZero = int(value);
+    return value < towardsZero ? towardsZero - 1 : towardsZero;
+}
+
 QPoint pixelOf(Widgets::Point point, double across, double down) {
-    return {int(std::floor(double(point.x) * across)), int(std::floor(double(point.y) * down))};
+    return {floorOf(double(point.x) * across), floorOf(double(point.y) * down)};
 }
 
 // What the points of one pixel column cover.
