@@ -19,11 +19,15 @@ Widgets::WidgetId id(std::string_view name) {
     return found.value_or(0);
 }
 
+std::string lineOf(Long dispatchId, std::span<const Value> arguments) {
+    std::string line(kEvents[static_cast<std::size_t>(dispatchId - 1)].name);
+    for (const Value& argument : arguments) line += ' ' + textOf(argument);
+    return line;
+}
+
 PanelTest::PanelTest() {
     connection_ = panel_.connect([this](Long dispatchId, std::span<Value> arguments) {
-        std::string line(kEvents[static_cast<std::size_t>(dispatchId - 1)].name);
-        for (const Value& argument : arguments) line += ' ' + textOf(argument);
-        lines_.push_back(line);
+        lines_.push_back(lineOf(dispatchId, arguments));
     });
     panel_.setErrorHandler([this](const Error& error) {
         lines_.push_back("! " + std::to_string(error.number()) + ' ' + error.description());

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <ostream>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,9 @@ std::unique_ptr<Bench> makeBench();
 
 /// The widget of a name, which must exist.
 Widgets::WidgetId id(std::string_view name);
+
+/// An event as a line: "WaveForm 1 1 2".
+std::string lineOf(Long dispatchId, std::span<const Value> arguments);
 
 /// A panel, and what it raised and reported, as lines: "Mute 1", "! 6 Overflow".
 class PanelTest : public testing::Test {

@@ -27,8 +27,9 @@ public:
     virtual String LPSTRtoSTRING(Long lngPointer) = 0;
 
     /// Lists the ports of a print server ("" is this machine) into the panel's port table and
-    /// returns their number; what the enumeration reports, normally 0, when it fails. Error 9 after
-    /// the first 101 ports, error 6 above 32768.
+    /// returns their number; what the enumeration reports, normally 0, when it fails or when the
+    /// panel was given no spooler (see Platform). Error 9 after the first 101 ports, error 6 above
+    /// 32768.
     virtual Long GetAvailablePorts(const String& ServerName) = 0;
 
     /// Empties the message log.
@@ -91,7 +92,7 @@ public:
     virtual void PowerOn(Boolean Status) = 0;
 
     /// Volume readout of a channel in dB: the first two digits of the magnitude, with a minus sign
-    /// unless it is 0. Error 6 for -32768.
+    /// unless it is 0. Error 6, whatever the channel, for -32768.
     virtual void Volume(Integer intChannel, Integer intValue) = 0;
 
     /// Puts a channel's slider where it stands for this volume in dB: position (30 - volume) / 2,
@@ -116,8 +117,10 @@ public:
 
     /// Clears a channel's oscilloscope, draws its grid and joins the samples with index 1 up to the
     /// array's upper bound over its width; 128 lies near 0 V, larger samples lie lower.
-    /// Error 5 for a channel outside 1 to 4. Error 9 for an array that isn't one-dimensional or
-    /// begins above 1, error 6 for an upper bound above 32767, both after the grid has been drawn.
+    /// Error 5 for a channel outside 1 to 4, and nothing is drawn. After the grid has been drawn:
+    /// error 9 for an array without a dimension, and for one of several dimensions or beginning
+    /// above 1 unless its upper bound is below 2; error 6 for an upper bound above 32768 or below
+    /// -32767. For 32768 the samples up to 32767 are joined before error 6.
     virtual void DisegnaFormaDOnda(Integer intNumCanale, const IntegerArray& arrSamples) = 0;
 
     /// Mute state of a channel, or of all and the amplifier-wide lamp (0). The amplifier-wide lamp
@@ -125,8 +128,9 @@ public:
     virtual void Mute(Integer intChannel, Boolean blnValue) = 0;
     virtual Boolean Mute(Integer intChannel) = 0;
 
-    /// -1 keeps a person from operating the panel; every other value lets them. The value is kept
-    /// and read back as it was written.
+    /// -1 keeps a person from changing the amplifier's state; every other value lets them. The
+    /// value is kept and read back as it was written. Asking for the internal data stays possible,
+    /// and so does the amplifier information entry behind its password.
     virtual void ReadOnly(Boolean blnValue) = 0;
     virtual Boolean ReadOnly() = 0;
 };

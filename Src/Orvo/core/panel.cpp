@@ -31,7 +31,12 @@ public:
     explicit Prompt(InputPrompt& prompt) : prompt_(prompt) {}
 
     String ask(const Question& question) override {
-        String answer = prompt_.ask(question);
+        String answer;
+        try {
+            answer = prompt_.ask(question);
+        } catch (const PromptWithdrawn&) {
+            if (!isReleased_) throw;
+        }
         if (isReleased_) throw Released{};
         return answer;
     }

@@ -5,8 +5,8 @@
 
 namespace Orvo {
 
-/// Keeps a person from operating the panel: a flag, and the enabled state of the input widgets. The
-/// displays follow the host in both modes.
+/// Keeps a person from changing the amplifier's state: a flag, and the enabled state of the input
+/// widgets. The displays follow the host in both modes.
 class ReadOnlyMode {
 public:
     explicit ReadOnlyMode(Widgets::Runtime& widgets) : widgets_(widgets) {}

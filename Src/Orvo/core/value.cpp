@@ -40,11 +40,13 @@ std::optional<Boolean> truthWord(const Value& value) {
 
 String toText(const Value& value) {
     if (const auto* text = std::get_if<String>(&value)) return *text;
+    if (const auto* number = std::get_if<double>(&value)) return plainText(*number);
     if (const auto* boolean = std::get_if<Boolean>(&value)) {
         return String(bool(*boolean) ? kTrue : kFalse);
     }
     if (typeOf(value) == ValueType::none) return {};
-    return shortestText(std::visit([](const auto& held) { return numberOf(held); }, value));
+    return decimalText(
+        roundToLong(std::visit([](const auto& held) { return numberOf(held); }, value)));
 }
 
 }  // namespace

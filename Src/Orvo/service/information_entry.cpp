@@ -11,25 +11,33 @@ using namespace Widgets;
 constexpr ButtonRef kButton = Layout::buttonRef("Command1");
 constexpr Long kPassword = 530284;
 constexpr int kTries = 2;
-constexpr Integer kControlR = 18;
 
 }  // namespace
 
 void InformationEntry::keyPressed(Integer& keyCode) {
-    if (keyCode == kControlR) start();
+    if (keyCode == kStartKey) start();
 }
 
 void InformationEntry::start() {
     if (!knowsPassword()) return;
     widgets_[kButton].setEnabled(false);
-    askAndRaise();
+    try {
+        askAndRaise();
+    } catch (const PromptWithdrawn&) {
+        // As with a serial number that is left empty: no event.
+    }
     widgets_[kButton].setEnabled(true);
 }
 
 bool InformationEntry::knowsPassword() {
-    for (int tries = 0; tries < kTries; ++tries) {
-        const String typed = prompt_.ask({.text = u"Password", .title = {}, .echo = Echo::hidden});
-        if (typed == decimalText(kPassword)) return true;
+    try {
+        for (int tries = 0; tries < kTries; ++tries) {
+            const String typed =
+                prompt_.ask({.text = u"Password", .title = {}, .echo = Echo::hidden});
+            if (typed == decimalText(kPassword)) return true;
+        }
+    } catch (const PromptWithdrawn&) {
+        // Nobody is left to try again.
     }
     return false;
 }

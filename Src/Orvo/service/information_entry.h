@@ -14,9 +14,11 @@ public:
                      MarvaneAssistantEvents& host)
         : widgets_(widgets), prompt_(prompt), id_(id), host_(host) {}
 
+    /// The key that starts the entry when it is typed in the log: Ctrl+R.
+    static constexpr Integer kStartKey = 18;
+
     /// Two tries at the password, then the three prompts, then GeneralInformations.
     void start();
-    /// Ctrl+R in the log starts the entry.
     void keyPressed(Integer& keyCode);
 
 private:

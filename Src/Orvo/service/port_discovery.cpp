@@ -80,18 +80,17 @@ Long PortDiscovery::discover(const String& server) {
                                           buffer.bytes(), needed, count);
     if (!filled) return count;
     const Integer last = toInteger(std::int64_t{count} - 1);
-    for (Integer i = 0; i <= last; ++i) {
-        const auto offset = static_cast<std::size_t>(i) * PortSpooler::kRecordSize;
-        // A spooler that counts more records than it wrote is not followed out of the buffer.
-        if (offset + PortSpooler::kRecordSize > buffer.bytes().size()) throw Errors::invalidCall();
-        store(i, buffer.bytes().subspan(offset, PortSpooler::kRecordSize));
-    }
+    for (Integer i = 0; i <= last; ++i) store(static_cast<std::size_t>(i), buffer.bytes());
     return count;
 }
 
-void PortDiscovery::store(Long index, std::span<const std::byte> record) {
-    if (static_cast<std::size_t>(index) >= arrPorts.size()) throw Errors::subscriptOutOfRange();
-    PortRecord& entry = arrPorts[static_cast<std::size_t>(index)];
+void PortDiscovery::store(std::size_t index, std::span<const std::byte> records) {
+    if (index >= arrPorts.size()) throw Errors::subscriptOutOfRange();
+    const std::size_t offset = index * PortSpooler::kRecordSize;
+    // A spooler that counts more records than it wrote is not followed out of the buffer.
+    if (offset + PortSpooler::kRecordSize > records.size()) throw Errors::invalidCall();
+    const auto record = records.subspan(offset, PortSpooler::kRecordSize);
+    PortRecord& entry = arrPorts[index];
     entry.PortName = textAt(field(record, 0));
     entry.MonitorName = textAt(field(record, 1));
     entry.Description = textAt(field(record, 2));

@@ -32,7 +32,7 @@ public:
 
 private:
     class Buffer;
-    void store(Long index, std::span<const std::byte> record);
+    void store(std::size_t index, std::span<const std::byte> records);
 
     Platform platform_;
     std::array<PortRecord, 101> arrPorts;

@@ -45,9 +45,6 @@ inline Error wrongThread() {
     return {1001, "The panel may be called only from the thread that created it"};
 }
 
-/// A call while the panel is being released, for instance from a sink that outlived it.
-inline Error released() { return {1002, "The panel has been released"}; }
-
 /// A host's handler of an event let an exception of its own escape.
 inline Error hostFailure(const std::string& what) { return {1003, "Host handler failed: " + what}; }
 

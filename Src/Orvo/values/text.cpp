@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <system_error>
 
@@ -86,18 +87,22 @@ std::string asciiTrimmed(StringView text) {
     return ascii;
 }
 
-template <class Number>
-String converted(Number number) {
-    std::array<char, 32> characters{};
-    const auto end = std::to_chars(characters.begin(), characters.end(), number).ptr;
+template <class... Arguments>
+String converted(Arguments... arguments) {
+    std::array<char, 40> characters{};
+    const auto end = std::to_chars(characters.begin(), characters.end(), arguments...).ptr;
     return {characters.begin(), end};
 }
 
 }  // namespace
 
 String decimalText(std::int64_t value) { return converted(value); }
-String shortestText(double value) { return converted(value); }
-String shortestText(float value) { return converted(value); }
+
+String plainText(double value) {
+    const double magnitude = std::abs(value);
+    const bool isPlain = value == 0 || (magnitude >= 1e-4 && magnitude < 1e15);
+    return isPlain ? converted(value, std::chars_format::fixed) : converted(value);
+}
 
 double numericValue(StringView text) {
     const std::string ascii = asciiTrimmed(text);

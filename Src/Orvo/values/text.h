@@ -10,9 +10,9 @@ namespace Orvo {
 /// The decimal text of a whole number: no leading blank, a leading "-" for a negative one.
 String decimalText(std::int64_t value);
 
-/// The shortest decimal text that reads back as the same number, with a point in every locale.
-String shortestText(double value);
-String shortestText(float value);
+/// The shortest decimal text that reads back as the same number, with a point in every locale and
+/// without an exponent from 1e-4 up to 1e15.
+String plainText(double value);
 
 /// The number that a text stands for: blanks around it, a sign, decimal digits with an optional
 /// fraction (a point in every locale) and exponent.

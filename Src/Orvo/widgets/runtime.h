@@ -24,12 +24,16 @@ struct Question {
     Echo echo = Echo::shown;
 };
 
+/// Ends a prompt that nobody is left to answer, for instance because its window was closed: neither
+/// typed nor cancelled.
+struct PromptWithdrawn {};
+
 /// A modal prompt for one line of text, its field empty at first.
 class InputPrompt {
 public:
     virtual ~InputPrompt() = default;
     /// The text typed, or an empty one when the person cancels. Timers tick and the host may call
-    /// the panel, or release it, while the prompt is open.
+    /// the panel, or release it, while the prompt is open. Throws PromptWithdrawn.
     virtual String ask(const Question& question) = 0;
 };
 

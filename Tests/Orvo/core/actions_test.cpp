@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <functional>
 
 #include "Support/bench.h"
 
@@ -8,148 +9,87 @@ namespace {
 using Runtime::MouseButton;
 using Runtime::ReleasedWhere;
 
-struct Action {
-    const char* label;
-    void (*act)(Runtime::UserInput& person);
-    std::vector<std::string> raised{};
-};
+using Step = std::function<void(Runtime::UserInput& person)>;
 
-void PrintTo(const Action& action, std::ostream* out) { *out << action.label; }
-
-class Actions : public PanelTest, public testing::WithParamInterface<Action> {};
-
-TEST_P(Actions, RaiseTheirEvents) {
-    GetParam().act(person_);
-    EXPECT_EQ(takeLines(), GetParam().raised);
+Step click(const char* widget, MouseButton button = MouseButton::left) {
+    return [=](Runtime::UserInput& person) { person.click(id(widget), button); };
+}
+Step rightClick(const char* widget) { return click(widget, MouseButton::right); }
+Step dragOff(const char* widget) {
+    return [=](Runtime::UserInput& person) {
+        person.press(id(widget));
+        person.release(id(widget), MouseButton::left, ReleasedWhere::elsewhere);
+    };
+}
+Step activate(const char* widget) {
+    return [=](Runtime::UserInput& person) { person.activate(id(widget)); };
+}
+Step type(const char* widget, Integer code) {
+    return [=](Runtime::UserInput& person) { person.type(id(widget), code); };
+}
+Step slide(const char* widget, int position) {
+    return [=](Runtime::UserInput& person) { person.slide(id(widget), position); };
+}
+Step pick(const char* widget, const char16_t* item) {
+    return [=](Runtime::UserInput& person) { person.pick(id(widget), item); };
 }
 
-#define PERSON [](Runtime::UserInput & person)
+using Actions = PanelTest;
 
-INSTANTIATE_TEST_SUITE_P(
-    OfAPerson, Actions,
-    testing::Values(
-        Action{"power clicked", PERSON { person.click(id("cmdOnOff"));
-}  // namespace
-, { "OnOff" }
-}  // namespace Orvo::Tests
-, Action{"power activated", PERSON{person.activate(id("cmdOnOff"));
+TEST_F(Actions, RaiseTheirEvents) {
+    const struct {
+        const char* label;
+        std::vector<Step> steps;
+        Lines raised;
+    } kRows[] = {
+        // clang-format off
+        {"power clicked",            {click("cmdOnOff")},              {"OnOff"}},
+        {"power activated",          {activate("cmdOnOff")},           {"OnOff"}},
+        {"space on power",           {type("cmdOnOff", 32)},           {"OnOff"}},
+        {"power right-clicked",      {rightClick("cmdOnOff")},         {}},
+        {"power dragged off",        {dragOff("cmdOnOff")},            {}},
+        {"pair power clicked",       {click("chkOnOff12")},            {"OnOff"}},
+        {"pair power right-clicked", {rightClick("chkOnOff34")},       {"OnOff"}},
+        {"pair power dragged off",   {dragOff("chkOnOff12")},          {"OnOff"}},
+        {"pair power activated",     {activate("chkOnOff12")},         {}},
+        {"mute 1",                   {click("Command12")},             {"Mute 1"}},
+        {"mute 2",                   {click("Command11")},             {"Mute 2"}},
+        {"mute 3 twice",             {click("Command14"), click("Command14")}, {"Mute 3", "Mute 3"}},
+        {"mute 4",                   {activate("Command18")},          {"Mute 4"}},
+        {"mute all",                 {click("Command17")},             {"Mute 0"}},
+        {"mute all right-clicked",   {rightClick("Command17")},        {"Mute 0"}},
+        {"mute all activated",       {activate("Command17")},          {}},
+        {"space on mute all",        {type("Command17", 32)},          {}},
+        {"internal data",            {click("cmdReadInData")},         {"DownLoad"}},
+        {"volume 4",                 {slide("ZelvinSlider5", 11)},     {"VolumeChange 4 8"}},
+        {"volume 1 beyond its end",  {slide("ZelvinSlider1", 99)},     {"VolumeChange 1 -30"}},
+        {"volume 2 where it is",     {slide("ZelvinSlider2", -4)},     {}},
+        {"test temperature to 0",    {slide("ZelvinSlider3", 40), slide("ZelvinSlider3", 0)},
+                                                                       {"SetTemp 1 40", "SetTemp 1 0"}},
+        {"start 12",                 {click("cmdGo12")},               {"WaveForm 1 1 1"}},
+        {"start 34",                 {click("cmdGo34")},               {"WaveForm 3 1 1"}},
+        {"10 kHz to negative 2",     {click("opt10000hz_ch12"), click("optN2"), click("cmdGo12")},
+                                                                       {"WaveForm 2 2 2"}},
+        {"EIAJ is not 1 kHz",        {click("optEIAJ_Ch34"), click("optP4"), click("cmdGo34")},
+                                                                       {"WaveForm 4 3 1"}},
+        {"line in",                  {click("optLineIn12"), activate("cmdGo12")}, {"WaveForm 1 4 1"}},
+        {"hidden entry button",      {click("Command1")},              {}},
+        {"the disabled id list",     {pick("Combo1", u"7")},           {}},
+        {"another key in the log",   {type("List1", 'r')},             {}},
+        {"a label",                  {click("Label59")},               {}},
+        // clang-format on
+    };
+    for (const auto& row : kRows) {
+        const auto bench = makeBench();
+        Lines raised;
+        const auto connection =
+            bench->panel().connect([&](Long dispatchId, std::span<Value> arguments) {
+                raised.push_back(lineOf(dispatchId, arguments));
+            });
+        for (const Step& step : row.steps) step(bench->store().input());
+        EXPECT_EQ(raised, row.raised) << row.label;
+    }
 }
-, { "OnOff" }
-}
-, Action{"space on power", PERSON{person.type(id("cmdOnOff"), 32);
-}
-, { "OnOff" }
-}
-, Action{"power right-clicked", PERSON{person.click(id("cmdOnOff"), MouseButton::right);
-}
-}
-, Action{"power dragged off",
-         PERSON{person.release(id("cmdOnOff"), MouseButton::left, ReleasedWhere::elsewhere);
-}
-}
-, Action{"pair power clicked", PERSON{person.click(id("chkOnOff12"));
-}
-, { "OnOff" }
-}
-, Action{"pair power right-clicked", PERSON{person.click(id("chkOnOff34"), MouseButton::right);
-}
-, { "OnOff" }
-}
-, Action{"pair power dragged off",
-         PERSON{person.release(id("chkOnOff12"), MouseButton::left, ReleasedWhere::elsewhere);
-}
-, { "OnOff" }
-}
-, Action{"pair power activated", PERSON{person.activate(id("chkOnOff12"));
-}
-}
-, Action{"mute 1", PERSON{person.click(id("Command12"));
-}
-, { "Mute 1" }
-}
-, Action{"mute 2", PERSON{person.click(id("Command11"));
-}
-, { "Mute 2" }
-}
-, Action{"mute 3 twice", PERSON{person.click(id("Command14"));
-person.click(id("Command14"));
-}
-, { "Mute 3", "Mute 3" }
-}
-, Action{"mute 4", PERSON{person.activate(id("Command18"));
-}
-, { "Mute 4" }
-}
-, Action{"mute all", PERSON{person.click(id("Command17"));
-}
-, { "Mute 0" }
-}
-, Action{"mute all right-clicked", PERSON{person.click(id("Command17"), MouseButton::right);
-}
-, { "Mute 0" }
-}
-, Action{"mute all activated", PERSON{person.activate(id("Command17"));
-}
-}
-, Action{"internal data", PERSON{person.click(id("cmdReadInData"));
-}
-, { "DownLoad" }
-}
-, Action{"volume 4 up", PERSON{person.slide(id("ZelvinSlider5"), 11);
-}
-, { "VolumeChange 4 8" }
-}
-, Action{"volume 1 beyond its end", PERSON{person.slide(id("ZelvinSlider1"), 99);
-}
-, { "VolumeChange 1 -30" }
-}
-, Action{"volume where it is", PERSON{person.slide(id("ZelvinSlider2"), -4);
-}
-}
-, Action{"test temperature to 0", PERSON{person.slide(id("ZelvinSlider3"), 40);
-person.slide(id("ZelvinSlider3"), 0);
-}
-, { "SetTemp 1 40", "SetTemp 1 0" }
-}
-, Action{"start 12", PERSON{person.click(id("cmdGo12"));
-}
-, { "WaveForm 1 1 1" }
-}
-, Action{"start 34", PERSON{person.click(id("cmdGo34"));
-}
-, { "WaveForm 3 1 1" }
-}
-, Action{"10 kHz to negative 2", PERSON{person.click(id("opt10000hz_ch12"));
-person.click(id("optN2"));
-person.click(id("cmdGo12"));
-}
-, { "WaveForm 2 2 2" }
-}
-, Action{"EIAJ is not 1 kHz", PERSON{person.click(id("optEIAJ_Ch34"));
-person.click(id("optP4"));
-person.click(id("cmdGo34"));
-}
-, { "WaveForm 4 3 1" }
-}
-, Action{"line in", PERSON{person.click(id("optLineIn12"));
-person.activate(id("cmdGo12"));
-}
-, { "WaveForm 1 4 1" }
-}
-, Action{"hidden entry button", PERSON{person.click(id("Command1"));
-}
-}
-, Action{"pick in the disabled id list", PERSON{person.pick(id("Combo1"), u"7");
-}
-}
-, Action{"other keys in the log", PERSON{person.type(id("List1"), 'r');
-}
-}
-, Action{"a label", PERSON{person.click(id("Label59"));
-}
-}));
-
-#undef PERSON
 
 using PowerState = PanelTest;
 

@@ -103,6 +103,8 @@ TEST(Conversion, FollowsTheComponentModel) {
         {String(u"FALSE"), ValueType::boolean, Boolean(false)},
         {String(u"0.1"), ValueType::boolean, Boolean(true)},
         {Long{-70000}, ValueType::string, String(u"-70000")},
+        {Long{100000}, ValueType::string, String(u"100000")},
+        {-2e6, ValueType::string, String(u"-2000000")},
         {0.25, ValueType::string, String(u"0.25")},
         {Boolean(true), ValueType::string, String(u"True")},
         {std::monostate{}, ValueType::string, String()},
