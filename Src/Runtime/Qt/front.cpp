@@ -21,8 +21,9 @@ bool isWithin(WidgetId widget, WidgetId container) {
 
 }  // namespace
 
-Front::Front(std::shared_ptr<Runtime::Store> store, QWidget* parent)
-    : QWidget(parent), store_(std::move(store)), ticker_(*store_) {
+Front::Front(std::shared_ptr<Runtime::Store> store, QWidget* parent, Clock clock)
+    : QWidget(parent), store_(std::move(store)) {
+    if (clock == Clock::real) ticker_.emplace(*store_);
     frame_.setSingleShot(true);
     frame_.setTimerType(Qt::PreciseTimer);
     connect(&frame_, &QTimer::timeout, this, &Front::flush);
@@ -77,7 +78,10 @@ void Front::changed(WidgetId widget) {
         const bool isBusy = store_->pointer() == Widgets::Pointer::hourglass;
         return isBusy ? setCursor(Qt::WaitCursor) : unsetCursor();
     }
-    if (Layout::describe(widget).style.kind == Layout::Kind::timer) return ticker_.arm();
+    if (Layout::describe(widget).style.kind == Layout::Kind::timer) {
+        if (ticker_) ticker_->arm();
+        return;
+    }
     dirty_.set(widget);
     scheduleFrame();
 }
@@ -129,8 +133,9 @@ void Front::bringTabToFront() {
 }
 
 // A window that is only minimised comes back, and its question with it.
+// A window that is only minimised comes back, and the prompt with it.
 void Front::hideEvent(QHideEvent* event) {
-    if (!event->spontaneous()) prompt_.cancel();
+    if (!event->spontaneous()) prompt_.withdraw();
 }
 
 }  // namespace Orvo::Window

@@ -3,12 +3,14 @@
 #include <array>
 #include <bitset>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
+#include "Runtime/Qt/clock.h"
 #include "Runtime/Qt/control.h"
 #include "Runtime/Qt/page.h"
 #include "Runtime/Qt/prompt_dialog.h"
@@ -21,7 +23,8 @@ namespace Orvo::Window {
 /// reports as changed is noted and brought to the screen once per frame.
 class Front final : public QWidget, public Runtime::View {
 public:
-    explicit Front(std::shared_ptr<Runtime::Store> store, QWidget* parent = nullptr);
+    explicit Front(std::shared_ptr<Runtime::Store> store, QWidget* parent = nullptr,
+                   Clock clock = Clock::real);
     ~Front() override;
 
     [[nodiscard]] double zoom() const { return scale_.zoom(); }
@@ -51,7 +54,7 @@ private:
     std::bitset<Layout::kWidgetCount> dirty_;
     QTimer frame_;
     QElapsedTimer sinceFrame_;
-    Ticker ticker_;
+    std::optional<Ticker> ticker_;  // none when the clock is run by hand
     PromptDialog prompt_{*this};
 };
 

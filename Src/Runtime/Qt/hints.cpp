@@ -19,13 +19,14 @@ struct Hint {
     const char* shortcut = "";
 };
 
-// A shortcut works on the tab in front only, so twins share theirs.
+// A shortcut works on the tab in front only, so twins share theirs. It activates its widget as the
+// keyboard does, so where that asks the host for nothing there is none.
 constexpr auto kHints = std::to_array<Hint>({
     {"Combo1", "Amplifier id"},
     {"cmbSerialPort", "Serial port"},
     {"List1", "Internal data"},
     {"cmdOnOff", "Power", "Alt+P"},
-    {"Command17", "Mute all channels", "Alt+M"},
+    {"Command17", "Mute all channels"},
     {"cmdReadInData", "Read the internal data", "Alt+I"},
     {"Command1", "Reset the log file", "Alt+R"},
 
@@ -61,8 +62,8 @@ constexpr auto kHints = std::to_array<Hint>({
     {"Command11", "Mute channel 2", "Alt+2"},
     {"Command14", "Mute channel 3", "Alt+3"},
     {"Command18", "Mute channel 4", "Alt+4"},
-    {"chkOnOff12", "Power", "Alt+P"},
-    {"chkOnOff34", "Power", "Alt+P"},
+    {"chkOnOff12", "Power"},
+    {"chkOnOff34", "Power"},
 });
 
 }  // namespace

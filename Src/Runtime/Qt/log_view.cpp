@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QScrollBar>
 
+#include "Orvo/service/information_entry.h"
 #include "Runtime/Qt/chrome.h"
 #include "Runtime/Qt/log_scroll_bar.h"
 
@@ -122,6 +123,15 @@ QRegion LogView::visualRegionForSelection(const QItemSelection& selection) const
 void LogView::rowsInserted(const QModelIndex&, int start, int end) {
     updateGeometries();
     viewport()->update(visualRect(model_.index(start)).united(visualRect(model_.index(end))));
+}
+
+// The one key that the panel waits for here is not left to a shortcut of the host's.
+bool LogView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const String typed = typedBy(static_cast<QKeyEvent&>(*event));
+        if (typed == String(1, InformationEntry::kStartKey)) event->accept();
+    }
+    return QAbstractItemView::event(event);
 }
 
 void LogView::keyPressEvent(QKeyEvent* event) {

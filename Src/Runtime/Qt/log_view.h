@@ -21,6 +21,7 @@ public:
     [[nodiscard]] QModelIndex indexAt(const QPoint& point) const override;
 
 protected:
+    bool event(QEvent* event) override;
     void rowsInserted(const QModelIndex& parent, int start, int end) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     [[nodiscard]] int horizontalOffset() const override { return 0; }

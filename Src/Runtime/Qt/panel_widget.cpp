@@ -8,8 +8,8 @@ namespace Orvo::Window {
 
 // In the order of their making: the screen sees start-up.
 struct PanelWidget::Parts {
-    Parts(const Platform& platform, QWidget* parent)
-        : front(store, parent), panel(store, platform) {}
+    Parts(const Platform& platform, QWidget* parent, Clock clock)
+        : front(store, parent, clock), panel(store, platform) {}
 
     std::shared_ptr<Runtime::Store> store = Runtime::Store::create();
     Front front;
@@ -18,8 +18,8 @@ struct PanelWidget::Parts {
 
 PanelWidget::PanelWidget(QWidget* parent) : PanelWidget(Platform{}, parent) {}
 
-PanelWidget::PanelWidget(const Platform& platform, QWidget* parent)
-    : QWidget(parent), parts_(std::make_unique<Parts>(platform, this)) {
+PanelWidget::PanelWidget(const Platform& platform, QWidget* parent, Clock clock)
+    : QWidget(parent), parts_(std::make_unique<Parts>(platform, this, clock)) {
     setMinimumSize(parts_->front.size());
     flush();
 }

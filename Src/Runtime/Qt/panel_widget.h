@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include "Runtime/Qt/clock.h"
+
 namespace Orvo {
 class MarvaneAssistant;
 struct Platform;
@@ -22,10 +24,12 @@ class PanelWidget : public QWidget {
     Q_OBJECT
 
 public:
-    /// Start-up is over when this returns. Throws what start-up throws.
+    /// Start-up is over when this returns. Throws what start-up throws. The panel knows no ports of
+    /// the machine; the other constructor tells it of some.
     explicit PanelWidget(QWidget* parent = nullptr);
-    /// With what the panel is given of the machine.
-    explicit PanelWidget(const Platform& platform, QWidget* parent = nullptr);
+    /// With what the panel is given of the machine, such as Runtime::machinePlatform().
+    explicit PanelWidget(const Platform& platform, QWidget* parent = nullptr,
+                         Clock clock = Clock::real);
     ~PanelWidget() override;
 
     [[nodiscard]] MarvaneAssistant& panel() const;

@@ -12,10 +12,11 @@ class PromptDialog final : public Runtime::Prompter {
 public:
     explicit PromptDialog(QWidget& panel) : panel_(panel) {}
 
-    /// Ends without an answer also when the panel goes away meanwhile, and this with it.
+    /// Throws Widgets::PromptWithdrawn when the panel goes away or out of sight meanwhile, or isn't
+    /// in sight at all. In the first case this has gone with it.
     std::optional<String> ask(const Widgets::Question& question) override;
-    /// Cancels the dialog that is open, if any.
-    void cancel();
+    /// Takes the dialog that is open away, if there is one.
+    void withdraw();
 
 private:
     QWidget& panel_;

@@ -89,6 +89,8 @@ struct SliderState {
     bool isHeld = false;
 
     static constexpr Integer kMinimum = 0;
+    /// The bound nearest to what is beyond the bounds.
+    [[nodiscard]] Integer within(int wanted) const;
     /// Where the cap is drawn: the position, or the bound nearest to it.
     [[nodiscard]] Integer shown() const;
 };

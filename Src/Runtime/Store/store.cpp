@@ -29,7 +29,10 @@ public:
     String ask(const Widgets::Question& question) override {
         store_.observe({.verb = Verb::ask, .value = question.text});
         if (store_.prompter_ == nullptr) return {};
-        return store_.prompter_->ask(question).value_or(String());
+        const auto alive = store_.shared_from_this();
+        const std::optional<String> answer = store_.prompter_->ask(question);
+        store_.input_.answered(answer);
+        return answer.value_or(String());
     }
 
 private:

@@ -28,7 +28,8 @@ public:
 class Prompter {
 public:
     virtual ~Prompter() = default;
-    /// The text typed; none when the prompt is cancelled.
+    /// The text typed; none when the prompt is cancelled. Throws Widgets::PromptWithdrawn when it
+    /// went away without either.
     virtual std::optional<String> ask(const Widgets::Question& question) = 0;
 };
 

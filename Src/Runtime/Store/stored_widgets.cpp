@@ -15,9 +15,11 @@ using Widgets::FillStyle;
 using Widgets::NotificationKind;
 using Widgets::Point;
 
-Integer SliderState::shown() const {
-    return std::clamp(position, kMinimum, std::max(kMinimum, maximum));
+Integer SliderState::within(int wanted) const {
+    return static_cast<Integer>(std::clamp<int>(wanted, kMinimum, std::max(kMinimum, maximum)));
 }
+
+Integer SliderState::shown() const { return within(position); }
 
 StoredWidget::StoredWidget(Store& store, WidgetId id)
     : store_(store),
@@ -360,9 +362,7 @@ void StoredSlider::enable(bool enabled) {
 }
 
 bool StoredSlider::moveTo(int position) {
-    const int highest = std::max(SliderState::kMinimum, state_.maximum);
-    const int within = std::clamp<int>(position, SliderState::kMinimum, highest);
-    return change(state_.position, static_cast<Integer>(within));
+    return change(state_.position, state_.within(position));
 }
 
 }  // namespace Orvo::Runtime

@@ -4,13 +4,12 @@
 
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/notification.h"
+#include "Runtime/Store/input_observer.h"
 
 namespace Orvo::Runtime {
 
 class Store;
 using Widgets::WidgetId;
-
-enum class MouseButton : std::uint8_t { left, right, middle };
 
 /// Where the pointer is when a button is released.
 enum class ReleasedWhere : std::uint8_t { onWidget, elsewhere };
@@ -47,13 +46,32 @@ public:
     /// A tab is selected, unless it is disabled.
     void selectTab(WidgetId tabs, int tab);
 
+    /// Who sees all this; null takes it away again.
+    void observeWith(InputObserver* observer) { observer_ = observer; }
+
 private:
+    friend class Store;
+    class Doing;
+
+    // As above, but nobody is told.
+    void goDown(WidgetId widget, MouseButton button);
+    void goUp(WidgetId widget, MouseButton button, ReleasedWhere where);
+    void setHeld(WidgetId slider);
+    void moveTo(WidgetId slider, int position);
+    void letGo(WidgetId slider);
+
+    [[nodiscard]] bool isSliderGrip(WidgetId widget, MouseButton button) const;
+    [[nodiscard]] bool isHeld(WidgetId slider) const;
+    void answered(const std::optional<String>& answer) const {
+        if (observer_ != nullptr) observer_->answered(answer);
+    }
     void actOnClick(WidgetId widget);
     void notify(WidgetId widget, Widgets::NotificationKind kind);
     [[nodiscard]] bool isKind(WidgetId widget, Widgets::Kind kind) const;
     void edit(WidgetId combo, Integer code);
 
     Store& store_;
+    InputObserver* observer_ = nullptr;
 };
 
 }  // namespace Orvo::Runtime

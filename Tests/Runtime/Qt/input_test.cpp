@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QShortcut>
 #include <QTabBar>
 #include <QWheelEvent>
 
@@ -100,6 +101,14 @@ TEST_F(InputTest, WhatAPersonDoesReachesThePanel) {
         EXPECT_EQ(panel_.heard, row.heard);
         control("SSTab1").setFocus();
     }
+}
+
+TEST_F(InputTest, TheLogGetsItsKeyBeforeAShortcutOfTheHostDoes) {
+    QShortcut refresh(QKeySequence("Ctrl+R"), &front_);
+    QWidget& log = control("List1");
+    log.setFocus();
+    QTest::keyClick(&log, Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(panel_.heard, "List1 key18");
 }
 
 TEST_F(InputTest, ACheckBoxFlipsOncePerClick) {

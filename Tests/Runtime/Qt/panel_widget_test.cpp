@@ -193,14 +193,33 @@ TEST_F(PromptTest, CancellingAnswersNothing) {
     EXPECT_EQ(ask(), u"");
 }
 
-TEST_F(PromptTest, ClosingTheWindowCancels) {
-    whenAsked([this](QInputDialog&) { widget_->close(); });
-    EXPECT_EQ(ask(), u"");
+TEST_F(PromptTest, DeletingThePanelWithdrawsIt) {
+    whenAsked([this](QInputDialog&) { delete widget_; });
+    EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
 }
 
-TEST_F(PromptTest, DeletingThePanelCancels) {
-    whenAsked([this](QInputDialog&) { delete widget_; });
-    EXPECT_EQ(ask(), u"");
+// The password, the two serial numbers, the information: a window that closes leaves none half
+// done.
+TEST_F(PromptTest, ClosingTheWindowEndsTheEntryAtWhicheverPrompt) {
+    for (int closedAt = 1; closedAt <= 4; ++closedAt) {
+        int asked = 0, raised = 0;
+        const auto connection = widget_->panel().connect([&](Long, std::span<Value>) { ++raised; });
+        QTimer answering;
+        QObject::connect(&answering, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            if (++asked == closedAt) return void(widget_->close());
+            dialog->setTextValue("530284");
+            dialog->accept();
+        });
+        answering.start(1);
+        widget_->show();
+        store_->input().type(Layout::listRef("List1").id, 18);
+        EXPECT_EQ(asked, closedAt);
+        EXPECT_EQ(raised, 0);
+        EXPECT_TRUE(store_->widget(Layout::buttonRef("Command1").id).isEnabled());
+        EXPECT_EQ(store_->pointer(), Widgets::Pointer::standard);
+    }
 }
 
 }  // namespace
