@@ -98,7 +98,7 @@ inline constexpr auto kMemberTexts = std::to_array<MemberText>({
                       "5 for a channel outside 1 to 4. 9 for an array without a dimension, and for one with several dimensions or a lower bound above 1 when its upper bound is 2 or more; 6 for an upper bound above 32767; in these cases the grid has been drawn."},
     {"Mute",          "Mute state of a channel, or of all channels and the amplifier-wide lamp. After every write, whatever the index, the amplifier-wide lamp follows when all channels that count agree.",
                       "`intChannel` 1 to 4, or 0."},
-    {"ReadOnly",      "-1 keeps a person from operating the panel, every other value lets them; the displays follow the host all the same. It is 0 at first.",
+    {"ReadOnly",      "-1 keeps a person from changing the amplifier's state, every other value lets them; the displays follow the host all the same. Asking for the internal data stays possible, and so does the information entry behind its password. It is 0 at first.",
                       "`blnValue` any Boolean; it is read back as it was written."},
 });
 
