@@ -1,5 +1,7 @@
 #include "Orvo/generator/trace.h"
 
+#include <cstddef>
+
 namespace Orvo {
 namespace {
 
@@ -16,8 +18,9 @@ std::vector<Widgets::Point> tracePoints(std::span<const Integer> samples, Long u
     const double room = double{width} - kTraceMargin;
     for (int i = 0; i < count; ++i) {
         const double x = kTraceMargin + room * (i + 1) / upperBound;
-        const double y = (samples.data()[i] * kGain - kOffset) * height / kFullScale;
-        points.data()[i] = {static_cast<float>(x), static_cast<float>(y)};
+        const auto at = static_cast<std::size_t>(i);
+        const double y = (samples[at] * kGain - kOffset) * height / kFullScale;
+        points[at] = {static_cast<float>(x), static_cast<float>(y)};
     }
     return points;
 }

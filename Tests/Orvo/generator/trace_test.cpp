@@ -42,10 +42,10 @@ Drawn drawnOn(Runtime::Store& store, const char* name) {
 TEST_F(Trace, JoinsTheSamplesFromIndex1AndStopsWhereTheArrayDoes) {
     using Dimensions = std::vector<IntegerArray::Bounds>;
     const struct {
-        const char* label;
+        const char* label = "";
         IntegerArray samples;
-        std::size_t points;
-        Long error;
+        std::size_t points = 0;
+        Long error = 0;
     } kRows[] = {
         {"one sample", IntegerArray(1, {7}), 0, 0},
         {"none, upper bound 0", IntegerArray(1, {}), 0, 0},

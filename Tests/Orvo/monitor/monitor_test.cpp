@@ -100,19 +100,19 @@ TEST_F(Monitor, ShowsAVolumesMagnitudeAndSign) {
     const struct {
         Integer channel;
         Integer volume;
+        Long error;
         Names digits;
         const char* sign;
         std::string shown;
         String caption;
-        Long error;
     } kRows[] = {
-        {1, 0, {"LED20", "LED19"}, "Label76", "00", u"", 0},
-        {2, -12, {"LED18", "LED17"}, "Label30", "12", u"-", 0},
-        {2, 12, {"LED18", "LED17"}, "Label30", "12", u"-", 0},
-        {3, 123, {"LED9", "LED10"}, "Label29", "12", u"-", 0},
-        {4, 5, {"LED11", "LED12"}, "Label10", "05", u"-", 0},
-        {5, 7, {"LED11", "LED12"}, "Label10", "05", u"-", 0},
-        {5, -32768, {"LED11", "LED12"}, "Label10", "05", u"-", 6},
+        {1, 0, 0, {"LED20", "LED19"}, "Label76", "00", u""},
+        {2, -12, 0, {"LED18", "LED17"}, "Label30", "12", u"-"},
+        {2, 12, 0, {"LED18", "LED17"}, "Label30", "12", u"-"},
+        {3, 123, 0, {"LED9", "LED10"}, "Label29", "12", u"-"},
+        {4, 5, 0, {"LED11", "LED12"}, "Label10", "05", u"-"},
+        {5, 7, 0, {"LED11", "LED12"}, "Label10", "05", u"-"},
+        {5, -32768, 6, {"LED11", "LED12"}, "Label10", "05", u"-"},
     };
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.volume);

@@ -73,7 +73,7 @@ public:
         asked.push_back(toUtf8(question.text + u'/' + question.title));
         if (during) during();
         if (left.empty()) return std::nullopt;
-        const auto answer = left.front();
+        auto answer = left.front();
         left.pop_front();
         return answer;
     }

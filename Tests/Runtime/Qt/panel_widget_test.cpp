@@ -202,7 +202,8 @@ TEST_F(PromptTest, DeletingThePanelWithdrawsIt) {
 // done.
 TEST_F(PromptTest, ClosingTheWindowEndsTheEntryAtWhicheverPrompt) {
     for (int closedAt = 1; closedAt <= 4; ++closedAt) {
-        int asked = 0, raised = 0;
+        int asked = 0;
+        int raised = 0;
         const auto connection = widget_->panel().connect([&](Long, std::span<Value>) { ++raised; });
         QTimer answering;
         QObject::connect(&answering, &QTimer::timeout, [&] {
