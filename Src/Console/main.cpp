@@ -1,11 +1,8 @@
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <exception>
 #include <string>
-#include <system_error>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include "Console/completion.h"
@@ -20,21 +17,7 @@ namespace {
 
 using namespace Orvo::Console;
 
-enum Status { done, notUnderstood, cannotRun };
-
 constexpr Grammar kGrammar{.speaker = Grammar::Speaker::anyone, .place = Place::inMemory};
-
-int runScript(int descriptor, const std::string& name, AtComplaint atComplaint) {
-    StoreBench bench;
-    const bool isUnderstood = Script(bench, kGrammar, descriptor, name, atComplaint).run();
-    return isUnderstood ? done : notUnderstood;
-}
-
-int runFile(const std::string& name, AtComplaint atComplaint) {
-    const int descriptor = ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0) throw std::system_error(errno, std::generic_category(), name);
-    return runScript(descriptor, name, atComplaint);
-}
 
 int talk() {
     StoreBench bench;
@@ -69,9 +52,9 @@ int print(const std::string& text) {
 int run(const Options& options) {
     if (options.wish == Options::Wish::help) return print(std::string(kUsage));
     if (options.wish == Options::Wish::version) return print("orvo-console " ORVO_VERSION);
-    if (options.file && options.file != "-") return runFile(*options.file, options.atComplaint);
     if (!options.file && ::isatty(STDIN_FILENO) != 0) return talk();
-    return runScript(STDIN_FILENO, "<stdin>", options.atComplaint);
+    StoreBench bench;
+    return runScript(bench, kGrammar, options.file.value_or("-"), options.atComplaint);
 }
 
 void complain(const std::string& text) { std::fprintf(stderr, "orvo-console: %s\n", text.c_str()); }

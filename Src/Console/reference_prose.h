@@ -72,7 +72,7 @@ number in the narrowest type that holds it, and `true`, `false`, a String or an 
 
 A command that `on` is given has to be understood at that time. A handler that `off` or `new`
 forgets while its event is being raised doesn't run any more; one that is added then runs from the
-next event on.
+next event on. An event has 100 handlers at most; error 7, Out of memory, beyond.
 
 )";
 
@@ -134,6 +134,10 @@ show LED3
 A device or a program at the other end of a link may send only the commands of the host's side. All
 others are answered with `?`, also where they stand in an `on`: whoever drives the panel from outside
 can neither press its buttons nor answer its prompts.
+
+`new` ends with error 70 there: the panel is the program's. What `on` has said is forgotten when the
+link breaks. A line above 64 KiB is answered with one `?` and dropped as a whole; whoever leaves more
+than 1 MiB of answers and events unread is cut off. A pipe carries commands only.
 )";
 
 constexpr std::string_view kInterfaceIntroduction = R"(# The panel's interface

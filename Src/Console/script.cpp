@@ -1,8 +1,13 @@
 #include "Console/script.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <system_error>
 #include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace Orvo::Console {
 namespace {
@@ -18,12 +23,22 @@ std::ptrdiff_t columnAt(std::string_view line, std::size_t offset) {
            });
 }
 
+int open(const std::string& file) {
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) throw std::system_error(errno, std::generic_category(), file);
+    return descriptor;
+}
+
 }  // namespace
 
 Script::Script(Bench& bench, const Grammar& grammar, int descriptor, std::string name,
-               AtComplaint atComplaint)
+               AtComplaint atComplaint, std::function<void()> beforeWaiting)
     : session_(bench, grammar, [this](std::string_view line) { output_.line(line); }),
-      lines_(descriptor, [this] { output_.flush(); }),
+      lines_(descriptor,
+             [this, beforeWaiting = std::move(beforeWaiting)] {
+                 output_.flush();
+                 if (beforeWaiting) beforeWaiting();
+             }),
       name_(std::move(name)),
       atComplaint_(atComplaint) {}
 
@@ -47,6 +62,15 @@ void Script::report(const Misunderstood& complaint, std::string_view line) {
     output_.flush();
     std::fprintf(stderr, "%s:%zu:%td: %s\n", name_.c_str(), lineNumber_,
                  columnAt(line, complaint.offset), complaint.text.c_str());
+}
+
+Status runScript(Bench& bench, const Grammar& grammar, const std::string& file,
+                 AtComplaint atComplaint, const std::function<void(int)>& beforeWaiting) {
+    const bool isInput = file == "-";
+    const int descriptor = isInput ? STDIN_FILENO : open(file);
+    Script script(bench, grammar, descriptor, isInput ? "<stdin>" : file, atComplaint,
+                  [&] { beforeWaiting(descriptor); });
+    return script.run() ? done : notUnderstood;
 }
 
 }  // namespace Orvo::Console

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,9 @@ namespace Orvo::Console {
 /// column.
 class Script {
 public:
+    /// `beforeWaiting` is called before every read, which may wait for whoever writes.
     Script(Bench& bench, const Grammar& grammar, int descriptor, std::string name,
-           AtComplaint atComplaint);
+           AtComplaint atComplaint, std::function<void()> beforeWaiting = {});
 
     /// Whether every command was understood. Throws std::system_error when reading or writing
     /// fails.
@@ -33,5 +35,14 @@ private:
     AtComplaint atComplaint_;
     std::size_t lineNumber_ = 0;
 };
+
+/// How a program that runs a script ends.
+enum Status { done, notUnderstood, cannotRun };
+
+/// Runs the script of a file, of standard input for "-". `beforeWaiting` is told what is read from.
+/// Throws std::system_error when the file can't be opened or read.
+Status runScript(
+    Bench& bench, const Grammar& grammar, const std::string& file, AtComplaint atComplaint,
+    const std::function<void(int descriptor)>& beforeWaiting = [](int) {});
 
 }  // namespace Orvo::Console

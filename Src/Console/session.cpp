@@ -10,6 +10,10 @@ namespace {
 // How deep handlers may start one another before the script runs out of stack space.
 constexpr std::size_t kDeepest = 64;
 
+// For each event: a link that never ends must not fill the memory.
+constexpr std::size_t kMostHandlers = 100;
+
+Error outOfMemory() { return {7, "Out of memory"}; }
 Error outOfStackSpace() { return {28, "Out of stack space"}; }
 
 std::string failure(const Error& error) { return "! " + textOf(error); }
@@ -51,6 +55,7 @@ std::optional<Misunderstood> Session::run(std::string_view text) {
 void Session::row(std::string_view text) { line("- " + std::string(text)); }
 
 void Session::remember(const Event& event, Action action) {
+    if (handlersOf(event).size() == kMostHandlers) throw outOfMemory();
     handlersOf(event).push_back(std::make_shared<Handler>(Handler{std::move(action)}));
 }
 
@@ -66,9 +71,7 @@ void Session::renew() {
 }
 
 void Session::raised(const Event& event, std::span<const Value> arguments) {
-    std::string text = "event " + std::string(event.name);
-    for (const Value& argument : arguments) text += ' ' + textOf(argument);
-    line(text);
+    line(eventText(event, arguments));
     if (depth_ == 0) isExhausted_ = false;
     const Handlers handlers = handlersOf(event);
     ++depth_;

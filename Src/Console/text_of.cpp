@@ -78,6 +78,12 @@ std::string valueText(double value) { return decimalForm(value); }
 std::string valueText(const String& value) { return textOf(StringView(value)); }
 std::string valueText(const IntegerArray& value) { return textOf(value); }
 
+std::string wordsOf(std::span<const Value> values) {
+    std::string words;
+    for (const Value& value : values) words += ' ' + textOf(value);
+    return words;
+}
+
 }  // namespace
 
 std::string textOf(StringView text) {
@@ -116,6 +122,15 @@ std::string textOf(const IntegerArray& array) {
 
 std::string textOf(const Value& value) {
     return std::visit([](const auto& held) { return valueText(held); }, value);
+}
+
+std::string commandText(const Member& member, std::span<const Value> arguments) {
+    const auto word = member.kind == MemberKind::method ? "call" : nameOf(member.kind);
+    return std::string(word) + ' ' + std::string(member.name) + wordsOf(arguments);
+}
+
+std::string eventText(const Event& event, std::span<const Value> arguments) {
+    return "event " + std::string(event.name) + wordsOf(arguments);
 }
 
 std::string dispatchIdText(Long dispatchId) {

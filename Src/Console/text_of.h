@@ -1,8 +1,10 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
+#include "Orvo/core/event_table.h"
 #include "Orvo/core/member_table.h"
 #include "Orvo/core/value.h"
 #include "Orvo/values/error.h"
@@ -24,6 +26,12 @@ std::string textOf(const Error& error);
 std::string textOf(const IntegerArray& array);
 std::string textOf(const Value& value);
 inline std::string_view textOf(bool truth) { return truth ? "true" : "false"; }
+
+/// The command that calls the member: "let Mute 1 -1".
+std::string commandText(const Member& member, std::span<const Value> arguments);
+
+/// What is answered when the event is raised: "event Mute 1".
+std::string eventText(const Event& event, std::span<const Value> arguments);
 
 /// "0x" and eight digits.
 std::string dispatchIdText(Long dispatchId);
