@@ -1,7 +1,9 @@
 #include <cstdio>
+#include <system_error>
 
 #include <QApplication>
 
+#include "Manager/Script/run_script.h"
 #include "Manager/demonstration.h"
 #include "Manager/manager_window.h"
 #include "Manager/options.h"
@@ -17,10 +19,14 @@ int end(const Ending& ending) {
 }
 
 int showWindow(const Options& options) {
-    ManagerWindow window(options);
-    window.connectSimulator();
-    window.open();
-    return QApplication::exec();
+    try {
+        ManagerWindow window(options);
+        options.link ? window.connectLink() : window.connectSimulator();
+        window.open();
+        return QApplication::exec();
+    } catch (const std::system_error& failure) {
+        return end({kWrongUsage, QString("marvane-manager: ") + failure.what()});
+    }
 }
 
 }  // namespace
@@ -37,5 +43,6 @@ int main(int argc, char** argv) {
     const auto parsed = parseCommandLine(QApplication::arguments());
     if (const auto* ending = std::get_if<Ending>(&parsed)) return end(*ending);
     const auto& options = std::get<Options>(parsed);
-    return hasDisplay() ? showWindow(options) : demonstrate(options);
+    if (!options.script.isEmpty()) return runScript(options);
+    return hasDisplay() || options.link ? showWindow(options) : demonstrate(options);
 }

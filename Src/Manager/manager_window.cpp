@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QDialog>
+#include <QFile>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
@@ -25,17 +26,31 @@ constexpr auto kRefresh = 200ms;
 // A machine that was asleep doesn't live through the night in the morning.
 constexpr qint64 kLongestTick = 1000;
 
+// What is recorded must tick in the replay as it did here.
+Window::Clock clockOf(const Options& options) {
+    return options.record.isEmpty() ? Window::Clock::real : Window::Clock::byHand;
+}
+
+std::unique_ptr<Recorder> recorderOf(const Options& options, Window::PanelWidget& panel) {
+    if (options.record.isEmpty()) return nullptr;
+    const auto answers = options.recordsAnswers ? Answers::inFull : Answers::asCancelled;
+    return std::make_unique<Recorder>(QFile::encodeName(options.record).toStdString(),
+                                      panel.panel(), panel.store(), answers);
+}
+
 }  // namespace
 
 ManagerWindow::ManagerWindow(const Options& options)
     : options_(options),
-      panel_(new Window::PanelWidget(Runtime::machinePlatform(), this)),
+      panel_(new Window::PanelWidget(Runtime::machinePlatform(), this, clockOf(options))),
+      recorder_(recorderOf(options, *panel_)),
       station_(panel_->panel()),
       zoomArea_(new ZoomArea(*panel_, this)),
       statusLine_(new StatusLine),
       saver_(new FileSaver(*this)),
       menus_(new Menus(*this)),
       events_(new EventDock(station_.log(), menus_->eventActions(), this)) {
+    station_.listenWith(recorder_.get());
     layOut();
     connect(saver_, &FileSaver::said, statusLine_, &StatusLine::say);
     panel_->panel().setErrorHandler([this](const Error& error) {
@@ -72,7 +87,12 @@ void ManagerWindow::startClock() {
 
 void ManagerWindow::advance() {
     const qint64 elapsed = std::min(sinceTick_.restart(), kLongestTick);
-    station_.advance(std::chrono::milliseconds(elapsed));
+    letPass(std::chrono::milliseconds(elapsed));
+}
+
+void ManagerWindow::letPass(std::chrono::milliseconds time) {
+    if (recorder_ != nullptr) panel_->store().advance(time);
+    station_.advance(time);
 }
 
 void ManagerWindow::open() {
@@ -107,8 +127,6 @@ void ManagerWindow::adaptSize() {
 void ManagerWindow::closeEvent(QCloseEvent* event) {
     tick_.stop();
     refreshes_.stop();
-    // Nobody sits in front any more: what the panel still asks is cancelled at once.
-    panel_->store().promptWith(nullptr);
     for (QDialog* dialog : findChildren<QDialog*>()) dialog->reject();
     QMainWindow::closeEvent(event);
 }

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <chrono>
+#include <memory>
+
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 
+#include "Manager/Recording/recorder.h"
 #include "Manager/Station/station.h"
 #include "Manager/event_dock.h"
 #include "Manager/file_saver.h"
@@ -21,11 +25,14 @@ class ManagerWindow final : public QMainWindow {
     Q_OBJECT
 
 public:
+    /// Throws std::system_error when the session is to be recorded in a file that can't be opened.
     explicit ManagerWindow(const Options& options = {});
     ~ManagerWindow() override;
 
     /// Shows the window, as the options say.
     void open();
+    /// Lets time pass for what is connected; that happens by itself.
+    void letPass(std::chrono::milliseconds time);
 
     [[nodiscard]] Window::PanelWidget& panelWidget() { return *panel_; }
     [[nodiscard]] Station& station() { return station_; }
@@ -38,6 +45,9 @@ public:
 
     /// With the seed of the options, from the beginning.
     void connectSimulator(Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
+    /// The one that the options name, if any.
+    void connectLink();
+    [[nodiscard]] bool hasLink() const { return options_.link.has_value(); }
     void connectNothing();
     void runQuickTest();
     void setFault(Simulator::Fault fault, bool isOn);
@@ -79,6 +89,7 @@ private:
 
     const Options options_;
     Window::PanelWidget* const panel_;
+    const std::unique_ptr<Recorder> recorder_;  // null when nothing is recorded
     Station station_;
     ZoomArea* const zoomArea_;
     StatusLine* const statusLine_;

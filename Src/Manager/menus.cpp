@@ -1,6 +1,5 @@
 #include "Manager/menus.h"
 
-#include <QActionGroup>
 #include <QMenuBar>
 
 #include "Manager/manager_window.h"
@@ -69,13 +68,13 @@ void Menus::addChannels(QMenu* menu, const QString& firstKey,
 
 void Menus::addConnectMenu() {
     auto* menu = addMenu("&Connect");
-    auto* choice = new QActionGroup(menu);
     simulator_ =
         addSwitch(menu, "&Simulated amplifier", "F6", [this](bool) { window_.connectSimulator(); });
-    auto* link = addSwitch(menu, "&Link…", "F7", [](bool) {});
-    link->setEnabled(false);
+    link_ = addSwitch(menu, "&Link", "F7", [this](bool) { window_.connectLink(); });
+    // Where to is the command line's to say.
+    link_->setEnabled(window_.hasLink());
     nothing_ = addSwitch(menu, "&Nothing", "F8", [this](bool) { window_.connectNothing(); });
-    for (QAction* action : {simulator_, link, nothing_}) choice->addAction(action);
+    for (QAction* action : {simulator_, link_, nothing_}) connection_.addAction(action);
 }
 
 void Menus::addAmplifierMenu() {
@@ -150,6 +149,7 @@ void Menus::refresh() {
     Station& station = window_.station();
     const auto* simulator = station.simulator();
     simulator_->setChecked(simulator != nullptr);
+    link_->setChecked(station.isConnected() && simulator == nullptr);
     nothing_->setChecked(!station.isConnected());
     quickTest_->setEnabled(simulator != nullptr);
     const auto faults = faults_->actions();

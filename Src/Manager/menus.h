@@ -3,6 +3,7 @@
 #include <functional>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QMenu>
 #include <QObject>
 
@@ -43,7 +44,9 @@ private:
     void addHelpMenu();
 
     ManagerWindow& window_;
+    QActionGroup connection_{this};
     QAction* simulator_ = nullptr;
+    QAction* link_ = nullptr;
     QAction* nothing_ = nullptr;
     QAction* quickTest_ = nullptr;
     QMenu* faults_ = nullptr;

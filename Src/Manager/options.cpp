@@ -4,6 +4,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 #include <QRegularExpression>
 
 #include "Manager/zoom.h"
@@ -24,15 +25,20 @@ public:
             "Shows the front panel of a four-channel power amplifier, and a simulated amplifier "
             "behind it.");
         parser_.addOptions({help_, version_, simulate_, zoom_, tab_, readOnly_, fullScreen_});
+        parser_.addOptions({script_, keepGoing_, record_, recordAnswers_, link_});
     }
 
     std::variant<Options, Ending> parse(const QStringList& words);
 
 private:
-    Options options() const;
+    [[nodiscard]] Options options() const;
     template <class Number>
-    Number numberOf(const QCommandLineOption& option, Number lowest, Number highest) const;
-    QString helpText() const;
+    [[nodiscard]] Number numberOf(const QCommandLineOption& option, Number lowest,
+                                  Number highest) const;
+    void refuseBoth(const QCommandLineOption& one, const QCommandLineOption& other) const;
+    [[nodiscard]] std::optional<LinkAddress> linkAddress() const;
+    [[nodiscard]] QString fileOf(const QCommandLineOption& option) const;
+    [[nodiscard]] QString helpText() const;
 
     const QCommandLineOption help_{{"h", "help"}, "Shows this help and ends."};
     const QCommandLineOption version_{{"v", "version"}, "Shows the version and ends."};
@@ -47,8 +53,31 @@ private:
         "PERCENT", "100"};
     const QCommandLineOption tab_{
         "tab", "The tab in front: 1 is Common, 2 is Ch1 + Ch2, 3 is Ch3 + Ch4.", "NUMBER", "1"};
-    const QCommandLineOption readOnly_{"read-only", "Shows everything, operates nothing."};
+    const QCommandLineOption readOnly_{"read-only",
+                                       "Shows everything, changes nothing on the amplifier."};
     const QCommandLineOption fullScreen_{"fullscreen", "Fills the screen."};
+    const QCommandLineOption script_{
+        "script",
+        "Runs panel script from the file, \"-\" being standard input, and ends with it. The script "
+        "plays the amplifier too: of the other options only --zoom and --keep-going count.",
+        "FILE"};
+    const QCommandLineOption keepGoing_{
+        "keep-going", "Goes on after a command of the script that was not understood."};
+    const QCommandLineOption record_{
+        "record",
+        "Writes to the file, as panel script, what the amplifier and the person do to the panel.",
+        "FILE"};
+    const QCommandLineOption recordAnswers_{
+        "record-answers",
+        "Records what is typed at the panel's prompts, passwords included; else all of them are "
+        "recorded as cancelled."};
+    const QCommandLineOption link_{
+        "link",
+        "Connects what is at the other end of a serial device, a pseudo-terminal, a pipe or a "
+        "local "
+        "socket instead of the simulator. It sends the host's commands of panel script and is "
+        "answered, except on a pipe. A serial device's speed follows it: /dev/ttyUSB0@115200.",
+        "PATH[@SPEED]"};
     QCommandLineParser parser_;
 };
 
@@ -86,12 +115,21 @@ std::variant<Options, Ending> CommandLine::parse(const QStringList& words) {
 
 Options CommandLine::options() const {
     constexpr int kTabs = int(Layout::kTabCaptions.size());
+    for (const QCommandLineOption* other : {&record_, &link_, &simulate_}) {
+        refuseBoth(script_, *other);
+    }
+    refuseBoth(link_, simulate_);
     return {
         .zoom = numberOf(zoom_, kSmallestZoom, kLargestZoom),
         .tab = numberOf(tab_, 1, kTabs),
         .seed = numberOf<std::uint32_t>(simulate_, 0, std::numeric_limits<std::uint32_t>::max()),
         .isReadOnly = parser_.isSet(readOnly_),
-        .isFullScreen = parser_.isSet(fullScreen_)};
+        .isFullScreen = parser_.isSet(fullScreen_),
+        .script = fileOf(script_),
+        .keepsGoing = parser_.isSet(keepGoing_),
+        .record = fileOf(record_),
+        .recordsAnswers = parser_.isSet(recordAnswers_),
+        .link = linkAddress()};
 }
 
 template <class Number>
@@ -106,6 +144,26 @@ Number CommandLine::numberOf(const QCommandLineOption& option, Number lowest,
                       .arg(lowest)
                       .arg(highest)
                       .arg(text)};
+}
+
+void CommandLine::refuseBoth(const QCommandLineOption& one, const QCommandLineOption& other) const {
+    if (!parser_.isSet(one) || !parser_.isSet(other)) return;
+    throw Refused{nameOf(one) + " and " + nameOf(other) + " exclude one another."};
+}
+
+std::optional<LinkAddress> CommandLine::linkAddress() const {
+    if (!parser_.isSet(link_)) return std::nullopt;
+    const auto address = LinkAddress::read(QFile::encodeName(parser_.value(link_)).toStdString());
+    if (address) return address;
+    throw Refused{"--link takes a path, or a path and a speed that serial devices have, not \"" +
+                  parser_.value(link_) + "\"."};
+}
+
+QString CommandLine::fileOf(const QCommandLineOption& option) const {
+    if (parser_.isSet(option) && parser_.value(option).isEmpty()) {
+        throw Refused{nameOf(option) + " takes the name of a file."};
+    }
+    return parser_.value(option);
 }
 
 QString CommandLine::helpText() const {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <variant>
 
 #include <QString>
 #include <QStringList>
+
+#include "Manager/Link/link_address.h"
 
 namespace Orvo::Manager {
 
@@ -15,6 +18,11 @@ struct Options {
     std::uint32_t seed = 1;
     bool isReadOnly = false;
     bool isFullScreen = false;
+    QString script{};  ///< a file, "-" for standard input; empty: none
+    bool keepsGoing = false;
+    QString record{};  ///< a file; empty: none
+    bool recordsAnswers = false;
+    std::optional<LinkAddress> link{};
 };
 
 /// There is nothing to start: the program says this and ends. Status 0 is an answer for standard

@@ -24,6 +24,10 @@ void ManagerWindow::connectSimulator(Simulator::PowerAtStart power) {
     station_.connectSimulator(options_.seed, power);
 }
 
+void ManagerWindow::connectLink() {
+    if (options_.link) station_.connectLink(*options_.link);
+}
+
 void ManagerWindow::connectNothing() { station_.disconnect(); }
 
 void ManagerWindow::runQuickTest() {

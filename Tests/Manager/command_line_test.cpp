@@ -20,6 +20,18 @@ TEST(CommandLine, SaysHowToStart) {
     EXPECT_EQ(options.seed, 4294967295U);
 }
 
+TEST(CommandLine, SaysWhatToRunRecordAndConnect) {
+    const auto script = std::get<Options>(parse({"--script", "-", "--keep-going"}));
+    EXPECT_EQ(script.script, "-");
+    EXPECT_TRUE(script.keepsGoing);
+    const auto link = std::get<Options>(
+        parse({"--record=session", "--record-answers", "--link", "/dev/ttyS0@9600"}));
+    EXPECT_EQ(link.record, "session");
+    EXPECT_TRUE(link.recordsAnswers);
+    EXPECT_EQ(link.link.value().path, "/dev/ttyS0");
+    EXPECT_EQ(link.link.value().speed, 9600U);
+}
+
 TEST(CommandLine, TakesTheSimulatorWithoutASeed) {
     EXPECT_EQ(std::get<Options>(parse({"--simulate", "--tab", "3"})).seed, 1U);
 }
@@ -27,7 +39,7 @@ TEST(CommandLine, TakesTheSimulatorWithoutASeed) {
 TEST(CommandLine, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
     struct Row {
         QStringList words;
-        const char* says;
+        const char* says = "";
     };
     const Row rows[] = {
         {{"--zoom", "49"}, "--zoom takes a whole number from 50 to 800, not \"49\""},
@@ -42,6 +54,11 @@ TEST(CommandLine, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
         {{"--simulate", "7"}, "--simulate=7"},
         {{"--read-only=1"}, "read-only"},
         {{"--loud"}, "loud"},
+        {{"--script="}, "--script takes the name of a file"},
+        {{"--record="}, "--record takes the name of a file"},
+        {{"--script", "a", "--record", "b"}, "--script and --record exclude one another"},
+        {{"--simulate", "--link", "b"}, "--link and --simulate exclude one another"},
+        {{"--link", "/dev/ttyS0@77"}, "not \"/dev/ttyS0@77\""},
         {{"file"}, "\"file\" is not expected"},
     };
     for (const Row& row : rows) {
@@ -57,8 +74,10 @@ TEST(CommandLine, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
 TEST(CommandLine, HelpNamesEveryOption) {
     const auto help = std::get<Ending>(parse({"--zoom", "150", "--help"}));
     EXPECT_EQ(help.status, 0);
-    for (const char* option : {"--help", "--version", "--simulate[=SEED]", "--zoom <PERCENT>",
-                               "--tab <NUMBER>", "--read-only", "--fullscreen"}) {
+    for (const char* option :
+         {"--help", "--version", "--simulate[=SEED]", "--zoom <PERCENT>", "--tab <NUMBER>",
+          "--read-only", "--fullscreen", "--script <FILE>", "--keep-going", "--record <FILE>",
+          "--record-answers", "--link <PATH[@SPEED]>"}) {
         EXPECT_TRUE(help.text.contains(option)) << option;
     }
 }

@@ -50,6 +50,38 @@ TEST_F(ProgramTest, WithoutADisplayItLeavesAPictureOfEachTab) {
     }
 }
 
+TEST_F(ProgramTest, ARecordedDemonstrationIsRepeatedAlike) {
+    ASSERT_EQ(run({"--record", "session.txt", "--zoom", "50"}).status, 0);
+    const Outcome outcome = run({"--script", "session.txt"});
+    EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
+    for (const char* line : {"event OnOff\n", "event WaveForm 1 1 1\n", "event WaveForm 3 1 1\n"}) {
+        EXPECT_EQ(outcome.out.count(line), 1) << line;
+    }
+    EXPECT_FALSE(outcome.out.contains("\n!"));
+    QProcess console;
+    console.start(CONSOLE_PROGRAM, {QString::fromStdString(directory_.path() / "session.txt")});
+    EXPECT_TRUE(console.waitForFinished());
+    EXPECT_EQ(QString(console.readAllStandardOutput()), outcome.out);
+}
+
+TEST_F(ProgramTest, WhatCannotBeReadOrWrittenEndsIt) {
+    const Outcome script = run({"--script", "no such file"});
+    EXPECT_EQ(script.status, 2);
+    EXPECT_TRUE(script.error.contains("no such file"));
+    const Outcome record = run({"--record", "no/such/directory"});
+    EXPECT_NE(record.status, 0);
+    EXPECT_TRUE(record.error.contains("no/such/directory"));
+}
+
+TEST_F(ProgramTest, AComplaintEndsAScriptWithItsPlace) {
+    directory_.add({"script = get Mute 1\njump\nget Mute 1\n"});
+    const Outcome outcome = run({"--script", "script"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out.count("= 0"), 1);
+    EXPECT_TRUE(outcome.error.contains("script:2:1: "));
+    EXPECT_EQ(run({"--script", "script", "--keep-going"}).out.count("= 0"), 2);
+}
+
 TEST_F(ProgramTest, AWrongOptionEndsItWithStatusTwo) {
     const Outcome outcome = run({"--zoom", "wide"});
     EXPECT_EQ(outcome.status, 2);

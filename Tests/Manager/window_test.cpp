@@ -176,7 +176,10 @@ TEST_F(WindowTest, PicturesShowThePanelAndAnyScope) {
 }
 
 TEST_F(WindowTest, ClosingEndsWithAPromptOpen) {
-    QTimer::singleShot(0, &window_, [this] { window_.close(); });
+    QTimer soon;
+    soon.setSingleShot(true);
+    QObject::connect(&soon, &QTimer::timeout, &window_, &QWidget::close);
+    soon.start(0);
     window_.panelWidget().store().enable(Tests::id("Command1"), true);
     window_.panelWidget().store().show(Tests::id("Command1"), true);
     window_.panelWidget().store().input().click(Tests::id("Command1"));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <utility>
 
 #include "Console/text_of.h"
 #include "Orvo/core/event_table.h"
@@ -26,17 +27,6 @@ bool isFlowing(const Member& member) {
            std::find(kFlowing.begin(), kFlowing.end(), member.name) != kFlowing.end();
 }
 
-std::string wordOf(const Member& member) {
-    const auto kind = member.kind == MemberKind::method ? "call" : Console::nameOf(member.kind);
-    return std::string(kind) + ' ' + std::string(member.name);
-}
-
-std::string wordsOf(std::span<const Value> values) {
-    std::string words;
-    for (const Value& value : values) words += ' ' + Console::textOf(value);
-    return words;
-}
-
 // "12.3 s", with a point in every locale.
 std::string seconds(std::chrono::milliseconds time) {
     const auto tenths = time.count() / 100;
@@ -47,7 +37,7 @@ std::string seconds(std::chrono::milliseconds time) {
 
 void Conversation::raised(Long dispatchId, std::span<const Value> arguments) {
     const Event& event = kEvents[static_cast<std::size_t>(dispatchId - 1)];
-    write("event " + std::string(event.name) + wordsOf(arguments));
+    write(Console::eventText(event, arguments));
     ++depth_;
 }
 
@@ -55,7 +45,7 @@ void Conversation::handled() { depth_ = std::max(0, depth_ - 1); }
 
 void Conversation::called(const Member& member, std::span<const Value> arguments) {
     isLastCallShown_ = isWorthALine(member, arguments);
-    if (isLastCallShown_) write(wordOf(member) + wordsOf(arguments));
+    if (isLastCallShown_) write(Console::commandText(member, arguments));
 }
 
 void Conversation::returned(const Member&, const Value& result) {
@@ -77,7 +67,8 @@ bool Conversation::isNews(const Member& member, std::span<const Value> arguments
     if (member.kind != MemberKind::let) return true;
     if (lastSaid_.size() > kMostRemembered) lastSaid_.clear();
     const std::string value = Console::textOf(arguments.back());
-    std::string& last = lastSaid_[{member.number, wordsOf(arguments.first(arguments.size() - 1))}];
+    std::string& last =
+        lastSaid_[Console::commandText(member, arguments.first(arguments.size() - 1))];
     return std::exchange(last, value) != value;
 }
 

@@ -4,7 +4,6 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "Manager/Station/event_log.h"
 #include "Manager/Station/observed_panel.h"
@@ -50,8 +49,8 @@ private:
     std::chrono::milliseconds timeOfLastLine_{0};
     int depth_ = 0;
     bool isLastCallShown_ = false;
-    // The last value by member and index.
-    std::map<std::pair<int, std::string>, std::string> lastSaid_;
+    // The last value by the call without it.
+    std::map<std::string, std::string> lastSaid_;
 };
 
 }  // namespace Orvo::Manager

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "Manager/Link/link_device.h"
+
 namespace Orvo::Manager {
 
 Station::Station(MarvaneAssistant& panel)
@@ -18,6 +20,11 @@ Station::~Station() = default;
 void Station::connectSimulator(std::uint32_t seed, Simulator::PowerAtStart power) {
     disconnect();
     connect(std::make_unique<SimulatedDevice>(panel_, calls_, seed, power));
+}
+
+void Station::connectLink(const LinkAddress& address) {
+    disconnect();
+    connect(std::make_unique<LinkDevice>(panel_, calls_, address));
 }
 
 void Station::disconnect() {
@@ -50,16 +57,19 @@ Situation Station::situation() const {
 }
 
 void Station::called(const Member& member, std::span<const Value> arguments) {
+    if (listener_ != nullptr) listener_->called(member, arguments);
     conversation_.called(member, arguments);
     traces_.note(member, arguments);
     if (member.name == "Connected") isLinkUp_ = bool(std::get<Boolean>(arguments[0]));
 }
 
 void Station::returned(const Member& member, const Value& result) {
+    if (listener_ != nullptr) listener_->returned(member, result);
     conversation_.returned(member, result);
 }
 
 void Station::failed(const Member& member, const Error& error) {
+    if (listener_ != nullptr) listener_->failed(member, error);
     conversation_.failed(member, error);
 }
 

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <memory>
 
+#include "Manager/Link/link_address.h"
 #include "Manager/Station/conversation.h"
 #include "Manager/Station/event_log.h"
 #include "Manager/Station/observed_panel.h"
@@ -24,6 +25,7 @@ public:
     /// One device at a time: what was connected is disconnected first.
     void connectSimulator(std::uint32_t seed,
                           Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
+    void connectLink(const LinkAddress& address);
     /// The panel shows that the link is down, and for the rest what it showed last.
     void disconnect();
     [[nodiscard]] bool isConnected() const { return device_ != nullptr; }
@@ -38,6 +40,8 @@ public:
     [[nodiscard]] Conversation& conversation() { return conversation_; }
     [[nodiscard]] EventLog& log() { return log_; }
     [[nodiscard]] const Traces& traces() const { return traces_; }
+    /// Who else listens to all that is called; null takes it away again.
+    void listenWith(CallListener* listener) { listener_ = listener; }
 
 private:
     void connect(std::unique_ptr<Device> device);
@@ -51,6 +55,7 @@ private:
     EventLog log_;
     Conversation conversation_{log_};
     Traces traces_;
+    CallListener* listener_ = nullptr;
     bool isLinkUp_ = false;
     bool wasConnected_ = false;
     Milliseconds now_{0};

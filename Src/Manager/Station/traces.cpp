@@ -18,9 +18,9 @@ constexpr std::string_view kDrawGrid = "DisegnaAssi";
 constexpr bool isChannel(Integer channel) { return channel >= 1 && channel <= kChannels; }
 constexpr std::size_t at(Integer channel) { return static_cast<std::size_t>(channel - 1); }
 
-constexpr auto kSurfaceHeight = static_cast<float>(
-    Layout::describe(Layout::pictureRef("Picture1").id).place.height / Layout::kTwipsPerPixel -
-    2 * Runtime::kPictureBorder);
+constexpr int kPictureHeight =
+    Layout::describe(Layout::pictureRef("Picture1").id).place.height / Layout::kTwipsPerPixel;
+constexpr float kSurfaceHeight = kPictureHeight - 2 * Runtime::kPictureBorder;
 
 // Volts at a height on the surface, by two marks of its scale.
 class Scale {

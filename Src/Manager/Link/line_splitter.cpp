@@ -1,0 +1,20 @@
+#include "Manager/Link/line_splitter.h"
+
+#include <utility>
+
+namespace Orvo::Manager {
+
+std::optional<LineSplitter::Line> LineSplitter::next() {
+    const std::size_t end = buffer_.find('\n');
+    if (end == std::string::npos) {
+        isTooLong_ = isTooLong_ || buffer_.size() > kLongestLine;
+        if (isTooLong_) buffer_.clear();
+        return std::nullopt;
+    }
+    Line line{buffer_.substr(0, end), std::exchange(isTooLong_, false) || end > kLongestLine};
+    buffer_.erase(0, end + 1);
+    if (line.isTooLong) line.text.clear();
+    return line;
+}
+
+}  // namespace Orvo::Manager

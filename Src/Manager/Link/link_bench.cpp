@@ -1,0 +1,33 @@
+#include "Manager/Link/link_bench.h"
+
+#include <cstddef>
+
+namespace Orvo::Manager {
+namespace {
+
+Error notOverALink() { return {70, "A link can't do that"}; }
+
+}  // namespace
+
+LinkBench::LinkBench(MarvaneAssistant& panel, MarvaneAssistantInterface& calls)
+    : calls_(calls), events_(panel.connect([this](Long dispatchId, std::span<Value> arguments) {
+          const Event& event = kEvents[static_cast<std::size_t>(dispatchId - 1)];
+          if (listener_ != nullptr) listener_->raised(event, arguments);
+      })) {}
+
+InvokeResult LinkBench::invoke(Long dispatchId, MemberKind kind, std::span<const Value> arguments) {
+    try {
+        const Member& member = findMember(dispatchId, kind);
+        return {.value = member.call(calls_, convertArguments(member, arguments))};
+    } catch (const Error& error) {
+        return {.error = error};
+    }
+}
+
+// The grammar of a link keeps all of these away but one.
+Console::Person& LinkBench::person() { throw notOverALink(); }
+Runtime::Store& LinkBench::widgets() { throw notOverALink(); }
+void LinkBench::shoot(const String&) { throw notOverALink(); }
+void LinkBench::renew() { throw Error(70, "The panel of a running program can't be renewed"); }
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,110 @@
+#include "Manager/Link/link_device.h"
+
+#include <algorithm>
+#include <array>
+#include <system_error>
+#include <utility>
+
+namespace Orvo::Manager {
+namespace {
+
+using namespace std::chrono_literals;
+using SteadyClock = std::chrono::steady_clock;
+
+constexpr Console::Grammar kGrammar{.speaker = Console::Grammar::Speaker::device,
+                                    .place = Console::Place::inWindow};
+constexpr auto kLongestMoment = 8ms;
+constexpr std::size_t kPiece = 16384;  // bytes
+// Whoever is behind with reading is not asked what else there is to answer.
+constexpr std::size_t kMuchUnread = 65536;  // bytes
+
+}  // namespace
+
+LinkDevice::LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
+                       LinkAddress address)
+    : bench_(panel, calls), calls_(calls), address_(std::move(address)) {
+    calls_.Connected(false);
+}
+
+LinkDevice::~LinkDevice() = default;
+
+std::string LinkDevice::name() const {
+    const std::string speed = address_.speed ? " at " + std::to_string(*address_.speed) : "";
+    return "Link to " + address_.path + speed + (port_ ? "" : " (not there)");
+}
+
+// A handler that waits lets time pass within time that passes.
+void LinkDevice::advance(std::chrono::milliseconds elapsed) {
+    silence_ += elapsed;
+    if (isListening_) return;
+    untilTry_ -= elapsed;
+    if (port_ == nullptr && untilTry_ <= 0ms) tryToOpen();
+    if (port_ == nullptr) return;
+    isListening_ = true;
+    listen();
+    isListening_ = false;
+    if (isBroken_) close();
+}
+
+void LinkDevice::tryToOpen() {
+    untilTry_ = kBetweenTries;
+    try {
+        port_ = std::make_unique<LinkPort>(address_);
+    } catch (const std::system_error&) {
+        return;
+    }
+    session_.emplace(bench_, kGrammar, [this](std::string_view line) { say(line); });
+}
+
+void LinkDevice::close() {
+    session_.reset();
+    port_.reset();
+    lines_ = {};
+    unsent_.clear();
+    isBroken_ = false;
+    untilTry_ = kBetweenTries;
+    calls_.Connected(false);
+}
+
+void LinkDevice::listen() {
+    const auto end = SteadyClock::now() + kLongestMoment;
+    flush();
+    while (!isBroken_ && unsent_.size() < kMuchUnread && SteadyClock::now() < end) {
+        if (const auto line = lines_.next()) {
+            answer(*line);
+        } else if (!hear()) {
+            break;
+        }
+    }
+    flush();
+}
+
+bool LinkDevice::hear() {
+    std::array<char, kPiece> bytes{};
+    const auto count = port_->read(bytes);
+    isBroken_ = isBroken_ || !count;
+    if (!count || *count == 0) return false;
+    lines_.add({bytes.data(), *count});
+    return true;
+}
+
+void LinkDevice::answer(const LineSplitter::Line& line) {
+    silence_ = 0ms;
+    if (line.isTooLong) return say("? the line is too long");
+    session_->run(line.text);
+}
+
+void LinkDevice::say(std::string_view line) {
+    if (isBroken_) return;
+    unsent_.append(line).append("\n");
+    isBroken_ = unsent_.size() > kMostUnread;
+}
+
+void LinkDevice::flush() {
+    if (unsent_.empty()) return;
+    const auto count = port_->write(unsent_);
+    isBroken_ = isBroken_ || !count;
+    unsent_.erase(0, count.value_or(0));
+}
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Console/session.h"
+#include "Manager/Link/line_splitter.h"
+#include "Manager/Link/link_bench.h"
+#include "Manager/Link/link_port.h"
+#include "Manager/Station/device.h"
+
+namespace Orvo::Manager {
+
+/// A device or program at the other end of a link, which speaks the host's side of panel script
+/// and is answered in it. It says itself what the panel shows, `Connected` included; when the link
+/// breaks the panel shows that, what `on` has said is forgotten, and the link is tried again.
+///
+/// Nothing that the other side does holds up the window: it is heard for a moment at a time, a line
+/// beyond LineSplitter::kLongestLine is refused as a whole, and whoever doesn't read the answers is
+/// cut off.
+class LinkDevice final : public Device {
+public:
+    static constexpr std::chrono::milliseconds kBetweenTries{1000};
+    static constexpr std::size_t kMostUnread = 1 << 20;  // bytes
+
+    LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls, LinkAddress address);
+    ~LinkDevice() override;
+
+    [[nodiscard]] std::string name() const override;
+    void advance(std::chrono::milliseconds elapsed) override;
+    [[nodiscard]] std::chrono::milliseconds sinceLastWord() const override { return silence_; }
+
+private:
+    void tryToOpen();
+    void close();
+    void listen();
+    bool hear();
+    void answer(const LineSplitter::Line& line);
+    void say(std::string_view line);
+    void flush();
+
+    LinkBench bench_;
+    MarvaneAssistantInterface& calls_;
+    const LinkAddress address_;
+    std::chrono::milliseconds silence_{0};
+    std::chrono::milliseconds untilTry_{0};
+
+    // While the link is open.
+    std::unique_ptr<LinkPort> port_;
+    std::optional<Console::Session> session_;
+    LineSplitter lines_;
+    std::string unsent_;
+    bool isBroken_ = false;
+    bool isListening_ = false;
+};
+
+}  // namespace Orvo::Manager

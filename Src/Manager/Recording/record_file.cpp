@@ -1,0 +1,47 @@
+#include "Manager/Recording/record_file.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <cstdio>
+#include <system_error>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Orvo::Manager {
+namespace {
+
+// It may hold passwords.
+constexpr mode_t kForTheOwner = 0600;
+
+}  // namespace
+
+RecordFile::RecordFile(const std::string& path)
+    : path_(path),
+      descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kForTheOwner)) {
+    if (descriptor_ < 0) throw std::system_error(errno, std::generic_category(), path);
+}
+
+RecordFile::~RecordFile() {
+    if (descriptor_ >= 0) ::close(descriptor_);
+}
+
+void RecordFile::write(std::string_view lines) {
+    while (descriptor_ >= 0 && !lines.empty()) {
+        const ssize_t count = ::write(descriptor_, lines.data(), lines.size());
+        if (count >= 0) {
+            lines.remove_prefix(static_cast<std::size_t>(count));
+        } else if (errno != EINTR) {
+            giveUp();
+        }
+    }
+}
+
+void RecordFile::giveUp() {
+    const std::string reason = std::generic_category().message(errno);
+    std::fprintf(stderr, "%s: %s: the recording ends here\n", path_.c_str(), reason.c_str());
+    ::close(descriptor_);
+    descriptor_ = -1;
+}
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,65 @@
+#include "Manager/Script/run_script.h"
+
+#include <cstdio>
+#include <exception>
+
+#include <poll.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include "Console/script.h"
+#include "Manager/Script/window_bench.h"
+
+namespace Orvo::Manager {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Console::Grammar kGrammar{.speaker = Console::Grammar::Speaker::anyone,
+                                    .place = Console::Place::inWindow};
+// Closing the window wakes nobody who waits for input.
+constexpr auto kLook = 200ms;
+
+/// What is thrown when nobody is left to wait for.
+struct WindowClosed {};
+
+// At its end, too.
+bool isReadable(int descriptor) {
+    pollfd file{descriptor, POLLIN, 0};
+    return ::poll(&file, 1, 0) != 0;
+}
+
+void live(const WindowBench& bench, int descriptor) {
+    QCoreApplication::processEvents();
+    if (isReadable(descriptor)) return;
+    const QSocketNotifier input(descriptor, QSocketNotifier::Read);
+    QTimer look;
+    look.start(kLook);
+    while (!isReadable(descriptor)) {
+        if (!bench.isShown()) throw WindowClosed{};
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
+}  // namespace
+
+int runScript(const Options& options) {
+    try {
+        WindowBench bench(options.zoom / 100.0);
+        const auto atComplaint =
+            options.keepsGoing ? Console::AtComplaint::goOn : Console::AtComplaint::stop;
+        return Console::runScript(bench, kGrammar, QFile::encodeName(options.script).toStdString(),
+                                  atComplaint,
+                                  [&bench](int descriptor) { live(bench, descriptor); });
+    } catch (const WindowClosed&) {
+        return Console::done;
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "marvane-manager: %s\n", failure.what());
+        return Console::cannotRun;
+    }
+}
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,233 @@
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+#include <fstream>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include "Manager/Station/station.h"
+#include "Support/bench.h"
+#include "Support/temporary_directory.h"
+
+namespace Orvo::Manager {
+namespace {
+
+using namespace std::chrono_literals;
+using Tests::id;
+
+/// A station whose link leads to this test.
+class LinkTest : public Tests::PanelTest {
+protected:
+    ~LinkTest() override {
+        hangUp();
+        if (listener_ >= 0) ::close(listener_);
+    }
+
+    void connectLink() { station_.connectLink({path_}); }
+
+    void listenOnSocket() {
+        sockaddr_un name{};
+        name.sun_family = AF_UNIX;
+        std::strncpy(name.sun_path, path_.c_str(), sizeof name.sun_path - 1);
+        listener_ = ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0);
+        ASSERT_EQ(::bind(listener_, reinterpret_cast<sockaddr*>(&name), sizeof name), 0);
+        ASSERT_EQ(::listen(listener_, 1), 0);
+    }
+
+    /// The station has connected to the socket.
+    void pickUp() {
+        other_ = ::accept4(listener_, nullptr, nullptr, SOCK_NONBLOCK);
+        ASSERT_GE(other_, 0);
+    }
+
+    void openTerminal() {
+        other_ = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
+        ASSERT_EQ(::grantpt(other_), 0);
+        ASSERT_EQ(::unlockpt(other_), 0);
+        path_ = ::ptsname(other_);
+    }
+
+    void openPipe() {
+        ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
+        connectLink();
+        station_.advance(25ms);
+        other_ = ::open(path_.c_str(), O_WRONLY | O_NONBLOCK);
+        ASSERT_GE(other_, 0);
+    }
+
+    void goOnline() {
+        listenOnSocket();
+        connectLink();
+        station_.advance(25ms);
+        pickUp();
+    }
+
+    void hangUp() {
+        if (other_ >= 0) ::close(other_);
+        other_ = -1;
+    }
+
+    /// As much as fits.
+    std::size_t send(const std::string& text) const {
+        return std::size_t(std::max<ssize_t>(0, ::write(other_, text.data(), text.size())));
+    }
+
+    std::string received() const {
+        std::string text;
+        std::string piece(65536, ' ');
+        for (ssize_t count = 0; (count = ::read(other_, piece.data(), piece.size())) > 0;) {
+            text.append(piece, 0, std::size_t(count));
+        }
+        return text;
+    }
+
+    std::string ask(const std::string& text) {
+        send(text);
+        station_.advance(25ms);
+        return received();
+    }
+
+    Tests::TemporaryDirectory directory_;
+    std::string path_ = directory_.path() / "link";
+    int listener_ = -1;
+    int other_ = -1;
+    Station station_{panel_};
+};
+
+TEST_F(LinkTest, ASocketCarriesCommandsAnswersAndEvents) {
+    goOnline();
+    EXPECT_EQ(ask("let Connected true\r\nget Mute 1\n"), "ok\n= 0\n");
+    EXPECT_TRUE(isLit("shpConnected"));
+    EXPECT_TRUE(station_.situation().isLinkUp);
+    ask("on Mute let Mute 1 true\n");
+    person_.click(id("Command12"));
+    station_.advance(25ms);
+    EXPECT_EQ(received(), "event Mute 1\n  ok\n");
+    EXPECT_EQ(panel_.Mute(1), Boolean(true));
+}
+
+TEST_F(LinkTest, ATerminalIsReadRaw) {
+    openTerminal();
+    station_.connectLink({path_, 115200});
+    station_.advance(25ms);
+    EXPECT_EQ(ask("let PowerOn true\nget PowerOn\n"), "ok\n= -1\n");
+    EXPECT_EQ(station_.situation().connectedTo, "Link to " + path_ + " at 115200");
+}
+
+TEST_F(LinkTest, APipeBringsCommands) {
+    openPipe();
+    send("let Connected true\n");
+    station_.advance(25ms);
+    EXPECT_TRUE(isLit("shpConnected"));
+    hangUp();
+    station_.advance(25ms);
+    EXPECT_FALSE(isLit("shpConnected"));
+}
+
+TEST_F(LinkTest, ABreakShowsAndTheLinkComesBackFresh) {
+    goOnline();
+    ask("let Connected true\non Mute get Mute 1\nlet Volume 1 -2");
+    hangUp();
+    station_.advance(25ms);
+    EXPECT_FALSE(isLit("shpConnected"));
+    EXPECT_TRUE(station_.situation().connectedTo.ends_with("(not there)"));
+    station_.advance(999ms);
+    EXPECT_LT(::accept(listener_, nullptr, nullptr), 0);
+    station_.advance(25ms);
+    pickUp();
+    EXPECT_EQ(ask("get Mute 1\n"), "= 0\n");
+    person_.click(id("Command12"));
+    station_.advance(25ms);
+    EXPECT_EQ(received(), "event Mute 1\n");
+}
+
+TEST_F(LinkTest, WaitsForWhatIsNotThereYet) {
+    connectLink();
+    station_.advance(25ms);
+    EXPECT_TRUE(station_.situation().connectedTo.ends_with("(not there)"));
+    listenOnSocket();
+    station_.advance(1s);
+    pickUp();
+    EXPECT_EQ(ask("get PowerOn\n"), "= 0\n");
+    std::ofstream(directory_.path() / "plain") << "let PowerOn true\n";
+    station_.connectLink({directory_.path() / "plain"});
+    station_.advance(25ms);
+    EXPECT_TRUE(station_.situation().connectedTo.ends_with("(not there)"));
+}
+
+TEST_F(LinkTest, OnlyTheHostsCommandsAreTaken) {
+    goOnline();
+    for (const char* line : {"click Command12", "answer x", "wait 9", "tab 1", "quit", "shot x",
+                             "set Frame6 visible false", "on Mute click Command12", "\x01\xFF\"\\",
+                             "let", "let Mute 1 maybe"}) {
+        const std::string answer = ask(line + std::string("\n"));
+        EXPECT_TRUE(answer.starts_with("? ")) << line << ": " << answer;
+        EXPECT_EQ(std::count(answer.begin(), answer.end(), '\n'), 1) << line;
+    }
+    EXPECT_EQ(takeLines(), Lines());
+    EXPECT_EQ(ask("new\n"), "! 70 The panel of a running program can't be renewed\n");
+}
+
+TEST_F(LinkTest, AMegabyteWithoutALineBreakIsOneRefusal) {
+    goOnline();
+    std::string answers;
+    for (std::size_t sent = 0; sent < 1'000'000;) {
+        sent += send(std::string(50'000, 'x'));
+        station_.advance(25ms);
+        answers += received();
+    }
+    EXPECT_EQ(answers, "");
+    EXPECT_EQ(ask("\nget Mute 1\n"), "? the line is too long\n= 0\n");
+}
+
+TEST_F(LinkTest, AFloodIsHeardForAMomentAtATime) {
+    goOnline();
+    std::string flood;
+    while (flood.size() < 150'000) flood += "get Mute 1\n";
+    std::size_t answered = 0;
+    for (int i = 0; i < 50; ++i) {
+        send(flood);
+        const auto begin = std::chrono::steady_clock::now();
+        station_.advance(25ms);
+        EXPECT_LT(std::chrono::steady_clock::now() - begin, 500ms);
+        answered += received().size();
+    }
+    EXPECT_GT(answered, 50'000U);
+    EXPECT_TRUE(station_.situation().connectedTo.ends_with("/link"));
+}
+
+TEST_F(LinkTest, WhoeverReadsNothingIsCutOff) {
+    goOnline();
+    ask("on Mute members\n");
+    bool isCutOff = false;
+    for (int i = 0; i < 20'000 && !isCutOff; ++i) {
+        person_.click(id("Command12"));
+        if (i % 50 == 0) station_.advance(1ms);
+        isCutOff = station_.situation().connectedTo.ends_with("(not there)");
+    }
+    EXPECT_TRUE(isCutOff);
+    EXPECT_LT(received().size(), 3'000'000U);
+}
+
+TEST_F(LinkTest, HandlersAreCounted) {
+    goOnline();
+    std::string answer;
+    for (int i = 0; i < 101; ++i) answer = ask("on Mute get Mute 1\n");
+    EXPECT_EQ(answer, "! 7 Out of memory\n");
+}
+
+TEST(LinkAddress, ReadsASpeedBehindThePath) {
+    EXPECT_EQ(LinkAddress::read("/dev/ttyS0@9600").value().speed, 9600U);
+    EXPECT_EQ(LinkAddress::read("/run/me@home").value().path, "/run/me@home");
+    EXPECT_FALSE(LinkAddress::read("/dev/ttyS0@9601"));
+    EXPECT_FALSE(LinkAddress::read("@9600"));
+    EXPECT_FALSE(LinkAddress::read(""));
+}
+
+}  // namespace
+}  // namespace Orvo::Manager
