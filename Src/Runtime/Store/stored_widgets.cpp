@@ -361,8 +361,6 @@ void StoredSlider::enable(bool enabled) {
     if (!enabled) hold(false);
 }
 
-bool StoredSlider::moveTo(int position) {
-    return change(state_.position, state_.within(position));
-}
+bool StoredSlider::moveTo(int position) { return change(state_.position, state_.within(position)); }
 
 }  // namespace Orvo::Runtime
