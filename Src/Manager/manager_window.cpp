@@ -53,10 +53,8 @@ ManagerWindow::ManagerWindow(const Options& options)
     station_.listenWith(recorder_.get());
     layOut();
     connect(saver_, &FileSaver::said, statusLine_, &StatusLine::say);
-    panel_->panel().setErrorHandler([this](const Error& error) {
-        station_.conversation().failed(error);
-        statusLine_->say("Error " + QString::number(error.number()) + ": " + error.what());
-    });
+    listenToErrors();
+    station_.renewWith([this] { renewPanel(); });
     setReadOnly(options.isReadOnly);
     selectTab(options.tab);
     zoomArea_->setZoom(options.zoom);
@@ -65,6 +63,20 @@ ManagerWindow::ManagerWindow(const Options& options)
 }
 
 ManagerWindow::~ManagerWindow() { panel_->panel().setErrorHandler({}); }
+
+void ManagerWindow::listenToErrors() {
+    panel_->panel().setErrorHandler([this](const Error& error) {
+        station_.conversation().failed(error);
+        statusLine_->say("Error " + QString::number(error.number()) + ": " + error.what());
+    });
+}
+
+void ManagerWindow::renewPanel() {
+    if (recorder_ != nullptr) recorder_->panelEnds();
+    panel_->renew();
+    if (recorder_ != nullptr) recorder_->panelBegins(panel_->panel(), panel_->store());
+    listenToErrors();
+}
 
 void ManagerWindow::layOut() {
     setCentralWidget(zoomArea_);

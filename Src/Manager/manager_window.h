@@ -81,6 +81,8 @@ protected:
 
 private:
     void layOut();
+    void listenToErrors();
+    void renewPanel();
     void startClock();
     void advance();
     void adaptSize();

@@ -170,7 +170,7 @@ TEST_F(LinkTest, OnlyTheHostsCommandsAreTaken) {
         EXPECT_EQ(std::count(answer.begin(), answer.end(), '\n'), 1) << line;
     }
     EXPECT_EQ(takeLines(), Lines());
-    EXPECT_EQ(ask("new\n"), "! 70 The panel of a running program can't be renewed\n");
+    EXPECT_EQ(ask("new\n"), "! 70 The panel of this program can't be renewed\n");
 }
 
 TEST_F(LinkTest, AMegabyteWithoutALineBreakIsOneRefusal) {

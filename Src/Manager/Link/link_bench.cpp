@@ -1,6 +1,7 @@
 #include "Manager/Link/link_bench.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace Orvo::Manager {
 namespace {
@@ -9,11 +10,18 @@ Error notOverALink() { return {70, "A link can't do that"}; }
 
 }  // namespace
 
-LinkBench::LinkBench(MarvaneAssistant& panel, MarvaneAssistantInterface& calls)
-    : calls_(calls), events_(panel.connect([this](Long dispatchId, std::span<Value> arguments) {
-          const Event& event = kEvents[static_cast<std::size_t>(dispatchId - 1)];
-          if (listener_ != nullptr) listener_->raised(event, arguments);
-      })) {}
+LinkBench::LinkBench(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
+                     std::function<void()> renew)
+    : panel_(panel), calls_(calls), renew_(std::move(renew)) {
+    connect();
+}
+
+void LinkBench::connect() {
+    events_ = panel_.connect([this](Long dispatchId, std::span<Value> arguments) {
+        const Event& event = kEvents[static_cast<std::size_t>(dispatchId - 1)];
+        if (listener_ != nullptr) listener_->raised(event, arguments);
+    });
+}
 
 InvokeResult LinkBench::invoke(Long dispatchId, MemberKind kind, std::span<const Value> arguments) {
     try {
@@ -24,10 +32,9 @@ InvokeResult LinkBench::invoke(Long dispatchId, MemberKind kind, std::span<const
     }
 }
 
-// The grammar of a link keeps all of these away but one.
+// The grammar of a link keeps these away.
 Console::Person& LinkBench::person() { throw notOverALink(); }
 Runtime::Store& LinkBench::widgets() { throw notOverALink(); }
 void LinkBench::shoot(const String&) { throw notOverALink(); }
-void LinkBench::renew() { throw Error(70, "The panel of a running program can't be renewed"); }
 
 }  // namespace Orvo::Manager

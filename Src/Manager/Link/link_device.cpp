@@ -21,8 +21,8 @@ constexpr std::size_t kMuchUnread = 65536;  // bytes
 }  // namespace
 
 LinkDevice::LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
-                       LinkAddress address)
-    : bench_(panel, calls), calls_(calls), address_(std::move(address)) {
+                       LinkAddress address, std::function<void()> renew)
+    : bench_(panel, calls, std::move(renew)), calls_(calls), address_(std::move(address)) {
     calls_.Connected(false);
 }
 

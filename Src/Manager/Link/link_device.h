@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,11 +26,14 @@ public:
     static constexpr std::chrono::milliseconds kBetweenTries{1000};
     static constexpr std::size_t kMostUnread = 1 << 20;  // bytes
 
-    LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls, LinkAddress address);
+    /// `renew` as for LinkBench, by way of `panelRenewed`.
+    LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls, LinkAddress address,
+               std::function<void()> renew);
     ~LinkDevice() override;
 
     [[nodiscard]] std::string name() const override;
     void advance(std::chrono::milliseconds elapsed) override;
+    void panelRenewed() override { bench_.connect(); }
     [[nodiscard]] std::chrono::milliseconds sinceLastWord() const override { return silence_; }
 
 private:

@@ -23,21 +23,31 @@ bool isText(const Value& value) { return std::holds_alternative<String>(value); 
 
 Recorder::Recorder(const std::string& file, MarvaneAssistant& panel, Runtime::Store& store,
                    Answers answers)
-    : file_(file),
-      store_(store),
-      answers_(answers),
-      time_(store.now()),
-      events_(panel.connect([this](Long dispatchId, std::span<Value> arguments) {
-          raised(kEvents[static_cast<std::size_t>(dispatchId - 1)], arguments);
-      })) {
+    : file_(file), answers_(answers) {
     file_.write(kHeading);
-    store_.input().observeWith(this);
+    panelBegins(panel, store);
 }
 
 Recorder::~Recorder() {
-    store_.input().observeWith(nullptr);
+    store_->input().observeWith(nullptr);
     writeWait();
     file_.write(given_ + pending_);
+}
+
+void Recorder::panelEnds() {
+    write("new\n");
+    store_->input().observeWith(nullptr);
+    file_.write(std::exchange(given_, {}) + std::exchange(pending_, {}));
+    deeds_ = 0;
+}
+
+void Recorder::panelBegins(MarvaneAssistant& panel, Runtime::Store& store) {
+    store_ = &store;
+    time_ = store.now();
+    store.input().observeWith(this);
+    events_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
+        raised(kEvents[static_cast<std::size_t>(dispatchId - 1)], arguments);
+    });
 }
 
 void Recorder::called(const Member& member, std::span<const Value> arguments) {
@@ -51,7 +61,7 @@ void Recorder::failed(const Member&, const Error& error) {
 void Recorder::does(const Runtime::Deed& deed) {
     writeWait();
     ++deeds_;
-    put(deedText(deed, store_));
+    put(deedText(deed, *store_));
 }
 
 void Recorder::did() {
@@ -77,7 +87,7 @@ void Recorder::write(std::string_view line) {
 }
 
 void Recorder::writeWait() {
-    auto time = store_.now() - std::exchange(time_, store_.now());
+    auto time = store_->now() - std::exchange(time_, store_->now());
     while (time.count() > 0) {
         const auto wait = std::min(time, kLongestWait);
         put("wait " + std::to_string(wait.count()) + '\n');

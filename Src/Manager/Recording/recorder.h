@@ -31,6 +31,10 @@ public:
     Recorder(const Recorder&) = delete;
     Recorder& operator=(const Recorder&) = delete;
 
+    /// The panel is about to be exchanged for a fresh one, and has been.
+    void panelEnds();
+    void panelBegins(MarvaneAssistant& panel, Runtime::Store& store);
+
     void called(const Member& member, std::span<const Value> arguments) override;
     void returned(const Member&, const Value&) override {}
     void failed(const Member& member, const Error& error) override;
@@ -46,9 +50,9 @@ private:
     void put(std::string_view line);
 
     RecordFile file_;
-    Runtime::Store& store_;
+    Runtime::Store* store_ = nullptr;
     Answers answers_;
-    std::chrono::milliseconds time_;
+    std::chrono::milliseconds time_{0};
     int deeds_ = 0;
     // Of the deed that goes on: the answers to its prompts, which the script needs to have before;
     // and the deed with all that follows.

@@ -31,6 +31,8 @@ public:
     /// An event is raised; everything up to `handled` is the answer to it.
     void raised(Long dispatchId, std::span<const Value> arguments);
     void handled();
+    /// The panel is another one: no answer to an event is going on.
+    void startAnew() { depth_ = 0; }
 
     void called(const Member& member, std::span<const Value> arguments) override;
     void returned(const Member& member, const Value& result) override;

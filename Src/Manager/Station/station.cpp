@@ -6,12 +6,8 @@
 
 namespace Orvo::Manager {
 
-Station::Station(MarvaneAssistant& panel)
-    : panel_(panel),
-      calls_(panel, *this),
-      beforeDevice_(panel.connect([this](Long dispatchId, std::span<Value> arguments) {
-          conversation_.raised(dispatchId, arguments);
-      })) {
+Station::Station(MarvaneAssistant& panel) : panel_(panel), calls_(panel, *this) {
+    hearBeforeDevice();
     connect(nullptr);
 }
 
@@ -24,7 +20,7 @@ void Station::connectSimulator(std::uint32_t seed, Simulator::PowerAtStart power
 
 void Station::connectLink(const LinkAddress& address) {
     disconnect();
-    connect(std::make_unique<LinkDevice>(panel_, calls_, address));
+    connect(std::make_unique<LinkDevice>(panel_, calls_, address, [this] { renewPanel(); }));
 }
 
 void Station::disconnect() {
@@ -36,7 +32,28 @@ void Station::disconnect() {
 void Station::connect(std::unique_ptr<Device> device) {
     device_ = std::move(device);
     wasConnected_ |= isConnected();
+    hearAfterDevice();
+}
+
+void Station::hearBeforeDevice() {
+    beforeDevice_ = panel_.connect([this](Long dispatchId, std::span<Value> arguments) {
+        conversation_.raised(dispatchId, arguments);
+    });
+}
+
+void Station::hearAfterDevice() {
     afterDevice_ = panel_.connect([this](Long, std::span<Value>) { conversation_.handled(); });
+}
+
+void Station::renewPanel() {
+    if (!renew_) throw Error(70, "The panel of this program can't be renewed");
+    renew_();
+    conversation_.startAnew();
+    traces_ = {};
+    isLinkUp_ = false;
+    hearBeforeDevice();
+    device_->panelRenewed();
+    hearAfterDevice();
 }
 
 Simulator::SimulatedHost* Station::simulator() const {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "Manager/Link/link_address.h"
 #include "Manager/Station/conversation.h"
@@ -40,11 +42,17 @@ public:
     [[nodiscard]] Conversation& conversation() { return conversation_; }
     [[nodiscard]] EventLog& log() { return log_; }
     [[nodiscard]] const Traces& traces() const { return traces_; }
+    /// How a device that asks for it gets a fresh panel in the place of this one; without it, or
+    /// when nothing is given, such a device is refused with error 70.
+    void renewWith(std::function<void()> renew) { renew_ = std::move(renew); }
     /// Who else listens to all that is called; null takes it away again.
     void listenWith(CallListener* listener) { listener_ = listener; }
 
 private:
     void connect(std::unique_ptr<Device> device);
+    void hearBeforeDevice();
+    void hearAfterDevice();
+    void renewPanel();
 
     void called(const Member& member, std::span<const Value> arguments) override;
     void returned(const Member& member, const Value& result) override;
@@ -56,6 +64,7 @@ private:
     Conversation conversation_{log_};
     Traces traces_;
     CallListener* listener_ = nullptr;
+    std::function<void()> renew_;
     bool isLinkUp_ = false;
     bool wasConnected_ = false;
     Milliseconds now_{0};

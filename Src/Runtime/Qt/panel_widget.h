@@ -43,6 +43,11 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+    /// Releases the panel and creates a fresh one in its place, with fresh widgets; also from
+    /// within a handler of one of the panel's events. `panel()` stays the same object, but nothing
+    /// is connected to it; `store()` is another one. Throws what start-up throws.
+    void renew();
+
     /// What the panel changes is on the screen a frame later; this brings it there now, for
     /// instance for a `grab`.
     void flush();
