@@ -135,8 +135,8 @@ A device or a program at the other end of a link may send only the commands of t
 others are answered with `?`, also where they stand in an `on`: whoever drives the panel from outside
 can neither press its buttons nor answer its prompts.
 
-`new` ends with error 70 there: the panel is the program's. What `on` has said is forgotten when the
-link breaks. A line above 64 KiB is answered with one `?` and dropped as a whole; whoever leaves more
+`new` gives a fresh panel there too, in the same window; a program that was started to be watched
+only keeps it so. What `on` has said is forgotten then, and when the link breaks. A line above 64 KiB is answered with one `?` and dropped as a whole; whoever leaves more
 than 1 MiB of answers and events unread is cut off. A pipe carries commands only.
 )";
 

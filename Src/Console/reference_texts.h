@@ -95,7 +95,7 @@ inline constexpr auto kMemberTexts = std::to_array<MemberText>({
     {"DisegnaFormaDOnda",
                       "Clears a channel's oscilloscope, draws its grid and joins the samples with index 1 up to the array's upper bound over its width.",
                       "`intNumCanale` 1 to 4; `arrSamples` samples from 0 to 255, of which 128 lies near 0 V and larger ones lie lower; others lie outside the surface.",
-                      "5 for a channel outside 1 to 4. 9 for an array without a dimension, and for one with several dimensions or a lower bound above 1 when its upper bound is 2 or more; 6 for an upper bound above 32767; in these cases the grid has been drawn."},
+                      "5 for a channel outside 1 to 4. 9 for an array without a dimension, and for one with several dimensions or a lower bound above 1 when its upper bound is 2 or more; 6 for an upper bound above 32767 or below -32767; in these cases the grid has been drawn."},
     {"Mute",          "Mute state of a channel, or of all channels and the amplifier-wide lamp. After every write, whatever the index, the amplifier-wide lamp follows when all channels that count agree.",
                       "`intChannel` 1 to 4, or 0."},
     {"ReadOnly",      "-1 keeps a person from changing the amplifier's state, every other value lets them; the displays follow the host all the same. Asking for the internal data stays possible, and so does the information entry behind its password. It is 0 at first.",

@@ -76,6 +76,7 @@ void ManagerWindow::renewPanel() {
     panel_->renew();
     if (recorder_ != nullptr) recorder_->panelBegins(panel_->panel(), panel_->store());
     listenToErrors();
+    if (options_.isReadOnly) setReadOnly(true);
 }
 
 void ManagerWindow::layOut() {

@@ -153,7 +153,7 @@ void CommandLine::refuseBoth(const QCommandLineOption& one, const QCommandLineOp
 
 std::optional<LinkAddress> CommandLine::linkAddress() const {
     if (!parser_.isSet(link_)) return std::nullopt;
-    const auto address = LinkAddress::read(QFile::encodeName(parser_.value(link_)).toStdString());
+    auto address = LinkAddress::read(QFile::encodeName(parser_.value(link_)).toStdString());
     if (address) return address;
     throw Refused{"--link takes a path, or a path and a speed that serial devices have, not \"" +
                   parser_.value(link_) + "\"."};

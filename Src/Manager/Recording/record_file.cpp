@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Orvo::Manager {
@@ -20,6 +21,8 @@ RecordFile::RecordFile(const std::string& path)
     : path_(path),
       descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kForTheOwner)) {
     if (descriptor_ < 0) throw std::system_error(errno, std::generic_category(), path);
+    // A file that was there already keeps its mode otherwise; what is no file has none to change.
+    static_cast<void>(::fchmod(descriptor_, kForTheOwner));
 }
 
 RecordFile::~RecordFile() {
