@@ -194,7 +194,7 @@ TEST_F(LinkTest, AFloodIsHeardForAMomentAtATime) {
         send(flood);
         const auto begin = std::chrono::steady_clock::now();
         station_.advance(25ms);
-        EXPECT_LT(std::chrono::steady_clock::now() - begin, 500ms);
+        EXPECT_LT(std::chrono::steady_clock::now() - begin, 5s);
         answered += received().size();
     }
     EXPECT_GT(answered, 50'000U);

