@@ -1,18 +1,8 @@
 #include "Console/panel_bench.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace Orvo::Console {
-namespace {
-
-const Event& eventOf(Long dispatchId) {
-    return *std::find_if(kEvents.begin(), kEvents.end(), [dispatchId](const Event& event) {
-        return event.dispatchId == dispatchId;
-    });
-}
-
-}  // namespace
 
 InvokeResult PanelBench::invoke(Long dispatchId, MemberKind kind,
                                 std::span<const Value> arguments) {
@@ -27,7 +17,7 @@ void PanelBench::take(MarvaneAssistant& panel, std::shared_ptr<Runtime::Store> s
         if (listener_ != nullptr) listener_->failed(error);
     });
     events_ = panel_->connect([this](Long dispatchId, std::span<Value> arguments) {
-        if (listener_ != nullptr) listener_->raised(eventOf(dispatchId), arguments);
+        if (listener_ != nullptr) listener_->raised(eventWith(dispatchId), arguments);
     });
 }
 

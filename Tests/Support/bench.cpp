@@ -20,7 +20,7 @@ Widgets::WidgetId id(std::string_view name) {
 }
 
 std::string lineOf(Long dispatchId, std::span<const Value> arguments) {
-    std::string line(kEvents[static_cast<std::size_t>(dispatchId - 1)].name);
+    std::string line(eventWith(dispatchId).name);
     for (const Value& argument : arguments) line += ' ' + textOf(argument);
     return line;
 }

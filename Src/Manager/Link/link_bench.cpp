@@ -1,6 +1,5 @@
 #include "Manager/Link/link_bench.h"
 
-#include <cstddef>
 #include <utility>
 
 namespace Orvo::Manager {
@@ -18,8 +17,7 @@ LinkBench::LinkBench(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
 
 void LinkBench::connect() {
     events_ = panel_.connect([this](Long dispatchId, std::span<Value> arguments) {
-        const Event& event = kEvents[static_cast<std::size_t>(dispatchId - 1)];
-        if (listener_ != nullptr) listener_->raised(event, arguments);
+        if (listener_ != nullptr) listener_->raised(eventWith(dispatchId), arguments);
     });
 }
 

@@ -46,7 +46,7 @@ void Recorder::panelBegins(MarvaneAssistant& panel, Runtime::Store& store) {
     time_ = store.now();
     store.input().observeWith(this);
     events_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
-        raised(kEvents[static_cast<std::size_t>(dispatchId - 1)], arguments);
+        raised(eventWith(dispatchId), arguments);
     });
 }
 

@@ -36,7 +36,7 @@ std::string seconds(std::chrono::milliseconds time) {
 }  // namespace
 
 void Conversation::raised(Long dispatchId, std::span<const Value> arguments) {
-    const Event& event = kEvents[static_cast<std::size_t>(dispatchId - 1)];
+    const Event& event = eventWith(dispatchId);
     write(Console::eventText(event, arguments));
     ++depth_;
 }

@@ -77,6 +77,11 @@ consteval auto eventTable() {
 /// All events, by dispatch id.
 inline constexpr auto kEvents = Detail::eventTable();
 
+/// An event by its dispatch id, which must be one of the table's.
+constexpr const Event& eventWith(Long dispatchId) {
+    return kEvents[static_cast<std::size_t>(dispatchId - kEvents.front().dispatchId)];
+}
+
 /// An event by its name; one that the table doesn't have doesn't compile.
 consteval const Event& eventNamed(std::string_view name) {
     for (const Event& event : kEvents) {

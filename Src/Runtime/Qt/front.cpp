@@ -9,7 +9,7 @@ namespace Orvo::Window {
 
 namespace {
 
-constexpr WidgetId kTabs = 0;
+constexpr WidgetId kTabs = Layout::kTabs.id;
 constexpr int kFrameTime = 16;  // milliseconds
 
 bool isWithin(WidgetId widget, WidgetId container) {

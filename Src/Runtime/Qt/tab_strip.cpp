@@ -9,7 +9,7 @@ namespace Orvo::Window {
 
 namespace {
 
-constexpr WidgetId kTabs = 0;
+constexpr WidgetId kTabs = Layout::kTabs.id;
 
 struct TabColours {
     QColor face;
