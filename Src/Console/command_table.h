@@ -80,7 +80,7 @@ consteval auto commandTable() {
         command<&H::events>   ("events",   host,    "",                                 "Lists the events: dispatch id, name, arguments."),
         command<&H::on>       ("on",       host,    "EVENT COMMAND …",                  "From now on the host answers the event with this command; several for one event run in the order given."),
         command<&H::off>      ("off",      host,    "EVENT",                            "Forgets the commands given for the event."),
-        command<&H::renew>    ("new",      host,    "",                                 "Releases the panel and creates a fresh one; forgets what `on`, `answer` and `set` have said."),
+        command<&H::renew>    ("new",      host,    "",                                 "Releases the panel and creates a fresh one; forgets what `on`, `answer`, `meanwhile` and `set` have said."),
 
         command<&P::click>    ("click",    person,  "WIDGET [left|right|middle]",       "A mouse button, the left one unless another is named, is pressed and released over the widget."),
         command<&P::release>  ("release",  person,  "WIDGET [left|right|middle]",       "The button is pressed on the widget, dragged off it and released: no click, but the widget gets the release."),
@@ -92,6 +92,8 @@ consteval auto commandTable() {
         command<&P::drop>     ("drop",     person,  "SLIDER",                           "The slider's button is let go."),
         command<&P::tab>      ("tab",      person,  "NUMBER",                           "This tab of the panel, counted from 0, is selected."),
         command<&P::answer>   ("answer",   person,  "TEXT|cancel",                      "What is typed at the next input prompt that has no answer yet, or that it is cancelled."),
+        command<&P::meanwhile>("meanwhile",person,  "COMMAND …",                        "Queues a command for the midst of another: it is carried out when the panel next raises an event or opens a prompt, before that is done with."),
+        command<&P::resume>   ("resume",   person,  "",                                 "Ends what is queued for one event; what is queued behind it is for the next one, or for a prompt."),
         command<&P::wait>     ("wait",     person,  "MILLISECONDS",                     "Time passes; timers that come due tick, in order."),
 
         command<&L::show>     ("show",     looking, "WIDGET|Screen",                    "What a widget, or the screen, shows."),

@@ -63,6 +63,16 @@ std::string answer(Session& session, const Answer& answer) {
     return ok();
 }
 
+std::string meanwhile(Session& session, const Nested& command) {
+    session.queueAction(command.action);
+    return ok();
+}
+
+std::string resume(Session& session) {
+    session.queueResumption();
+    return ok();
+}
+
 std::string wait(Session& session, const Milliseconds& time) {
     session.bench().person().wait(time.value);
     return ok();

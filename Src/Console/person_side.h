@@ -17,6 +17,8 @@ std::string hold(Session& session, const Slider& slider);
 std::string drop(Session& session, const Slider& slider);
 std::string tab(Session& session, const TabNumber& number);
 std::string answer(Session& session, const Answer& answer);
+std::string meanwhile(Session& session, const Nested& command);
+std::string resume(Session& session);
 std::string wait(Session& session, const Milliseconds& time);
 
 }  // namespace Orvo::Console::PersonSide

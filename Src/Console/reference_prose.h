@@ -60,7 +60,9 @@ single-precision numbers in the shortest decimal form that reads back the same.
 
 What a handler set with `on` does is answered in the same way, indented by two blanks for each level
 of nesting, right under the event that started it. Handlers that start one another more than 64
-levels deep end with `! 28 Out of stack space`, and no further handler runs for that command.
+levels deep end with `! 28 Out of stack space`, and no further handler runs for that command. What
+`meanwhile` has queued is answered likewise, under the event or above the prompt in whose midst it
+is carried out.
 
 )";
 
@@ -81,6 +83,19 @@ constexpr std::string_view kPersonIntroduction = R"(## The person's side
 A widget that is hidden or disabled, by itself or through a container, ignores the input, and the
 command closes with `ok`. Which tab is in front doesn't matter. Input that a widget of this kind
 can't get at all, such as `slide` on a button, is a `?`.
+
+`answer`, `meanwhile` and `resume` fill one queue, in which a recording keeps what happened in the
+midst of a command: host's calls in a handler, and whatever anyone did while a prompt was open. An
+event, after its handlers, carries out what is queued, up to the next `resume`, which it takes too,
+or up to the next answer, which it leaves; a prompt, up to the next answer, which it gets.
+
+```
+meanwhile let IdDevice 7
+answer "530284"
+meanwhile wait 250
+answer cancel
+key List1 18
+```
 
 )";
 

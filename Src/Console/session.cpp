@@ -66,19 +66,36 @@ void Session::forget(const Event& event) {
 
 void Session::renew() {
     for (const Event& event : kEvents) forget(event);
-    answers_.clear();
+    queue_.clear();
     bench_.renew();
 }
 
 void Session::raised(const Event& event, std::span<const Value> arguments) {
     line(eventText(event, arguments));
     if (depth_ == 0) isExhausted_ = false;
-    const Handlers handlers = handlersOf(event);
     ++depth_;
+    handle(Handlers(handlersOf(event)));
+    performQueued();
+    takeQueued<Resumption>();
+    --depth_;
+}
+
+void Session::handle(const Handlers& handlers) {
     for (const auto& handler : handlers) {
         if (!handler->isForgotten && !isExhausted_) perform(handler->action);
     }
-    --depth_;
+}
+
+template <class What>
+std::optional<What> Session::takeQueued() {
+    if (queue_.empty() || !std::holds_alternative<What>(queue_.front())) return std::nullopt;
+    auto taken = std::get<What>(std::move(queue_.front()));
+    queue_.pop_front();
+    return taken;
+}
+
+void Session::performQueued() {
+    while (const auto action = takeQueued<Action>()) perform(*action);
 }
 
 void Session::failed(const Error& error) {
@@ -86,15 +103,22 @@ void Session::failed(const Error& error) {
 }
 
 std::optional<String> Session::asked(const Widgets::Question& question) {
-    std::optional<String> answer;
-    if (!answers_.empty()) {
-        answer = std::move(answers_.front());
-        answers_.pop_front();
-    }
+    ++depth_;
+    const std::optional<String> answer = queuedAnswer();
+    --depth_;
     const std::string typed = answer ? textOf(StringView(*answer)) : "cancel";
     line("prompt " + textOf(StringView(question.text)) + ' ' + textOf(StringView(question.title)) +
          " -> " + typed);
     return answer;
+}
+
+// What ends nothing but an event's part of the queue is passed over.
+std::optional<String> Session::queuedAnswer() {
+    do {
+        performQueued();
+    } while (takeQueued<Resumption>());
+    const auto answer = takeQueued<Answer>();
+    return answer ? answer->text : std::nullopt;
 }
 
 void Session::perform(const Action& action) {

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "Console/bench.h"
@@ -40,7 +41,13 @@ public:
     void remember(const Event& event, Action action);
     void forget(const Event& event);
     /// What the person does at the next prompt that has no answer yet.
-    void queueAnswer(std::optional<String> answer) { answers_.push_back(std::move(answer)); }
+    void queueAnswer(std::optional<String> answer) {
+        queue_.emplace_back(Answer{std::move(answer)});
+    }
+    /// What is done in the midst of a command, when the panel next raises an event or opens a
+    /// prompt; and where that ends for an event.
+    void queueAction(Action action) { queue_.emplace_back(std::move(action)); }
+    void queueResumption() { queue_.emplace_back(Resumption{}); }
     void renew();
     void quit() { hasQuit_ = true; }
 
@@ -58,6 +65,18 @@ private:
     };
     using Handlers = std::vector<std::shared_ptr<Handler>>;
 
+    struct Answer {
+        std::optional<String> text;
+    };
+    struct Resumption {};
+    using Queued = std::variant<Answer, Action, Resumption>;
+
+    void handle(const Handlers& handlers);
+    void performQueued();
+    std::optional<String> queuedAnswer();
+    template <class What>
+    std::optional<What> takeQueued();
+
     void perform(const Action& action);
     std::string closingLine(const Action& action);
     std::string complaint(const Misunderstood& misunderstood);
@@ -68,7 +87,7 @@ private:
     Grammar grammar_;
     Output output_;
     std::array<Handlers, kEvents.size()> handlers_;
-    std::deque<std::optional<String>> answers_;
+    std::deque<Queued> queue_;
     Frame* frame_ = nullptr;
     std::size_t depth_ = 0;
     bool isExhausted_ = false;

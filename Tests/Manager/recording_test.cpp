@@ -1,4 +1,6 @@
 #include <fstream>
+#include <functional>
+#include <regex>
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -188,11 +190,11 @@ TEST_F(RecorderTest, WritesWhatThePersonDoesAndThePanelTakes) {
     });
     EXPECT_EQ(text,
               "wait 70\nclick Command12\n# event Mute 1\nrelease cmdOnOff right\n"
-              "hold ZelvinSlider2\nslide ZelvinSlider2 30\nhold ZelvinSlider2\n"
-              "# event VolumeChange 2 -30\ndrop ZelvinSlider2\n");
+              "hold ZelvinSlider2\nslide ZelvinSlider2 30\n# event VolumeChange 2 -30\n"
+              "hold ZelvinSlider2\ndrop ZelvinSlider2\n");
 }
 
-TEST_F(RecorderTest, CallsOfAHandlerFollowWhatRaisedTheEvent) {
+TEST_F(RecorderTest, CallsOfAHandlerAreMadeMeanwhile) {
     const std::string text = recorded(Answers::inFull, [this](Recorder& recorder) {
         ObservedPanel observed(panel_, recorder);
         const auto host = panel_.connect([&](Long, std::span<Value>) {
@@ -202,8 +204,121 @@ TEST_F(RecorderTest, CallsOfAHandlerFollowWhatRaisedTheEvent) {
         person_.click(id("Command12"));
     });
     EXPECT_EQ(text,
-              "click Command12\n# event Mute 1\nlet Mute 1 -1\nlet VNPower 1 -5\n"
-              "# ! 13 Type mismatch\n");
+              "meanwhile let Mute 1 -1\nmeanwhile let VNPower 1 -5\n"
+              "click Command12\n# event Mute 1\n# ! 13 Type mismatch\n");
+}
+
+/// A host with handlers of its own, whose session is recorded and then replayed.
+class ReplayTest : public RecorderTest {
+protected:
+    using Act = std::function<void(MarvaneAssistantInterface& host)>;
+
+    /// Does `act` to a panel whose host answers every event so, and expects the replay to do the
+    /// same.
+    void expectSameReplay(const Act& handler, const Act& act) {
+        const std::string script = recorded(Answers::inFull, [&](Recorder& recorder) {
+            ObservedPanel host(panel_, recorder);
+            const auto connection = panel_.connect([&](Long, std::span<Value>) { handler(host); });
+            act(host);
+        });
+        Showcase live(store_);
+        Console::StoreBench bench;
+        const std::string answers = run(bench, script);
+        EXPECT_EQ(answers.find("\n? "), std::string::npos) << answers;
+        EXPECT_EQ(eventsIn(answers), eventsIn(script)) << script;
+        EXPECT_EQ(stateOf(bench), stateOf(live)) << script;
+    }
+
+private:
+    static std::string eventsIn(const std::string& text) {
+        return linesThatBegin(std::regex_replace(text, std::regex("\n(# | +)"), "\n"), "event ");
+    }
+};
+
+TEST_F(ReplayTest, AHandlersCallsComeBeforeTheActionGoesOn) {
+    Typist typist;
+    store_.promptWith(&typist);
+    expectSameReplay([](auto& host) { host.ReadOnly(true); },
+                     [this](auto&) { person_.type(id("List1"), 18); });
+}
+
+TEST_F(ReplayTest, ATicksHandlerStopsTheTimerThatComesNext) {
+    const auto handler = [ticks = -2](auto& host) mutable {
+        if (++ticks > 0) host.TimerVirtualTemp34(false);
+    };
+    expectSameReplay(handler, [this](auto&) {
+        person_.slide(id("ZelvinSlider3"), 40);
+        person_.slide(id("ZelvinSlider6"), 60);
+        store_.advance(20s);
+    });
+}
+
+// Each time an event is raised its host does something else, now and then something that raises
+// another.
+TEST_F(ReplayTest, AnEventThatIsRaisedAgainIsAnsweredAnew) {
+    int count = 0;
+    const auto handler = [&](auto& host) {
+        if (++count % 3 == 0) return;
+        host.Mute(1, count % 2 == 0);
+        if (count % 5 == 0) person_.slide(id("ZelvinSlider2"), count);
+        host.AggiugiTesto(String(std::size_t(count), u'x'));
+    };
+    const auto act = [this](auto&) {
+        person_.slide(id("ZelvinSlider3"), 40);
+        person_.slide(id("ZelvinSlider6"), 60);
+        for (int position = 1; position < 20; ++position) {
+            person_.slide(id("ZelvinSlider1"), position);
+            person_.click(id("Command12"));
+            person_.activate(id(position % 2 == 0 ? "optEIAJ_ch12" : "optLineIn12"));
+            store_.advance(7777ms);
+        }
+    };
+    expectSameReplay(handler, act);
+    EXPECT_GT(count, 100) << "events";
+}
+
+/// Does something before it answers.
+class BusyTypist final : public Runtime::Prompter {
+public:
+    explicit BusyTypist(std::function<void()> deed) : deed_(std::move(deed)) {}
+    std::optional<String> ask(const Widgets::Question& question) override {
+        deed_();
+        return typist_.ask(question);
+    }
+
+private:
+    std::function<void()> deed_;
+    Typist typist_;
+};
+
+TEST_F(ReplayTest, WhatIsDoneUnderAPromptComesBeforeItsAnswer) {
+    MarvaneAssistantInterface* panel = nullptr;
+    Integer deviceId = 40;
+    BusyTypist typist([&] {
+        panel->IdDevice(++deviceId);
+        store_.advance(1500ms);
+        person_.click(id("Command12"));
+        panel->Volume(2, deviceId);
+    });
+    store_.promptWith(&typist);
+    expectSameReplay([](auto& host) { host.Mute(1, !host.Mute(1)); },
+                     [&](auto& host) {
+                         panel = &host;
+                         person_.type(id("List1"), 18);
+                     });
+}
+
+TEST_F(RecorderTest, TheFileIsCompleteWhileAPromptIsOpen) {
+    std::string begun;
+    BusyTypist typist([&] {
+        store_.advance(5ms);
+        begun += contentOf(directory_.path() / "record.txt") + "---\n";
+    });
+    store_.promptWith(&typist);
+    recorded(Answers::inFull, [this](auto&) { person_.type(id("List1"), 18); });
+    EXPECT_NE(begun.find("meanwhile wait 5\nanswer \"530284\"\nkey List1 18\n---"),
+              std::string::npos)
+        << begun;
 }
 
 TEST(RecordFile, SaysWhyItCannotBeOpened) {

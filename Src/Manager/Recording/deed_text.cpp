@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "Console/text_of.h"
+#include "Orvo/layout/layout.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -23,40 +24,30 @@ std::string buttonText(Runtime::MouseButton button) {
     return ' ' + std::string(kButtons[static_cast<std::size_t>(button)]);
 }
 
-// The language moves a slider and lets go of it in one.
-std::string moveText(const Deed& deed, const Runtime::Store& store) {
-    const std::string slider = nameOf(deed.widget);
-    const std::string text = "slide " + slider + ' ' + std::to_string(deed.number) + '\n';
-    const bool isHeld = store.get<Runtime::StoredSlider>(deed.widget).state().isHeld;
-    return isHeld ? text + "hold " + slider + '\n' : text;
-}
-
 }  // namespace
 
-std::string deedText(const Deed& deed, const Runtime::Store& store) {
+std::string deedText(const Deed& deed) {
     const std::string widget = nameOf(deed.widget);
     switch (deed.verb) {
         case Deed::Verb::click:
-            return "click " + widget + buttonText(deed.button) + '\n';
+            return "click " + widget + buttonText(deed.button);
         case Deed::Verb::dragOff:
-            return "release " + widget + buttonText(deed.button) + '\n';
+            return "release " + widget + buttonText(deed.button);
         case Deed::Verb::activate:
-            return "activate " + widget + '\n';
+            return "activate " + widget;
         case Deed::Verb::type:
-            return "key " + widget + ' ' + std::to_string(static_cast<std::uint16_t>(deed.number)) +
-                   '\n';
+            return "key " + widget + ' ' + std::to_string(static_cast<std::uint16_t>(deed.number));
         case Deed::Verb::pick:
-            return "pick " + widget + ' ' + Console::textOf(deed.text) + '\n';
+            return "pick " + widget + ' ' + Console::textOf(deed.text);
         case Deed::Verb::slide:
-            return "slide " + widget + ' ' + std::to_string(deed.number) + '\n';
         case Deed::Verb::move:
-            return moveText(deed, store);
+            return "slide " + widget + ' ' + std::to_string(deed.number);
         case Deed::Verb::hold:
-            return "hold " + widget + '\n';
+            return "hold " + widget;
         case Deed::Verb::drop:
-            return "drop " + widget + '\n';
+            return "drop " + widget;
         case Deed::Verb::selectTab:
-            return "tab " + std::to_string(deed.number) + '\n';
+            return "tab " + std::to_string(deed.number);
     }
     return {};
 }

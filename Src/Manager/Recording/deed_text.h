@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "Runtime/Store/store.h"
+#include "Runtime/Store/input_observer.h"
 
 namespace Orvo::Manager {
 
-/// The lines of panel script that do the same, each with its line break.
-std::string deedText(const Runtime::Deed& deed, const Runtime::Store& store);
+/// The command of panel script that does the same. A held slider that is moved is let go of.
+std::string deedText(const Runtime::Deed& deed);
 
 }  // namespace Orvo::Manager

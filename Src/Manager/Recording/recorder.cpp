@@ -4,7 +4,6 @@
 #include <limits>
 #include <utility>
 #include <variant>
-#include <vector>
 
 #include "Console/text_of.h"
 #include "Manager/Recording/deed_text.h"
@@ -24,21 +23,21 @@ bool isText(const Value& value) { return std::holds_alternative<String>(value); 
 Recorder::Recorder(const std::string& file, MarvaneAssistant& panel, Runtime::Store& store,
                    Answers answers)
     : file_(file), answers_(answers) {
-    file_.write(kHeading);
+    file_.begin(kHeading);
     panelBegins(panel, store);
 }
 
 Recorder::~Recorder() {
     store_->input().observeWith(nullptr);
     writeWait();
-    file_.write(given_ + pending_);
 }
 
 void Recorder::panelEnds() {
-    write("new\n");
+    writeWait();
+    write("new");
     store_->input().observeWith(nullptr);
-    file_.write(std::exchange(given_, {}) + std::exchange(pending_, {}));
-    deeds_ = 0;
+    actions_.clear();
+    resumptions_ = 0;
 }
 
 void Recorder::panelBegins(MarvaneAssistant& panel, Runtime::Store& store) {
@@ -51,55 +50,89 @@ void Recorder::panelBegins(MarvaneAssistant& panel, Runtime::Store& store) {
 }
 
 void Recorder::called(const Member& member, std::span<const Value> arguments) {
-    write(Console::commandText(member, arguments) + '\n');
+    begin(Console::commandText(member, arguments));
 }
 
-void Recorder::failed(const Member&, const Error& error) {
-    write("# ! " + Console::textOf(error) + '\n');
+void Recorder::returned(const Member& /*member*/, const Value& /*result*/) { end(); }
+
+void Recorder::failed(const Member& /*member*/, const Error& error) {
+    file_.putBehind("# ! " + Console::textOf(error) + '\n');
+    end();
 }
 
 void Recorder::does(const Runtime::Deed& deed) {
-    writeWait();
-    ++deeds_;
-    put(deedText(deed, *store_));
+    const bool isMove = deed.verb == Runtime::Deed::Verb::move;
+    begin(deedText(deed), isMove ? std::optional(deed.widget) : std::nullopt);
 }
 
 void Recorder::did() {
-    if (deeds_ == 0 || --deeds_ > 0) return;
-    file_.write(std::exchange(given_, {}) + std::exchange(pending_, {}));
+    const auto slider = actions_.empty() ? std::nullopt : actions_.back().movedSlider;
+    end();
+    // The language moves a slider and lets go of it in one.
+    if (slider && store_->get<Runtime::StoredSlider>(*slider).state().isHeld) {
+        write(deedText({.verb = Runtime::Deed::Verb::hold, .widget = *slider}));
+    }
 }
 
 void Recorder::answered(const std::optional<String>& answer) {
     const bool isTold = answer && answers_ == Answers::inFull;
-    given_ += "answer " + (isTold ? Console::textOf(StringView(*answer)) : "cancel") + '\n';
+    writeWait();
+    file_.putBefore("answer " + (isTold ? Console::textOf(StringView(*answer)) : "cancel") + '\n');
+    // No event takes what stands behind an answer that it hasn't got.
+    resumptions_ = 0;
+    if (!actions_.empty()) actions_.back().hasStopped = false;
 }
 
 void Recorder::raised(const Event& event, std::span<const Value> arguments) {
+    stop();
     const bool isSecret =
         answers_ == Answers::asCancelled && std::any_of(arguments.begin(), arguments.end(), isText);
     const auto told = isSecret ? std::span<const Value>() : arguments;
-    write("# " + Console::eventText(event, told) + (isSecret ? " …\n" : "\n"));
+    file_.putBehind("# " + Console::eventText(event, told) + (isSecret ? " …\n" : "\n"));
 }
 
-void Recorder::write(std::string_view line) {
+void Recorder::begin(std::string_view command, std::optional<Widgets::WidgetId> movedSlider) {
     writeWait();
-    put(line);
+    write(command);
+    actions_.push_back({.movedSlider = movedSlider});
+}
+
+void Recorder::end() {
+    if (actions_.empty()) return;
+    if (actions_.back().hasStopped) ++resumptions_;
+    actions_.pop_back();
+}
+
+void Recorder::stop() {
+    writeWait();
+    if (actions_.empty()) return;
+    Action& action = actions_.back();
+    action.isWritten = true;
+    if (std::exchange(action.hasStopped, true)) ++resumptions_;
+}
+
+// The first tick after a wait comes of that; what follows it at once does, too.
+bool Recorder::isInTheMidst() const {
+    return !actions_.empty() && (actions_.size() > 1 || actions_.front().isWritten);
+}
+
+void Recorder::write(std::string_view command) {
+    const std::string line = std::string(command) + '\n';
+    if (!isInTheMidst()) {
+        resumptions_ = 0;
+        return file_.begin(line);
+    }
+    std::string resumptions;
+    for (; resumptions_ > 0; --resumptions_) resumptions += "resume\n";
+    file_.putBefore(resumptions + "meanwhile " + line);
 }
 
 void Recorder::writeWait() {
     auto time = store_->now() - std::exchange(time_, store_->now());
     while (time.count() > 0) {
         const auto wait = std::min(time, kLongestWait);
-        put("wait " + std::to_string(wait.count()) + '\n');
+        write("wait " + std::to_string(wait.count()));
         time -= wait;
-    }
-}
-
-void Recorder::put(std::string_view line) {
-    if (deeds_ > 0) {
-        pending_ += line;
-    } else {
-        file_.write(line);
     }
 }
 

@@ -30,8 +30,9 @@ public:
         store_.observe({.verb = Verb::ask, .value = question.text});
         if (store_.prompter_ == nullptr) return {};
         const auto alive = store_.shared_from_this();
+        store_.input_.tell(&InputObserver::asks);
         const std::optional<String> answer = store_.prompter_->ask(question);
-        store_.input_.answered(answer);
+        store_.input_.tell(&InputObserver::answered, answer);
         return answer.value_or(String());
     }
 
@@ -130,6 +131,12 @@ StoredTimer* Store::nextTimer() {
     return next;
 }
 
+void Store::tick(const StoredTimer& timer) {
+    input_.tell(&InputObserver::ticks);
+    notify({.widget = timer.id(), .kind = NotificationKind::tick});
+    input_.tell(&InputObserver::ticked);
+}
+
 void Store::advance(Milliseconds time) {
     const auto alive = shared_from_this();
     const Milliseconds end = now_ + time;
@@ -137,7 +144,7 @@ void Store::advance(Milliseconds time) {
          timer = nextTimer()) {
         now_ = std::max(now_, timer->state().due);
         timer->comeDue(timer->state().due);
-        notify({.widget = timer->id(), .kind = NotificationKind::tick});
+        tick(*timer);
     }
     now_ = std::max(now_, end);
 }
@@ -148,7 +155,7 @@ void Store::catchUp(Milliseconds time) {
     for (auto* timer = nextTimer(); timer != nullptr && timer->state().due <= now_;
          timer = nextTimer()) {
         timer->comeDue(now_);
-        notify({.widget = timer->id(), .kind = NotificationKind::tick});
+        tick(*timer);
     }
 }
 

@@ -136,6 +136,7 @@ private:
     Widgets::Notification notify(Widgets::Notification notification);
     const std::vector<StoredOption*>& optionsIn(WidgetId container);
     StoredTimer* nextTimer();
+    void tick(const StoredTimer& timer);
 
     std::array<std::unique_ptr<StoredWidget>, Layout::kWidgetCount> widgets_;
     std::vector<StoredTimer*> timers_;

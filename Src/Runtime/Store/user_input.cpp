@@ -42,7 +42,7 @@ public:
         if (isTold_) input.observer_->does(deed);
     }
     ~Doing() {
-        if (isTold_ && input_.observer_ != nullptr) input_.observer_->did();
+        if (isTold_) input_.tell(&InputObserver::did);
     }
     Doing(const Doing&) = delete;
     Doing& operator=(const Doing&) = delete;

@@ -62,8 +62,10 @@ private:
 
     [[nodiscard]] bool isSliderGrip(WidgetId widget, MouseButton button) const;
     [[nodiscard]] bool isHeld(WidgetId slider) const;
-    void answered(const std::optional<String>& answer) const {
-        if (observer_ != nullptr) observer_->answered(answer);
+    /// Tells the observer, if there is one.
+    template <class... Arguments>
+    void tell(void (InputObserver::*what)(const Arguments&...), const Arguments&... arguments) {
+        if (observer_ != nullptr) (observer_->*what)(arguments...);
     }
     void actOnClick(WidgetId widget);
     void notify(WidgetId widget, Widgets::NotificationKind kind);
