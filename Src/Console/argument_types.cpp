@@ -112,6 +112,11 @@ LayoutProperty LayoutProperty::take(Arguments& arguments) {
 
 Truth Truth::take(Arguments& arguments) { return {takeChoice(arguments, kWords) == 0}; }
 
+PointerNumber PointerNumber::take(Arguments& arguments) {
+    using enum Widgets::Pointer;
+    return {takeChoice(arguments, kWords) == 0 ? standard : hourglass};
+}
+
 Long takeNumber(Arguments& arguments, std::string_view what, Long lowest, Long highest) {
     const Word& word = arguments.take(what);
     const Long value = std::get<Long>(literal(word, ValueType::longInteger));

@@ -16,6 +16,7 @@
 #include "Orvo/core/event_table.h"
 #include "Orvo/core/late_binding.h"
 #include "Orvo/layout/layout.h"
+#include "Orvo/widgets/runtime.h"
 #include "Runtime/Store/user_input.h"
 
 // What commands take. A type says how its words are called in a command's row, and how they are
@@ -92,6 +93,12 @@ struct Truth {
     static constexpr std::string_view kWords = "true|false";
     static Truth take(Arguments& arguments);
     bool value;
+};
+
+struct PointerNumber {
+    static constexpr std::string_view kWords = "0|11";
+    static PointerNumber take(Arguments& arguments);
+    Widgets::Pointer pointer;
 };
 
 /// A whole number within bounds.

@@ -101,6 +101,7 @@ consteval auto commandTable() {
         command<&L::drawing>  ("drawing",  looking, "PICTURE",                          "Lists what has been drawn on a picture surface since it was last cleared.", Place::inMemory),
         command<&L::widgets>  ("widgets",  looking, "",                                 "Lists the widgets: name, kind, container."),
         command<&L::set>      ("set",      looking, "WIDGET enabled|visible true|false","Changes the layout under the panel's feet."),
+        command<&L::pointer>  ("pointer",  looking, "0|11",                             "Sets the screen's pointer, as a host does that takes the panel's hourglass away."),
         command<&L::shot>     ("shot",     looking, "FILE",                             "Writes a PNG picture of the panel as it stands on the screen.", Place::inWindow),
         command<&L::quit>     ("quit",     looking, "",                                 "Ends the program."),
     });

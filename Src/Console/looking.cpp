@@ -208,6 +208,11 @@ std::string widgets(Session& session) {
     return resultIs(std::to_string(Layout::kWidgetCount));
 }
 
+std::string pointer(Session& session, const PointerNumber& number) {
+    session.bench().widgets().screen().setPointer(number.pointer);
+    return ok();
+}
+
 std::string set(Session& session, const AnyWidget& widget, const LayoutProperty& property,
                 const Truth& value) {
     Store& widgets = session.bench().widgets();

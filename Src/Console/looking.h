@@ -16,6 +16,7 @@ std::string show(Session& session, const Shown& widget);
 std::string items(Session& session, const ItemHolder& widget);
 std::string drawing(Session& session, const Picture& picture);
 std::string widgets(Session& session);
+std::string pointer(Session& session, const PointerNumber& number);
 std::string set(Session& session, const AnyWidget& widget, const LayoutProperty& property,
                 const Truth& value);
 std::string shot(Session& session, const File& file);

@@ -49,6 +49,11 @@ void Recorder::panelBegins(MarvaneAssistant& panel, Runtime::Store& store) {
     });
 }
 
+void Recorder::pointerIsSet() {
+    writeWait();
+    write("pointer " + std::to_string(static_cast<Integer>(store_->pointer())));
+}
+
 void Recorder::called(const Member& member, std::span<const Value> arguments) {
     begin(Console::commandText(member, arguments));
 }

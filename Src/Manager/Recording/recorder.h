@@ -37,6 +37,9 @@ public:
     void panelEnds();
     void panelBegins(MarvaneAssistant& panel, Runtime::Store& store);
 
+    /// The host has set the screen's pointer.
+    void pointerIsSet();
+
     void called(const Member& member, std::span<const Value> arguments) override;
     void returned(const Member& member, const Value& result) override;
     void failed(const Member& member, const Error& error) override;
