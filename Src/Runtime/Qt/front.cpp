@@ -5,6 +5,8 @@
 #include <QHideEvent>
 #include <QShortcut>
 
+#include "Runtime/Qt/fonts.h"
+
 namespace Orvo::Window {
 
 namespace {
@@ -27,6 +29,7 @@ Front::Front(std::shared_ptr<Runtime::Store> store, QWidget* parent, Clock clock
     frame_.setSingleShot(true);
     frame_.setTimerType(Qt::PreciseTimer);
     connect(&frame_, &QTimer::timeout, this, &Front::flush);
+    provideFonts();
     build();
     layOut();
     dirty_.set();

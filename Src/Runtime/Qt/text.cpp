@@ -3,23 +3,11 @@
 #include <QFontMetricsF>
 #include <QKeyEvent>
 
+#include "Runtime/Qt/fonts.h"
+
 namespace Orvo::Window {
 
 namespace {
-
-// The layout's face first, then what comes nearest to it in width.
-QStringList familiesOf(Layout::Face face) {
-    switch (face) {
-        case Layout::Face::microgramma:
-            return {"MicrogrammaDMedExt", "Microgramma", "DejaVu Sans", "Verdana", "sans-serif"};
-        case Layout::Face::serif:
-            return {"MS Serif", "Liberation Serif", "Times New Roman", "serif"};
-        case Layout::Face::arial:
-        case Layout::Face::standard:
-            break;
-    }
-    return {"Arial", "Liberation Sans", "Helvetica", "sans-serif"};
-}
 
 bool holdsOnly(Qt::KeyboardModifiers held, Qt::KeyboardModifier modifier) {
     return (held & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == modifier;
