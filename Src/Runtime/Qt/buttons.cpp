@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "Artwork/Drawings/drawings.h"
 #include "Runtime/Qt/chrome.h"
 
 namespace Orvo::Window {
@@ -108,24 +109,13 @@ void PowerButton::refresh() {
     setChecked(stored<Runtime::StoredCheck>().value == Widgets::CheckValue::checked);
 }
 
+// Pressed in and let out again by turns; what the picture shows is also where it will go.
 void PowerButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const bool isSunken = isChecked() != isDown();
-    const QColor body = isEnabled() && underMouse() ? QColor(86, 92, 102) : QColor(74, 80, 90);
-    drawFace(painter, rect(), body, isSunken ? Face::sunken : Face::raised, zoom());
-
-    const QColor dark = isEnabled() ? QColor(172, 180, 192) : QColor(115, 120, 128);
-    const QColor symbol = isChecked() && isEnabled() ? QColor(70, 235, 90) : dark;
-    const double sunk = isSunken ? zoom() : 0;
-    const QPointF centre = QRectF(rect()).center() + QPointF(0, sunk);
-    const double radius = 0.24 * height();
-    painter.setPen(QPen(symbol, 2 * zoom(), Qt::SolidLine, Qt::RoundCap));
-    painter.setBrush(Qt::NoBrush);
-    // Degrees are counted in sixteenths: a ring open at the top.
-    painter.drawArc(QRectF(centre - QPointF(radius, radius), centre + QPointF(radius, radius)),
-                    (90 + 40) * 16, (360 - 80) * 16);
-    painter.drawLine(centre - QPointF(0, radius * 1.15), centre - QPointF(0, radius * 0.2));
+    QPainter painter(this);
+    Artwork::paint(painter, isSunken ? Artwork::kPowerDown : Artwork::kPowerUp, rect());
+    if (!isEnabled()) painter.fillRect(rect(), QColor(40, 46, 58, 170));
+    if (isEnabled() && underMouse()) painter.fillRect(rect(), QColor(255, 255, 255, 20));
     drawFocus(painter, *this, zoom());
 }
 

@@ -3,7 +3,7 @@
 #include <QPaintDevice>
 #include <QPainter>
 
-#include "Runtime/Qt/artwork.h"
+#include "Artwork/Drawings/drawings.h"
 #include "Runtime/Qt/text.h"
 
 namespace Orvo::Window {
@@ -95,11 +95,9 @@ void PaintedImage::draw(double devicePixelRatio) const {
     artwork_ = QPixmap(place_.size() * devicePixelRatio);
     artwork_.setDevicePixelRatio(devicePixelRatio);
     QPainter painter(&artwork_);
-    // The artwork is drawn in twips of the tab, not of the picture.
-    const auto& place = description().place;
-    painter.scale(place_.width() / double(place.width), place_.height() / double(place.height));
-    painter.translate(-place.left, -place.top);
-    drawArtwork(painter, looks().image);
+    const bool isCommon = looks().image == Layout::Image::commonTab;
+    Artwork::paint(painter, isCommon ? Artwork::kCommonTab : Artwork::kPairTab,
+                   QRectF(QPointF(), QSizeF(place_.size())));
 }
 
 }  // namespace Orvo::Window

@@ -1,0 +1,56 @@
+#include "Artwork/Drawings/materials.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+#include "Runtime/Qt/text.h"
+
+namespace Orvo::Artwork {
+
+namespace {
+
+constexpr double kRadius = 5 * kPixel;
+
+void drawRounded(QPainter& painter, const QRectF& place, const QPen& pen, const QBrush& brush) {
+    painter.setPen(pen);
+    painter.setBrush(brush);
+    painter.drawRoundedRect(place, kRadius, kRadius);
+}
+
+}  // namespace
+
+void alignToPixels(QPainter& painter) { painter.translate(kPixel / 2, kPixel / 2); }
+
+void drawGround(QPainter& painter, const QRectF& place, QColor top, QColor middle, QColor bottom) {
+    QLinearGradient light(place.topLeft(), place.bottomLeft());
+    light.setColorAt(0, top);
+    light.setColorAt(0.35, middle);
+    light.setColorAt(1, bottom);
+    // The tab in front has the colour of the top, and goes over into it.
+    painter.fillRect(place.adjusted(-kPixel, -kPixel, 0, 0), light);
+}
+
+void drawPlate(QPainter& painter, const QRectF& place, const Finish& finish) {
+    drawRounded(painter, place.translated(0, kPixel), Qt::NoPen, finish.shadow);
+    QLinearGradient light(place.topLeft(), place.bottomLeft());
+    light.setColorAt(0, finish.top);
+    light.setColorAt(1, finish.bottom);
+    drawRounded(painter, place, QPen(finish.edge, kPixel), light);
+    painter.setPen(QPen(finish.gleam, kPixel));
+    const double y = place.top() + kPixel;
+    painter.drawLine(QPointF(place.left() + kRadius, y), QPointF(place.right() - kRadius, y));
+}
+
+void drawRecess(QPainter& painter, const QRectF& place, QColor fill, QColor edge) {
+    drawRounded(painter, place, QPen(edge, kPixel), fill);
+    painter.setPen(QPen(QColor(0, 0, 0, 90), kPixel));
+    const double y = place.top() + kPixel;
+    painter.drawLine(QPointF(place.left() + kRadius, y), QPointF(place.right() - kRadius, y));
+}
+
+void drawRecessFor(QPainter& painter, std::string_view frame, QColor edge, QMarginsF margins) {
+    const auto& style = Layout::describe(Layout::findWidget(frame).value()).style;
+    drawRecess(painter, placeOf(frame).marginsAdded(margins), Window::toQt(style.back), edge);
+}
+
+}  // namespace Orvo::Artwork

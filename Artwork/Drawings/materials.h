@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string_view>
+
+#include <QColor>
+#include <QRectF>
+
+#include "Orvo/layout/layout.h"
+
+class QPainter;
+
+// What the drawings of the tabs are made of.
+namespace Orvo::Artwork {
+
+constexpr double kPixel = Layout::kTwipsPerPixel;
+
+/// A widget's place on its tab.
+constexpr QRectF placeOf(std::string_view widget) {
+    const auto& place = Layout::describe(Layout::findWidget(widget).value()).place;
+    return QRectF(place.left, place.top, place.width, place.height);
+}
+
+/// A surface and the light on it, which comes from above.
+struct Finish {
+    QColor top;
+    QColor bottom;
+    QColor edge;
+    QColor gleam;   ///< along the upper edge
+    QColor shadow;  ///< below
+};
+
+/// Onto the middle of the pixels at zoom 1, where an edge is sharp.
+void alignToPixels(QPainter& painter);
+
+/// The ground that everything stands on: from the top over the middle to the bottom.
+void drawGround(QPainter& painter, const QRectF& place, QColor top, QColor middle, QColor bottom);
+
+/// A sheet that lies on the ground.
+void drawPlate(QPainter& painter, const QRectF& place, const Finish& finish);
+
+/// A hollow in a sheet, for a display or a group of controls.
+void drawRecess(QPainter& painter, const QRectF& place, QColor fill, QColor edge);
+
+/// A recess in the frame's own colour, this much larger than the frame all round.
+void drawRecessFor(QPainter& painter, std::string_view frame, QColor edge, QMarginsF margins);
+
+}  // namespace Orvo::Artwork
