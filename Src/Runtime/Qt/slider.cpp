@@ -1,6 +1,7 @@
 #include "Runtime/Qt/slider.h"
 
 #include <QKeyEvent>
+#include <QLinearGradient>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -12,9 +13,11 @@ namespace Orvo::Window {
 namespace {
 
 constexpr double kCapHeight = 11;  // pixels at zoom 1
-constexpr double kCapInset = 3.5;  // pixels at zoom 1
+constexpr double kCapInset = 2.5;  // pixels at zoom 1
 constexpr double kEnd = 3;         // pixels at zoom 1
-constexpr int kTicks = 7;
+constexpr double kGroove = 4;      // pixels at zoom 1
+constexpr int kTicks = 9;
+constexpr int kMainTick = 4;  // every so many ticks
 
 }  // namespace
 
@@ -119,6 +122,7 @@ void Slider::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), QColor(14, 16, 20));
     painter.setRenderHint(QPainter::Antialiasing);
     drawScale(painter);
+    drawGroove(painter);
     drawCap(painter);
     drawFocus(painter, *this, zoom());
 }
@@ -126,28 +130,51 @@ void Slider::paintEvent(QPaintEvent*) {
 void Slider::drawScale(QPainter& painter) const {
     const SliderTrack along = track();
     const double centre = width() / 2.0;
-    const double reach = width() / 2.0 - kCapInset * zoom();
-    painter.setPen(QPen(isEnabled() ? QColor(120, 128, 140) : QColor(66, 70, 78), zoom()));
+    const double from = (kGroove / 2 + 2) * zoom();
     for (int tick = 0; tick < kTicks; ++tick) {
+        const bool isMain = tick % kMainTick == 0;
+        const QColor colour = isMain ? QColor(190, 196, 206) : QColor(128, 135, 147);
+        painter.setPen(QPen(isEnabled() ? colour : colour.darker(200), zoom()));
         const double y = qRound(along.top + along.length * tick / (kTicks - 1)) + 0.5;
-        const double length = reach * (tick == kTicks / 2 ? 1.0 : 0.7);
-        painter.drawLine(QPointF(centre - length, y), QPointF(centre + length, y));
+        const double to = from + (isMain ? 5 : 3) * zoom();
+        painter.drawLine(QPointF(centre - to, y), QPointF(centre - from, y));
+        painter.drawLine(QPointF(centre + from, y), QPointF(centre + to, y));
     }
-    const double half = 2.5 * zoom();
-    painter.setPen(QPen(QColor(70, 76, 86), zoom()));
-    painter.setBrush(QColor(0, 0, 0));
-    painter.drawRoundedRect(
-        QRectF(centre - half, along.top - half, 2 * half, along.length + 2 * half), half, half);
 }
 
+void Slider::drawGroove(QPainter& painter) const {
+    const SliderTrack along = track();
+    const double half = kGroove / 2 * zoom();
+    QRectF groove(width() / 2.0 - half, along.top - half, 2 * half, along.length + 2 * half);
+    painter.setPen(QPen(QColor(84, 91, 102), zoom()));
+    painter.setBrush(QColor(0, 0, 0));
+    painter.drawRoundedRect(groove, half, half);
+}
+
+// Both ends slope down to a waist that holds the finger, with the index across it.
 void Slider::drawCap(QPainter& painter) const {
     const QRectF place = cap();
-    QColor colour = isEnabled() ? QColor(196, 201, 208) : QColor(104, 108, 114);
-    if (isEnabled() && underMouse()) colour = colour.lighter(108);
-    drawFace(painter, place, colour, grip_ ? Face::sunken : Face::raised, zoom());
-    painter.setPen(QPen(QColor(30, 34, 40), 1.4 * zoom()));
+    int bright = isEnabled() ? 222 : 112;
+    if (isEnabled() && (underMouse() || grip_)) bright = 244;
+    const auto metal = [bright](double share) {
+        const int level = int(bright * share);
+        return QColor(level, level, qMin(255, level + 4));
+    };
+    QLinearGradient light(place.topLeft(), place.bottomLeft());
+    light.setColorAt(0, metal(1));
+    light.setColorAt(0.38, metal(0.78));
+    light.setColorAt(0.62, metal(0.92));
+    light.setColorAt(1, metal(0.6));
+    const double radius = 2 * zoom();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 130));
+    painter.drawRoundedRect(place.translated(0, 1.5 * zoom()), radius, radius);
+    painter.setPen(QPen(QColor(24, 27, 32), zoom()));
+    painter.setBrush(light);
+    painter.drawRoundedRect(place, radius, radius);
+    painter.setPen(QPen(isEnabled() ? QColor(176, 24, 24) : QColor(60, 62, 66), 1.6 * zoom()));
     const double y = place.center().y();
-    painter.drawLine(QPointF(place.left() + 2 * zoom(), y), QPointF(place.right() - 2 * zoom(), y));
+    painter.drawLine(QPointF(place.left() + zoom(), y), QPointF(place.right() - zoom(), y));
 }
 
 }  // namespace Orvo::Window

@@ -30,6 +30,7 @@ private:
     void moveUp(int steps);
     void letGo();
     void drawScale(QPainter& painter) const;
+    void drawGroove(QPainter& painter) const;
     void drawCap(QPainter& painter) const;
 
     std::optional<double> grip_;  // while dragged: the pointer's distance from the cap's middle
