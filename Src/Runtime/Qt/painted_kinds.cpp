@@ -36,6 +36,7 @@ void PaintedFrame::paint(QPainter& painter) const { painter.fillRect(place_, toQ
 
 void PaintedDigit::layOut(const Scale& scale) {
     place_ = scale.rect(id());
+    zoom_ = scale.zoom();
     QTransform cell;
     cell.translate(place_.left(), place_.top());
     cell.scale(scale.zoom(), scale.zoom());
@@ -49,13 +50,32 @@ void PaintedDigit::layOut(const Scale& scale) {
 
 QRect PaintedDigit::bounds() const { return place_; }
 
+// The unlit ones first, so that the light falls on them.
 void PaintedDigit::paint(QPainter& painter) const {
     const auto digit = stored<Runtime::StoredDigit>().digit;
     painter.setRenderHint(QPainter::Antialiasing);
-    for (int segment = 0; segment < kSegmentCount; ++segment) {
-        const bool lit = digit && isLit(*digit, segment);
-        painter.fillPath(segments_[std::size_t(segment)], toQt(lit ? looks().text : looks().back));
+    for (const bool lit : {false, true}) {
+        for (int segment = 0; segment < kSegmentCount; ++segment) {
+            if ((digit && isLit(*digit, segment)) != lit) continue;
+            const QPainterPath& outline = segments_[std::size_t(segment)];
+            lit ? paintLit(painter, outline) : paintUnlit(painter, outline);
+        }
     }
+}
+
+void PaintedDigit::paintLit(QPainter& painter, const QPainterPath& segment) const {
+    constexpr double kGlow = 1.5;  // pixels, half of it within the segment
+    QColor glow = toQt(looks().text);
+    glow.setAlpha(60);
+    painter.strokePath(segment, QPen(glow, kGlow * zoom_));
+    painter.fillPath(segment, toQt(looks().text));
+}
+
+// Some are as grey as the frame they are on: it is their engraved edge that shows.
+void PaintedDigit::paintUnlit(QPainter& painter, const QPainterPath& segment) const {
+    constexpr double kEdge = 0.6;  // pixels
+    painter.fillPath(segment, toQt(looks().back));
+    painter.strokePath(segment, QPen(toQt(looks().back).darker(125), kEdge * zoom_));
 }
 
 void PaintedScopeHeader::layOut(const Scale& scale) {
@@ -70,12 +90,21 @@ QRect PaintedScopeHeader::bounds() const { return place_; }
 
 void PaintedScopeHeader::paint(QPainter& painter) const {
     const QString text = toQt(description().caption);
-    const int width = qCeil(widthOf(text, font_)) + place_.height();
+    const int margin = place_.height() / 2;
+    const int width = qCeil(widthOf(text, font_)) + 2 * margin;
     const QRect tab(place_.topLeft(), QSize(width, place_.height()));
-    painter.fillRect(tab, toQt(looks().back));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(tab);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(toQt(looks().back));
+    const double radius = place_.height() / 4.0;
+    painter.drawRoundedRect(QRectF(tab).adjusted(0, 0, 0, radius), radius, radius);
+    painter.setClipping(false);
     painter.setFont(font_);
     painter.setPen(toQt(looks().text));
-    painter.drawText(tab, Qt::AlignCenter | Qt::TextDontClip, text);
+    // In the middle, and where the stems of small letters stand on whole pixels.
+    painter.drawText(QRectF(tab).adjusted(margin + 0.5, 0, 0, 0),
+                     Qt::AlignVCenter | Qt::TextDontClip, text);
 }
 
 void PaintedImage::layOut(const Scale& scale) {

@@ -87,7 +87,11 @@ public:
     void paint(QPainter& painter) const override;
 
 private:
+    void paintLit(QPainter& painter, const QPainterPath& segment) const;
+    void paintUnlit(QPainter& painter, const QPainterPath& segment) const;
+
     QRect place_;
+    double zoom_ = 1;
     std::array<QPainterPath, kSegmentCount> segments_;
 };
 

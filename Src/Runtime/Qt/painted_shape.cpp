@@ -61,6 +61,10 @@ void PaintedShape::paintLamp(QPainter& painter) const {
     const QRectF lamp = circle().adjusted(pen_ / 2, pen_ / 2, -pen_ / 2, -pen_ / 2);
     if (isLit) paintGlow(painter);
 
+    painter.setPen(QPen(QColor(136, 144, 158, 150), pen_));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(circle().adjusted(-pen_ / 2, -pen_ / 2, pen_ / 2, pen_ / 2));
+
     const double radius = lamp.width() / 2;
     QRadialGradient glass(lamp.center(), radius, lamp.center() - QPointF(radius, radius) * 0.4);
     glass.setColorAt(0, isLit ? colour.lighter(175) : colour.lighter(165));
