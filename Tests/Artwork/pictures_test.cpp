@@ -1,0 +1,89 @@
+#include "Artwork/Maker/pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QImage>
+#include <QtEndian>
+
+namespace Orvo::Artwork {
+namespace {
+
+QByteArray kept(const char* name) {
+    QFile file(QString(ORVO_PICTURES "/") + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return file.readAll();
+}
+
+template <class Number = quint32>
+Number at(const QByteArray& bytes, qsizetype offset) {
+    EXPECT_LE(offset + qsizetype(sizeof(Number)), bytes.size());
+    return qFromLittleEndian<Number>(bytes.constData() + offset);
+}
+
+struct Kind {
+    const char* file;
+    const char* format;
+    QSize size;
+    int depth;  // as a bitmap's header has it; 0 for others
+};
+
+TEST(PicturesTest, AreOfTheirKindsAndSizes) {
+    const Kind kinds[] = {{"common-tab.bmp", "BMP", {629, 453}, 16},
+                          {"pair-tab.jpg", "JPG", {700, 432}, 0},
+                          {"toolbox.bmp", "BMP", {16, 15}, 4},
+                          {"marvane-manager.png", "PNG", {256, 256}, 0}};
+    for (const Kind& kind : kinds) {
+        const QByteArray bytes = kept(kind.file);
+        EXPECT_EQ(QImage::fromData(bytes, kind.format).size(), kind.size) << kind.file;
+        if (kind.depth == 0) continue;
+        EXPECT_EQ(at<quint16>(bytes, 28), kind.depth) << kind.file;
+        EXPECT_EQ(at(bytes, 2), bytes.size()) << kind.file;
+    }
+}
+
+// The length that a record says it has leads to the next; the header has counted them.
+TEST(PicturesTest, MetafilesAreWellFormed) {
+    for (const char* file : {"power-up.emf", "power-down.emf"}) {
+        constexpr quint32 kEnd = 14;
+        const QByteArray bytes = kept(file);
+        EXPECT_EQ(bytes.mid(40, 4), " EMF") << file;
+        EXPECT_EQ(at(bytes, 48), bytes.size()) << file;
+        quint32 records = 0;
+        quint32 last = 0;
+        for (qsizetype offset = 0; offset < bytes.size(); ++records) {
+            last = at(bytes, offset);
+            const quint32 length = at(bytes, offset + 4);
+            ASSERT_TRUE(length >= 8 && length % 4 == 0) << file << " at " << offset;
+            offset += length;
+            ASSERT_LE(offset, bytes.size()) << file;
+        }
+        EXPECT_EQ(last, kEnd) << file;
+        EXPECT_EQ(at(bytes, 52), records) << file;
+    }
+}
+
+// The largest of all differences between two colours. Another processor or library may round one
+// another way.
+int difference(const QByteArray& a, const QByteArray& b) {
+    const QImage one = QImage::fromData(a).convertToFormat(QImage::Format_RGBA8888);
+    const QImage other = QImage::fromData(b).convertToFormat(QImage::Format_RGBA8888);
+    if (one.isNull() || one.size() != other.size()) return 255;
+    int largest = 0;
+    for (qsizetype i = 0; i < one.sizeInBytes(); ++i) {
+        largest = qMax(largest, qAbs(one.constBits()[i] - other.constBits()[i]));
+    }
+    return largest;
+}
+
+TEST(PicturesTest, AreWhatTheDrawingsMakeToday) {
+    for (const Picture& picture : pictures()) {
+        const QByteArray file = kept(picture.file);
+        const QByteArray made = picture.make();
+        EXPECT_TRUE(file == made || difference(file, made) < 24)
+            << picture.file << " is older than its drawing; the target \"artwork\" renews it";
+    }
+}
+
+}  // namespace
+}  // namespace Orvo::Artwork
