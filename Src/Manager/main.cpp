@@ -8,6 +8,7 @@
 #include "Manager/manager_window.h"
 #include "Manager/options.h"
 #include "Manager/platform.h"
+#include "Runtime/Qt/emblem.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -39,6 +40,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("marvane-manager");
     QApplication::setApplicationDisplayName("Marvane Manager");
     QApplication::setApplicationVersion(ORVO_VERSION);
+    QApplication::setDesktopFileName("marvane-manager");
+    QApplication::setWindowIcon(Orvo::Window::emblem());
 
     const auto parsed = parseCommandLine(QApplication::arguments());
     if (const auto* ending = std::get_if<Ending>(&parsed)) return end(*ending);
