@@ -26,7 +26,7 @@ private:
     [[nodiscard]] QFont fontOfFirst() const;
     [[nodiscard]] QFont font() const;
     [[nodiscard]] QRect textPlace() const;
-    [[nodiscard]] int alignment() const;
+    [[nodiscard]] int baseline() const;
 
     QRect place_;
     QFont font_;

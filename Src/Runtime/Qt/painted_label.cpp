@@ -27,9 +27,9 @@ QFont PaintedLabel::font() const {
     return stored<Runtime::StoredLabel>().caption == description().caption ? firstFont_ : font_;
 }
 
-int PaintedLabel::alignment() const {
-    if (looks().flow == Layout::TextFlow::wrapped) return Qt::AlignCenter | Qt::TextWordWrap;
-    return Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine;
+// Capitals in the middle: some faces have much more room above them than below.
+int PaintedLabel::baseline() const {
+    return qRound(place_.top() + (place_.height() + QFontMetricsF(font()).capHeight()) / 2);
 }
 
 QRect PaintedLabel::textPlace() const {
@@ -45,7 +45,9 @@ QRect PaintedLabel::bounds() const {
 void PaintedLabel::paint(QPainter& painter) const {
     painter.setFont(font());
     painter.setPen(toQt(stored<Runtime::StoredLabel>().colour));
-    painter.drawText(textPlace(), alignment() | Qt::TextDontClip, text());
+    if (looks().flow == Layout::TextFlow::line)
+        return painter.drawText(QPointF(place_.left(), baseline()), text());
+    painter.drawText(place_, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextDontClip, text());
 }
 
 }  // namespace Orvo::Window

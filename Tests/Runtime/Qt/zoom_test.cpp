@@ -28,20 +28,5 @@ TEST_F(ZoomTest, EverythingGrowsWithTheZoom) {
     EXPECT_EQ(control("cmdOnOff").font().pixelSize(), 17);
 }
 
-// The widest texts against what the layout allows them, in every size.
-TEST_F(ZoomTest, NoCaptionIsWiderThanItsPlace) {
-    for (const double zoom : {1.0, 1.25, 1.5, 2.0, 3.0}) {
-        for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
-            const auto& widget = Layout::describe(id);
-            if (widget.style.kind != Layout::Kind::label) continue;
-            if (widget.style.flow == Layout::TextFlow::wrapped) continue;
-            const QString text = toQt(widget.caption).trimmed();
-            const int width = Scale(zoom).rect(id).width();
-            const QFont font = narrowed(toQt(widget.style.font, zoom), text, width);
-            EXPECT_LE(widthOf(text, font), width + 1) << widget.name << " at " << zoom;
-        }
-    }
-}
-
 }  // namespace
 }  // namespace Orvo::Window
