@@ -109,13 +109,21 @@ void PowerButton::refresh() {
     setChecked(stored<Runtime::StoredCheck>().value == Widgets::CheckValue::checked);
 }
 
+void PowerButton::drawVeil(QPainter& painter, QColor colour) const {
+    const double radius = 3 * zoom();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawRoundedRect(rect(), radius, radius);
+}
+
 // Pressed in and let out again by turns; what the picture shows is also where it will go.
 void PowerButton::paintEvent(QPaintEvent*) {
     const bool isSunken = isChecked() != isDown();
     QPainter painter(this);
     Artwork::paint(painter, isSunken ? Artwork::kPowerDown : Artwork::kPowerUp, rect());
-    if (!isEnabled()) painter.fillRect(rect(), QColor(40, 46, 58, 170));
-    if (isEnabled() && underMouse()) painter.fillRect(rect(), QColor(255, 255, 255, 20));
+    if (!isEnabled()) drawVeil(painter, QColor(40, 46, 58, 170));
+    if (isEnabled() && underMouse()) drawVeil(painter, QColor(255, 255, 255, 20));
     drawFocus(painter, *this, zoom());
 }
 

@@ -36,6 +36,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void drawVeil(QPainter& painter, QColor colour) const;
 };
 
 }  // namespace Orvo::Window
