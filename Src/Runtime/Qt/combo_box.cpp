@@ -30,7 +30,6 @@ void ComboBox::refresh() {
     const QSignalBlocker silence(this);
     for (auto i = std::size_t(count()); i < items.size(); ++i) addItem(toQt(items[i]));
     setCurrentIndex(findText(toQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
-    setAccessibleDescription(toQt(text));
     update();
 }
 

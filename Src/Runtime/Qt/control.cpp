@@ -13,7 +13,6 @@ Control::Control(QWidget& self, Runtime::Store& store, WidgetId id)
     : self_(self), store_(store), id_(id) {
     const std::string_view name = Layout::describe(id).name;
     self.setObjectName(QString::fromLatin1(name.data(), qsizetype(name.size())));
-    describeTo(self, id);
 }
 
 void Control::layOut(const Scale& scale) {
@@ -25,9 +24,12 @@ void Control::layOut(const Scale& scale) {
 void Control::refresh() {
     self_.setVisible(store_.isShown(id_));
     self_.setEnabled(store_.acceptsInput(id_));
+    tellValueTo(self_, store_, id_);
 }
 
-Control* makeControl(Runtime::Store& store, WidgetId id, QWidget* parent) {
+namespace {
+
+Control* construct(Runtime::Store& store, WidgetId id, QWidget* parent) {
     switch (Layout::describe(id).style.kind) {
         case Layout::Kind::button:
             return new CommandButton(store, id, parent);
@@ -46,6 +48,16 @@ Control* makeControl(Runtime::Store& store, WidgetId id, QWidget* parent) {
         default:
             return nullptr;
     }
+}
+
+}  // namespace
+
+// A screen reader that is told of a name asks whose it is, and keeps what it learns: not while the
+// control is still being constructed.
+Control* makeControl(Runtime::Store& store, WidgetId id, QWidget* parent) {
+    Control* made = construct(store, id, parent);
+    if (made != nullptr) describeTo(made->self(), id);
+    return made;
 }
 
 }  // namespace Orvo::Window

@@ -27,6 +27,8 @@ public:
     virtual void refresh();
 
     [[nodiscard]] QWidget& self() const { return self_; }
+    [[nodiscard]] WidgetId id() const { return id_; }
+    [[nodiscard]] const Runtime::Store& store() const { return store_; }
 
 protected:
     template <class Stored>
@@ -36,8 +38,6 @@ protected:
     [[nodiscard]] const Layout::Widget& description() const { return Layout::describe(id_); }
     [[nodiscard]] const Layout::Style& looks() const { return description().style; }
     [[nodiscard]] Runtime::UserInput& input() const { return store_.input(); }
-    [[nodiscard]] const Runtime::Store& store() const { return store_; }
-    [[nodiscard]] WidgetId id() const { return id_; }
     [[nodiscard]] double zoom() const { return zoom_; }
 
 private:

@@ -6,6 +6,8 @@
 #include <QShortcut>
 
 #include "Runtime/Qt/fonts.h"
+#include "Runtime/Qt/accessibility.h"
+#include "Runtime/Qt/hints.h"
 
 namespace Orvo::Window {
 
@@ -30,6 +32,8 @@ Front::Front(std::shared_ptr<Runtime::Store> store, QWidget* parent, Clock clock
     frame_.setTimerType(Qt::PreciseTimer);
     connect(&frame_, &QTimer::timeout, this, &Front::flush);
     provideFonts();
+    installAccessibility();
+    setAccessibleName("Amplifier panel");
     build();
     layOut();
     dirty_.set();
@@ -51,6 +55,7 @@ void Front::build() {
     for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
         controls_[id] = makeControl(*store_, id, pages_[std::size_t(pageOf(id))]);
     }
+    describeTo(*tabs_, kTabs);
     tabs_->raise();
     addTabShortcut(QKeySequence("Ctrl+Tab"), +1);
     addTabShortcut(QKeySequence("Ctrl+Shift+Tab"), -1);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QFontMetrics>
 #include <QGuiApplication>
@@ -123,6 +124,14 @@ QRegion LogView::visualRegionForSelection(const QItemSelection& selection) const
 void LogView::rowsInserted(const QModelIndex&, int start, int end) {
     updateGeometries();
     viewport()->update(visualRect(model_.index(start)).united(visualRect(model_.index(end))));
+}
+
+void LogView::currentChanged(const QModelIndex& current, const QModelIndex& before) {
+    QAbstractItemView::currentChanged(current, before);
+    if (!hasFocus() || !current.isValid()) return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(current.row());
+    QAccessible::updateAccessibility(&event);
 }
 
 // The one key that the panel waits for here is not left to a shortcut of the host's.

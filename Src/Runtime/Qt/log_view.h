@@ -22,6 +22,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& before) override;
     void rowsInserted(const QModelIndex& parent, int start, int end) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     [[nodiscard]] int horizontalOffset() const override { return 0; }

@@ -3,16 +3,28 @@
 #include <algorithm>
 #include <utility>
 
+#include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QToolTip>
+
+#include "Runtime/Qt/accessibility.h"
+#include "Runtime/Qt/names.h"
+#include "Runtime/Qt/spoken.h"
+#include "Runtime/Qt/text.h"
 
 namespace Orvo::Window {
 
-Page::Page(const Runtime::Store& store, int tab, QWidget* parent) : QWidget(parent) {
+Page::Page(const Runtime::Store& store, int tab, QWidget* parent)
+    : QWidget(parent), store_(store), tab_(tab) {
+    setAccessibleName(toQt(StringView(Layout::kTabCaptions[std::size_t(tab)])));
     setAttribute(Qt::WA_OpaquePaintEvent);
     for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
         if (pageOf(id) != tab) continue;
-        if (auto painted = makePainted(store, id)) layers_.push_back({id, std::move(painted), {}});
+        auto painted = makePainted(store, id);
+        if (!painted) continue;
+        layers_.push_back({id, std::move(painted), {}});
+        if (!nameOf(id).isEmpty()) speakers_.push_back(id);
     }
 }
 
@@ -25,13 +37,44 @@ void Page::layOut(const Scale& scale) {
     update();
 }
 
+std::size_t Page::layerOf(WidgetId id) const {
+    auto layer = std::lower_bound(layers_.begin(), layers_.end(), id,
+                                  [](const Layer& a, WidgetId b) { return a.id < b; });
+    if (layer != layers_.end() && layer->id != id) layer = layers_.end();
+    return std::size_t(layer - layers_.begin());
+}
+
 bool Page::repaintWidget(WidgetId id) {
-    const auto layer = std::lower_bound(layers_.begin(), layers_.end(), id,
-                                        [](const Layer& a, WidgetId b) { return a.id < b; });
-    if (layer == layers_.end() || layer->id != id) return false;
-    const QRect before = std::exchange(layer->bounds, layer->painted->bounds());
-    update(QRegion(before).united(layer->bounds));
+    const std::size_t at = layerOf(id);
+    if (at == layers_.size()) return false;
+    Layer& layer = layers_[at];
+    const QRect before = std::exchange(layer.bounds, layer.painted->bounds());
+    update(QRegion(before).united(layer.bounds));
+    announce(*this, id);
     return true;
+}
+
+QRect Page::placeOf(WidgetId speaker) const {
+    QRect place = boundsOf(speaker);
+    if (Layout::describe(speaker).style.kind != Layout::Kind::digit) return place;
+    for (const WidgetId digit : readoutOf(speaker)) place = place.united(boundsOf(digit));
+    return place;
+}
+
+QRect Page::boundsOf(WidgetId id) const { return layers_[layerOf(id)].painted->bounds(); }
+
+bool Page::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    showTip(static_cast<QHelpEvent&>(*event));
+    return true;
+}
+
+void Page::showTip(const QHelpEvent& event) {
+    for (const WidgetId id : speakers_) {
+        if (!store_.isShown(id) || !placeOf(id).contains(event.pos())) continue;
+        return QToolTip::showText(event.globalPos(), sentenceOf(store_, id), this, placeOf(id));
+    }
+    QToolTip::hideText();
 }
 
 void Page::paintEvent(QPaintEvent* event) {

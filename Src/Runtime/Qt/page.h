@@ -7,6 +7,8 @@
 
 #include "Runtime/Qt/painted.h"
 
+class QHelpEvent;
+
 namespace Orvo::Window {
 
 /// One tab of the panel: the surface on which everything that takes no input is painted, layered in
@@ -21,7 +23,16 @@ public:
     /// own painted ones.
     bool repaintWidget(WidgetId id);
 
+    [[nodiscard]] int tab() const { return tab_; }
+    [[nodiscard]] const Runtime::Store& store() const { return store_; }
+    /// The painted widgets that have something to say, in the layout's order; a readout's first
+    /// digit stands for all of them.
+    [[nodiscard]] const std::vector<WidgetId>& speakers() const { return speakers_; }
+    /// Where one of them is, in pixels of the page.
+    [[nodiscard]] QRect placeOf(WidgetId speaker) const;
+
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -31,7 +42,15 @@ private:
         QRect bounds;  // as last asked for
     };
 
+    /// The number of layers when the widget isn't one.
+    [[nodiscard]] std::size_t layerOf(WidgetId id) const;
+    [[nodiscard]] QRect boundsOf(WidgetId id) const;
+    void showTip(const QHelpEvent& event);
+
+    const Runtime::Store& store_;
+    const int tab_;
     std::vector<Layer> layers_;
+    std::vector<WidgetId> speakers_;
 };
 
 }  // namespace Orvo::Window

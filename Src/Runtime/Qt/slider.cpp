@@ -71,7 +71,7 @@ void Slider::mousePressEvent(QMouseEvent* event) {
 }
 
 void Slider::mouseMoveEvent(QMouseEvent* event) {
-    if (grip_) input().move(id(), track().positionAt(event->position().y() - *grip_));
+    if (grip_) moveTo(track().positionAt(event->position().y() - *grip_));
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent* event) {
@@ -84,7 +84,7 @@ void Slider::mouseReleaseEvent(QMouseEvent* event) {
         isInside ? Runtime::ReleasedWhere::onWidget : Runtime::ReleasedWhere::elsewhere);
 }
 
-void Slider::moveUp(int steps) { input().move(id(), position() + track().upwards(steps)); }
+void Slider::moveUp(int steps) { moveTo(position() + track().upwards(steps)); }
 
 void Slider::keyPressEvent(QKeyEvent* event) {
     const int range = track().maximum;

@@ -14,6 +14,10 @@ public:
     Slider(Runtime::Store& store, WidgetId id, QWidget* parent);
     void refresh() override;
 
+    /// As a person does.
+    void moveTo(int position) { input().move(id(), position); }
+    [[nodiscard]] int maximum() const { return track().maximum; }
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
