@@ -64,10 +64,7 @@ void OptionButton::paintEvent(QPaintEvent*) {
         painter.setBrush(isEnabled() ? toQt(looks().text) : ring);
         painter.drawEllipse(centre, radius / 2, radius / 2);
     }
-    if (!hasFocus()) return;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(64, 156, 255), 1.5 * zoom()));
-    painter.drawEllipse(centre, radius, radius);
+    drawRoundFocus(painter, *this, zoom());
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* event) {

@@ -21,17 +21,37 @@ void drawFace(QPainter& painter, const QRectF& place, QColor colour, Face face, 
                      body.topRight() + QPointF(-radius, zoom));
 }
 
+namespace {
+
 // Light and dark, to stand out from any ground.
-void drawFocus(QPainter& painter, const QWidget& widget, double zoom) {
+template <class Draw>
+void drawRings(QPainter& painter, const QWidget& widget, double zoom, const Draw& draw) {
     if (!widget.hasFocus()) return;
     painter.setBrush(Qt::NoBrush);
     const auto ring = [&](double inset, double width, QColor colour) {
-        const QRectF place = QRectF(widget.rect()).adjusted(inset, inset, -inset, -inset);
         painter.setPen(QPen(colour, width));
-        painter.drawRoundedRect(place, 2 * zoom, 2 * zoom);
+        draw(QRectF(widget.rect()).adjusted(inset, inset, -inset, -inset));
     };
     ring(0.75 * zoom, 1.5 * zoom, QColor(40, 128, 240));
     ring(2 * zoom, zoom, QColor(255, 255, 255, 170));
+}
+
+}  // namespace
+
+void drawFocus(QPainter& painter, const QWidget& widget, double zoom) {
+    drawRings(painter, widget, zoom, [&](const QRectF& place) {
+        painter.drawRoundedRect(place, 2 * zoom, 2 * zoom);
+    });
+}
+
+void drawRoundFocus(QPainter& painter, const QWidget& widget, double zoom) {
+    drawRings(painter, widget, zoom, [&](QRectF place) {
+        const double diameter = qMin(place.width(), place.height());
+        const QPointF centre = place.center();
+        place.setSize({diameter, diameter});
+        place.moveCenter(centre);
+        painter.drawEllipse(place);
+    });
 }
 
 }  // namespace Orvo::Window

@@ -17,4 +17,7 @@ void drawFace(QPainter& painter, const QRectF& place, QColor colour, Face face, 
 /// The frame around what has the keyboard focus; nothing when it hasn't.
 void drawFocus(QPainter& painter, const QWidget& widget, double zoom);
 
+/// The same for what is round.
+void drawRoundFocus(QPainter& painter, const QWidget& widget, double zoom);
+
 }  // namespace Orvo::Window

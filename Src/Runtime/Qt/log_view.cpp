@@ -171,8 +171,8 @@ void LogView::paintEvent(QPaintEvent* event) {
     const int last = std::min(rowCount() - 1, top() + dirty.bottom() / rowHeight_);
     for (int row = top() + dirty.top() / rowHeight_; row <= last; ++row) drawRow(painter, row);
     if (!hasFocus()) return;
-    painter.setPen(QColor(64, 156, 255));
-    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+    painter.setPen(QPen(QColor(64, 156, 255), 2 * qRound(zoom())));
+    painter.drawRect(viewport()->rect());
 }
 
 void LogView::drawRow(QPainter& painter, int row) const {

@@ -137,9 +137,10 @@ TEST_F(AccessibilityTest, AssistiveTechnologyPressesWhatCanBePressed) {
     for (const char* name : {"Command12", "optP2", "chkOnOff12"}) {
         known(name)->actionInterface()->doAction(known(name)->actionInterface()->actionNames()[0]);
     }
-    EXPECT_TRUE(QTest::qWaitFor([&] { return panel_.heard.find("chkOn") != std::string::npos; }));
-    EXPECT_EQ(panel_.heard.substr(0, panel_.heard.find(", tmr")),
-              "Command12 click, optP2 click, chkOnOff12 click");
+    for (const char* click : {"Command12 click", "optP2 click", "chkOnOff12 click"}) {
+        const auto isHeard = [&] { return panel_.heard.find(click) != std::string::npos; };
+        EXPECT_TRUE(QTest::qWaitFor(isHeard)) << click;
+    }
     settle();
     EXPECT_TRUE(known("optP2")->state().checked);
 }
