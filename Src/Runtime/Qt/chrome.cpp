@@ -39,9 +39,8 @@ void drawRings(QPainter& painter, const QWidget& widget, double zoom, const Draw
 }  // namespace
 
 void drawFocus(QPainter& painter, const QWidget& widget, double zoom) {
-    drawRings(painter, widget, zoom, [&](const QRectF& place) {
-        painter.drawRoundedRect(place, 2 * zoom, 2 * zoom);
-    });
+    drawRings(painter, widget, zoom,
+              [&](const QRectF& place) { painter.drawRoundedRect(place, 2 * zoom, 2 * zoom); });
 }
 
 void drawRoundFocus(QPainter& painter, const QWidget& widget, double zoom) {

@@ -20,8 +20,10 @@ QString PaintedAccessible::value() const { return valueOf(page_->store(), id_); 
 void PaintedAccessible::announce() {
     const QString now = value();
     if (std::exchange(told_, now) == now) return;
-    QAccessibleValueChangeEvent value(this, currentValue());
-    QAccessible::updateAccessibility(&value);
+    if (valueInterface() != nullptr) {
+        QAccessibleValueChangeEvent value(this, currentValue());
+        QAccessible::updateAccessibility(&value);
+    }
     QAccessibleEvent description(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&description);
 }
@@ -40,10 +42,6 @@ QString PaintedAccessible::text(QAccessible::Text text) const {
 QRect PaintedAccessible::rect() const {
     const QRect place = page_->placeOf(id_);
     return {page_->mapToGlobal(place.topLeft()), place.size()};
-}
-
-QAccessible::Role PaintedAccessible::role() const {
-    return kind() == Kind::shape ? QAccessible::Indicator : QAccessible::StaticText;
 }
 
 QAccessible::State PaintedAccessible::state() const {
@@ -128,8 +126,8 @@ QAccessibleInterface* PageAccessible::childAt(int x, int y) const {
 
 int PageAccessible::indexOfChild(const QAccessibleInterface* child) const {
     const auto all = children();
-    const auto at = std::find_if(all.begin(), all.end(),
-                                 [&](WidgetId id) { return interfaceOf(id) == child; });
+    const auto at =
+        std::find_if(all.begin(), all.end(), [&](WidgetId id) { return interfaceOf(id) == child; });
     return at == all.end() ? -1 : int(at - all.begin());
 }
 

@@ -29,7 +29,8 @@ public:
     [[nodiscard]] QString text(QAccessible::Text text) const override;
     void setText(QAccessible::Text, const QString&) override {}
     [[nodiscard]] QRect rect() const override;
-    [[nodiscard]] QAccessible::Role role() const override;
+    // An indicator's role would suit a lamp, but is unknown on the X desktops.
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::StaticText; }
     [[nodiscard]] QAccessible::State state() const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
 
