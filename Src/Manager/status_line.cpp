@@ -1,5 +1,7 @@
 #include "Manager/status_line.h"
 
+#include <utility>
+
 #include <QHBoxLayout>
 
 namespace Orvo::Manager {
@@ -25,9 +27,9 @@ StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 0, 6, 0);
     row->setSpacing(10);
-    link_ = addLabel("Link");
+    link_ = addAlert("Link");
     connection_ = addLabel("Connected to");
-    lastWord_ = addLabel("Last word from the amplifier");
+    lastWord_ = addAlert("Last word from the amplifier");
     message_ = addLabel("Message");
     message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->setStretchFactor(message_, 1);
@@ -42,19 +44,33 @@ StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
 
 QLabel* StatusLine::addLabel(const QString& name) {
     auto* label = new QLabel;
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setMargin(2);
-    layout()->addWidget(label);
+    add(*label, name);
     return label;
 }
 
+AlertLabel* StatusLine::addAlert(const QString& name) {
+    auto* label = new AlertLabel;
+    add(*label, name);
+    return label;
+}
+
+void StatusLine::add(QLabel& label, const QString& name) {
+    label.setObjectName(name);
+    label.setTextFormat(Qt::PlainText);
+    label.setMargin(2);
+    layout()->addWidget(&label);
+}
+
 void StatusLine::showText(const StatusText& text) {
-    link_->setText(QString::fromStdString(text.link));
+    const QString link = QString::fromStdString(text.link);
+    const bool isLinkNews = !link_->text().isEmpty() && link_->text() != link;
+    link_->setText(link);
+    if (isLinkNews) link_->alert();
     connection_->setText(QString::fromStdString(text.connection));
     const QString lastWord = QString::fromStdString(text.lastWord);
     lastWord_->setText(text.isStale ? " \u26a0 " + lastWord + " " : lastWord);
     lastWord_->setStyleSheet(text.isStale ? kWarning : "");
+    if (!std::exchange(isStale_, text.isStale) && isStale_) lastWord_->alert();
 }
 
 void StatusLine::say(const QString& message) {

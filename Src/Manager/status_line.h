@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "Manager/Station/status_text.h"
+#include "Manager/alert_label.h"
 
 namespace Orvo::Manager {
 
@@ -21,10 +22,13 @@ public:
 
 private:
     QLabel* addLabel(const QString& name);
+    AlertLabel* addAlert(const QString& name);
+    void add(QLabel& label, const QString& name);
 
-    QLabel* link_;
+    AlertLabel* link_;
     QLabel* connection_;
-    QLabel* lastWord_;
+    AlertLabel* lastWord_;
+    bool isStale_ = false;
     QLabel* message_;
     QLabel* readOnly_;
     QLabel* zoom_;
