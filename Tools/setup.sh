@@ -11,7 +11,8 @@ declare -A packages_for=(
     # libgl-dev because Qt's own CMake package asks for it; the fonts because
     # an offscreen window would show no text without any.
     [window]="qt6-base-dev libgl-dev fonts-dejavu-core fonts-liberation"
-    [tests]="libgtest-dev libbenchmark-dev"
+    # From xvfb on, what the window is read with from outside; that test is skipped without.
+    [tests]="libgtest-dev libbenchmark-dev xvfb dbus-daemon at-spi2-core"
     # For CI only, as this starts a print server on the machine; the tests that
     # need one are skipped without.
     [server]="cups-daemon"

@@ -1,0 +1,216 @@
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <map>
+#include <optional>
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QThread>
+
+#include "Runtime/Qt/names.h"
+#include "Runtime/Qt/scale.h"
+#include "Runtime/Qt/spoken.h"
+#include "accessible_bus.h"
+
+// The running program, as a screen reader on the same desktop finds it.
+namespace Orvo::Manager {
+namespace {
+
+using Layout::Kind;
+using Layout::WidgetId;
+using namespace std::chrono_literals;
+
+bool waitUntil(const std::function<bool()>& isDone) {
+    const QDeadlineTimer deadline(60s);
+    while (!isDone()) {
+        if (deadline.hasExpired()) return false;
+        QCoreApplication::processEvents();
+        QThread::msleep(20);
+    }
+    return true;
+}
+
+class AccessibilityTest : public testing::Test {
+protected:
+    using Found = std::multimap<QString, Accessible>;
+
+    AccessibilityTest() {
+        program_.setProcessChannelMode(QProcess::ForwardedChannels);
+        program_.start(MANAGER_PROGRAM, {"--simulate=42"});
+        const auto isUp = [this] {
+            for (int tab = 0; tab < kTabCount; ++tab) {
+                pages_[std::size_t(tab)] = find("panel", captionOf(tab)).value_or(Accessible());
+            }
+            return says("Link", "lit");
+        };
+        if (!waitUntil(isUp)) ADD_FAILURE() << "the program doesn't come up";
+    }
+    ~AccessibilityTest() override {
+        program_.kill();
+        program_.waitForFinished();
+    }
+
+    /// The first below `top`, in depth, that has a name and a role.
+    [[nodiscard]] std::optional<Accessible> find(const QString& role, const QString& name,
+                                                 const Accessible& top) const {
+        for (const Accessible& child : bus_.childrenOf(top)) {
+            const QString itsRole = bus_.roleOf(child);
+            if (itsRole == role && bus_.nameOf(child) == name) return child;
+            const bool isSearched = itsRole != "combo box" && itsRole != "slider";
+            if (auto found = isSearched ? find(role, name, child) : std::nullopt) return found;
+        }
+        return {};
+    }
+    [[nodiscard]] std::optional<Accessible> find(const QString& role, const QString& name) const {
+        for (const Accessible& program : bus_.programs()) {
+            if (bus_.nameOf(program) != "marvane-manager") continue;
+            if (auto found = find(role, name, program)) return found;
+        }
+        return {};
+    }
+
+    static QString captionOf(int tab) {
+        return QString::fromUtf16(Layout::kTabCaptions[std::size_t(tab)].data());
+    }
+
+    void toTab(int tab) {
+        bus_.act(find("page tab", captionOf(tab)).value(), "Press");
+        EXPECT_TRUE(waitUntil([&] { return bus_.is(pages_[std::size_t(tab)], State::showing); }));
+    }
+
+    /// What is on a page, by name.
+    [[nodiscard]] Found contents(int tab) const {
+        Found all;
+        for (const Accessible& thing : bus_.childrenOf(pages_[std::size_t(tab)])) {
+            all.emplace(bus_.nameOf(thing), thing);
+        }
+        return all;
+    }
+
+    [[nodiscard]] Accessible the(const QString& name) const {
+        for (int tab = 0; tab < kTabCount; ++tab) {
+            const Found all = contents(tab);
+            if (const auto found = all.find(name); found != all.end()) return found->second;
+        }
+        return {};
+    }
+    [[nodiscard]] bool says(const QString& name, const QString& text) const {
+        return bus_.descriptionOf(the(name)) == text;
+    }
+
+    static constexpr int kTabCount = 3;
+    QProcess program_;
+    AccessibleBus bus_;
+    std::array<Accessible, kTabCount> pages_;
+};
+
+struct Expected {
+    Kind kind;
+    const char* role;
+    const char* says = ".*";
+    const char* action = "";
+};
+
+constexpr auto kMeasure = "-?\\d+ (V|dB|°C)";
+constexpr auto kExpected = std::to_array<Expected>({
+    {Kind::shape, "label", "lit|dark"},
+    {Kind::digit, "label", kMeasure},
+    {Kind::slider, "slider", kMeasure},
+    {Kind::picture, "chart", "trace of \\d+ samples|no trace"},
+    {Kind::button, "push button", ".+", "Press"},
+    {Kind::option, "radio button", ".+", "Press"},
+    {Kind::check, "check box", "on|off", "Press"},
+    {Kind::combo, "combo box", "\\d+"},
+    {Kind::list, "list"},
+});
+
+const Expected* expectedOf(Kind kind) {
+    const auto* row = std::find_if(kExpected.begin(), kExpected.end(),
+                                   [&](const Expected& expected) { return expected.kind == kind; });
+    return row != kExpected.end() ? row : nullptr;
+}
+
+bool isLamp(const Layout::Style& style) {
+    return style.outline == Layout::Outline::circle && !style.isSolid;
+}
+
+TEST_F(AccessibilityTest, EveryLampReadoutSliderAndButtonIsFoundByNameWithItsValue) {
+    for (int tab = 0; tab < kTabCount; ++tab) {
+        toTab(tab);
+        const Found all = contents(tab);
+        for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
+            const auto& widget = Layout::describe(id);
+            const auto& style = widget.style;
+            const Expected* expected = expectedOf(style.kind);
+            if (Window::pageOf(id) != tab || !style.isVisible || expected == nullptr) continue;
+            if (style.kind == Kind::shape && !isLamp(style)) continue;
+
+            SCOPED_TRACE(widget.name);
+            const QString name = Window::nameOf(Window::speakerOf(id));
+            ASSERT_EQ(all.count(name), 1U) << name.toStdString();
+            const Accessible& found = all.find(name)->second;
+            EXPECT_EQ(bus_.roleOf(found), expected->role);
+            EXPECT_TRUE(bus_.is(found, State::showing));
+            const QRegularExpression says(QRegularExpression::anchoredPattern(expected->says));
+            const QString said = bus_.descriptionOf(found);
+            EXPECT_TRUE(says.match(said).hasMatch()) << said.toStdString();
+            const QString action = expected->action;
+            EXPECT_TRUE(action.isEmpty() || bus_.actionsOf(found).contains(action));
+        }
+        EXPECT_EQ(all.count({}), 0U) << "decoration is known to nobody";
+    }
+}
+
+TEST_F(AccessibilityTest, ASliderThatIsSetMovesAndTheAmplifierFollows) {
+    const Accessible slider = the("Volume channel 2");
+    const Accessible readout = the("Volume readout channel 2");
+    for (const int volume : {-20, -14}) {
+        bus_.forget();
+        bus_.setValue(slider, volume);
+        EXPECT_TRUE(waitUntil([&] { return bus_.valueOf(slider) == volume; }));
+        EXPECT_TRUE(waitUntil([&] { return bus_.valueOf(readout) == volume; }));
+        EXPECT_EQ(bus_.descriptionOf(readout), QString("%1 dB").arg(volume));
+        EXPECT_TRUE(waitUntil([&] { return bus_.hasHeard(readout, "accessible-value"); }));
+        EXPECT_TRUE(waitUntil([&] { return bus_.hasHeard(slider, "accessible-value"); }));
+    }
+}
+
+TEST_F(AccessibilityTest, AButtonThatIsPressedDoesWhatItSays) {
+    toTab(2);
+    const Accessible lamp = the("Mute lamp channel 3");
+    EXPECT_EQ(bus_.valueOf(lamp), 0);
+    bus_.act(the("Mute channel 3"), "Press");
+    EXPECT_TRUE(waitUntil([&] { return bus_.valueOf(lamp) == 1; }));
+    EXPECT_TRUE(waitUntil([&] { return bus_.hasHeard(lamp, "accessible-description"); }));
+    EXPECT_EQ(bus_.descriptionOf(lamp), "lit");
+
+    const Accessible option = the("Negative input channel 4");
+    bus_.act(option, "Press");
+    EXPECT_TRUE(waitUntil([&] { return bus_.is(option, State::checked); }));
+}
+
+TEST_F(AccessibilityTest, ALostLinkIsReadOut) {
+    Accessible link;
+    EXPECT_TRUE(waitUntil([&] {
+        link = find("alert message", "Link up").value_or(Accessible());
+        return !link.path.isEmpty();
+    }));
+    bus_.act(find("menu item", "1 Link lost").value(), "Press");
+    EXPECT_TRUE(waitUntil([&] { return bus_.nameOf(link) == "Link down"; }));
+    EXPECT_TRUE(waitUntil([&] { return bus_.hasHeard(link, "showing"); }));
+    EXPECT_TRUE(waitUntil([&] { return says("Link", "dark"); }));
+}
+
+}  // namespace
+}  // namespace Orvo::Manager
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
