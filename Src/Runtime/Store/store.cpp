@@ -72,8 +72,11 @@ std::unique_ptr<StoredWidget> Store::make(WidgetId id) {
             return std::make_unique<StoredTabs>(*this, id);
         case Kind::digit:
             return std::make_unique<StoredDigit>(*this, id);
-        case Kind::slider:
-            return std::make_unique<StoredSlider>(*this, id);
+        case Kind::slider: {
+            auto slider = std::make_unique<StoredSlider>(*this, id);
+            sliders_.push_back(slider.get());
+            return slider;
+        }
         case Kind::option: {
             auto option = std::make_unique<StoredOption>(*this, id);
             options_[Layout::describe(id).container].push_back(option.get());
@@ -135,6 +138,12 @@ void Store::tick(const StoredTimer& timer) {
     input_.tell(&InputObserver::ticks);
     notify({.widget = timer.id(), .kind = NotificationKind::tick});
     input_.tell(&InputObserver::ticked);
+}
+
+void Store::letGoOfSliders() {
+    for (StoredSlider* slider : sliders_) {
+        if (slider->state().isHeld && !acceptsInput(slider->id())) slider->hold(false);
+    }
 }
 
 void Store::advance(Milliseconds time) {

@@ -112,6 +112,7 @@ private:
     friend class StoredWidget;
     friend class StoredOption;
     friend class StoredPicture;
+    friend class StoredTabs;
     friend class StoredTimer;
     friend class UserInput;
     class StoredScreen;
@@ -137,9 +138,12 @@ private:
     const std::vector<StoredOption*>& optionsIn(WidgetId container);
     StoredTimer* nextTimer();
     void tick(const StoredTimer& timer);
+    /// Of those that a person holds and that take no input any more.
+    void letGoOfSliders();
 
     std::array<std::unique_ptr<StoredWidget>, Layout::kWidgetCount> widgets_;
     std::vector<StoredTimer*> timers_;
+    std::vector<StoredSlider*> sliders_;
     std::array<std::vector<StoredOption*>, Layout::kWidgetCount> options_;
     std::unique_ptr<StoredScreen> screen_;
     std::unique_ptr<StoredPrompt> prompt_;

@@ -32,6 +32,14 @@ void StoredWidget::observe(Operation operation) const {
     store_.observe(operation);
 }
 
+void StoredWidget::show(bool visible) {
+    if (change(isVisible_, visible)) store_.letGoOfSliders();
+}
+
+void StoredWidget::enable(bool enabled) {
+    if (change(isEnabled_, enabled)) store_.letGoOfSliders();
+}
+
 void StoredWidget::changed() { store_.changed(id_); }
 
 StoredLabel::StoredLabel(Store& store, WidgetId id) : StatefulWidget(store, id) {
@@ -312,6 +320,7 @@ void StoredTabs::setTabEnabled(Integer tab, Boolean enabled) {
     state_.enabled[index] = bool(enabled);
     leaveDisabledTab();
     changed();
+    store().letGoOfSliders();
 }
 
 bool StoredTabs::isTabEnabled(int tab) const {
@@ -354,11 +363,6 @@ void StoredSlider::setMaximum(Integer position) {
 void StoredSlider::setEnabled(Boolean enabled) {
     observe({.verb = Verb::setEnabled, .value = enabled.raw()});
     enable(bool(enabled));
-}
-
-void StoredSlider::enable(bool enabled) {
-    StoredWidget::enable(enabled);
-    if (!enabled) hold(false);
 }
 
 bool StoredSlider::moveTo(int position) { return change(state_.position, state_.within(position)); }

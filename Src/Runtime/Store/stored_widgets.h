@@ -27,8 +27,8 @@ public:
     /// The widget's own state; its container may be hidden or disabled all the same.
     [[nodiscard]] bool isVisible() const { return isVisible_; }
     [[nodiscard]] bool isEnabled() const { return isEnabled_; }
-    void show(bool visible) { change(isVisible_, visible); }
-    virtual void enable(bool enabled) { change(isEnabled_, enabled); }
+    void show(bool visible);
+    virtual void enable(bool enabled);
 
 protected:
     [[nodiscard]] const Layout::Widget& description() const { return Layout::describe(id_); }
@@ -197,7 +197,6 @@ public:
     void setMaximum(Integer position) override;
     void setEnabled(Boolean enabled) override;
 
-    void enable(bool enabled) override;
     void hold(bool held) { change(state_.isHeld, held); }
     /// Moves as a person does, within the bounds. False when that changes nothing.
     bool moveTo(int position);

@@ -153,6 +153,24 @@ TEST_F(Monitor, MovesAndAsksTheSliderOfAChannel) {
     EXPECT_EQ(takeLines(), Lines());
 }
 
+TEST_F(Monitor, LetsGoOfASliderThatTakesNoInputAnyMore) {
+    using Change = std::function<void(bool isBack)>;
+    const std::pair<const char*, Change> changes[] = {
+        {"hidden", [&](bool isBack) { store_.show(id("ZelvinSlider5"), isBack); }},
+        {"container hidden", [&](bool isBack) { store_.show(id("Frame3"), isBack); }},
+        {"disabled", [&](bool isBack) { store_.enable(id("ZelvinSlider5"), isBack); }},
+        {"container disabled", [&](bool isBack) { store_.enable(id("Frame3"), isBack); }},
+        {"tab disabled", [&](bool isBack) { panel_.AbilitaSlave(isBack); }},
+    };
+    for (const auto& [what, change] : changes) {
+        person_.hold(id("ZelvinSlider5"));
+        EXPECT_EQ(panel_.VolumeSliderButtonDown(4), kTrue) << what;
+        change(false);
+        change(true);
+        EXPECT_EQ(panel_.VolumeSliderButtonDown(4), kFalse) << what;
+    }
+}
+
 TEST_F(Monitor, SumsUpTheMuteStateOfTheChannelsThereAre) {
     panel_.Mute(1, kTrue);
     panel_.Mute(2, kTrue);
