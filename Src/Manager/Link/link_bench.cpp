@@ -22,12 +22,7 @@ void LinkBench::connect() {
 }
 
 InvokeResult LinkBench::invoke(Long dispatchId, MemberKind kind, std::span<const Value> arguments) {
-    try {
-        const Member& member = findMember(dispatchId, kind);
-        return {.value = member.call(calls_, convertArguments(member, arguments))};
-    } catch (const Error& error) {
-        return {.error = error};
-    }
+    return invokeOn(calls_, dispatchId, kind, arguments);
 }
 
 // The grammar of a link keeps these away.

@@ -1,20 +1,8 @@
 #include "Orvo/core/late_binding.h"
 
-#include <algorithm>
+#include "Orvo/values/ignoring_case.h"
 
 namespace Orvo {
-namespace {
-
-char lowerCase(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
-}
-
-bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return lowerCase(x) == lowerCase(y); });
-}
-
-}  // namespace
 
 std::optional<Long> dispatchIdOf(std::string_view name) {
     for (const Member& member : kMembers) {
@@ -44,6 +32,16 @@ std::vector<Value> convertArguments(const Member& member, std::span<const Value>
         converted[i] = convert(arguments[i], parameters[i].type);
     }
     return converted;
+}
+
+InvokeResult invokeOn(MarvaneAssistantInterface& panel, Long dispatchId, MemberKind kind,
+                      std::span<const Value> arguments) {
+    try {
+        const Member& member = findMember(dispatchId, kind);
+        return {.value = member.call(panel, convertArguments(member, arguments))};
+    } catch (const Error& error) {
+        return {.error = error};
+    }
 }
 
 }  // namespace Orvo

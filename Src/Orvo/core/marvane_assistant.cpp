@@ -39,8 +39,7 @@ InvokeResult MarvaneAssistant::invoke(Long dispatchId, MemberKind kind,
                                       std::span<const Value> arguments) {
     try {
         const auto alive = enter();
-        const Member& member = findMember(dispatchId, kind);
-        return {.value = member.call(*this, convertArguments(member, arguments))};
+        return invokeOn(*this, dispatchId, kind, arguments);
     } catch (const Error& error) {
         return {.error = error};
     }

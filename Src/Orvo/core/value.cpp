@@ -1,10 +1,10 @@
 #include "Orvo/core/value.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "Orvo/values/arithmetic.h"
 #include "Orvo/values/error.h"
+#include "Orvo/values/ignoring_case.h"
 #include "Orvo/values/text.h"
 
 namespace Orvo {
@@ -21,20 +21,12 @@ double numberOf(double value) { return value; }
 double numberOf(const String& text) { return numericValue(text); }
 double numberOf(const IntegerArray&) { throw Errors::typeMismatch(); }
 
-bool equalIgnoringCase(StringView text, StringView ascii) {
-    const auto lower = [](char16_t unit) {
-        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
-    };
-    return std::equal(text.begin(), text.end(), ascii.begin(), ascii.end(),
-                      [&](char16_t a, char16_t b) { return lower(a) == lower(b); });
-}
-
 std::optional<Boolean> truthWord(const Value& value) {
     if (const auto* boolean = std::get_if<Boolean>(&value)) return *boolean;
     const auto* text = std::get_if<String>(&value);
     if (text == nullptr) return std::nullopt;
-    if (equalIgnoringCase(*text, kTrue)) return Boolean(true);
-    if (equalIgnoringCase(*text, kFalse)) return Boolean(false);
+    if (equalIgnoringCase(StringView(*text), kTrue)) return Boolean(true);
+    if (equalIgnoringCase(StringView(*text), kFalse)) return Boolean(false);
     return std::nullopt;
 }
 
