@@ -13,12 +13,17 @@ void PanelBench::take(MarvaneAssistant& panel, std::shared_ptr<Runtime::Store> s
     panel_ = &panel;
     store_ = std::move(store);
     store_->promptWith(this);
-    panel_->setErrorHandler([this](const Error& error) {
-        if (listener_ != nullptr) listener_->failed(error);
-    });
     events_ = panel_->connect([this](Long dispatchId, std::span<Value> arguments) {
         if (listener_ != nullptr) listener_->raised(eventWith(dispatchId), arguments);
     });
+}
+
+void PanelBench::takeErrors() {
+    panel_->setErrorHandler([this](const Error& error) { failed(error); });
+}
+
+void PanelBench::failed(const Error& error) {
+    if (listener_ != nullptr) listener_->failed(error);
 }
 
 // Whatever a person does may bring a handler to renew the bench: the old widgets see to it

@@ -22,6 +22,9 @@ protected:
     /// From now on the bench's panel is this one, over these widgets. It must live until the bench
     /// takes another or ends.
     void take(MarvaneAssistant& panel, std::shared_ptr<Runtime::Store> store);
+    /// From now on the bench hears of the panel's errors that nobody waits for.
+    void takeErrors();
+    void failed(const Error& error);
 
     void click(Widgets::WidgetId widget, Runtime::MouseButton button) override;
     void dragOff(Widgets::WidgetId widget, Runtime::MouseButton button) override;

@@ -12,7 +12,6 @@
 namespace Orvo::Console {
 namespace {
 
-// Some editors begin a file with it.
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // In characters from 1.
@@ -47,9 +46,7 @@ bool Script::run() {
     while (!session_.hasQuit() && (isUnderstood || atComplaint_ == AtComplaint::goOn)) {
         auto line = lines_.next();
         if (!line) break;
-        if (++lineNumber_ == 1 && line->starts_with(kByteOrderMark)) {
-            line->remove_prefix(kByteOrderMark.size());
-        }
+        if (++lineNumber_ == 1) line = withoutByteOrderMark(*line);
         const auto complaint = session_.run(*line);
         if (complaint) report(*complaint, *line);
         isUnderstood = isUnderstood && !complaint;
@@ -60,8 +57,18 @@ bool Script::run() {
 
 void Script::report(const Misunderstood& complaint, std::string_view line) {
     output_.flush();
-    std::fprintf(stderr, "%s:%zu:%td: %s\n", name_.c_str(), lineNumber_,
-                 columnAt(line, complaint.offset), complaint.text.c_str());
+    std::fprintf(stderr, "%s\n", placed(complaint, name_, lineNumber_, line).c_str());
+}
+
+std::string placed(const Misunderstood& complaint, const std::string& name, std::size_t lineNumber,
+                   std::string_view line) {
+    return name + ':' + std::to_string(lineNumber) + ':' +
+           std::to_string(columnAt(line, complaint.offset)) + ": " + complaint.text;
+}
+
+std::string_view withoutByteOrderMark(std::string_view line) {
+    if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
+    return line;
 }
 
 Status runScript(Bench& bench, const Grammar& grammar, const std::string& file,

@@ -36,6 +36,14 @@ private:
     std::size_t lineNumber_ = 0;
 };
 
+/// Where in a script something was not understood, and what: "NAME:LINE:COLUMN: TEXT", both counted
+/// from 1, the column in characters.
+std::string placed(const Misunderstood& complaint, const std::string& name, std::size_t lineNumber,
+                   std::string_view line);
+
+/// The first line of a file without the mark that some editors begin it with.
+std::string_view withoutByteOrderMark(std::string_view line);
+
 /// How a program that runs a script ends.
 enum Status { done, notUnderstood, cannotRun };
 

@@ -9,6 +9,7 @@ void StoreBench::renew() {
     const auto store = Runtime::Store::create();
     panel_ = std::make_unique<MarvaneAssistant>(store);
     take(*panel_, store);
+    takeErrors();
 }
 
 void StoreBench::shoot(const String& /*file*/) {

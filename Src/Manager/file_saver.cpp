@@ -1,23 +1,13 @@
 #include "Manager/file_saver.h"
 
-#include <QDateTime>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QSaveFile>
 
+#include "Manager/file_choice.h"
+#include "Manager/warning.h"
+
 namespace Orvo::Manager {
-namespace {
-
-// "marvane-panel.png" becomes "marvane-panel-20260314-150926.png".
-QString dated(const QString& name) {
-    const QFileInfo file(name);
-    const QString time = QDateTime::currentDateTime().toString("yyyyMMdd-HHmmss");
-    return file.completeBaseName() + '-' + time + '.' + file.suffix();
-}
-
-}  // namespace
 
 QString write(const QString& path, const QByteArray& content) {
     QSaveFile file(path);
@@ -26,21 +16,16 @@ QString write(const QString& path, const QByteArray& content) {
     return isWritten ? QString() : file.errorString();
 }
 
-FileSaver::FileSaver(QWidget& window)
-    : QObject(&window), window_(window), directory_(QDir::homePath()) {}
+FileSaver::FileSaver(QWidget& window) : QObject(&window), window_(window) {}
 
 void FileSaver::ask(const SavedFile& file) {
-    auto* dialog = new QFileDialog(&window_, "Save the " + file.what);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(QFileInfo(file.name).suffix());
-    dialog->setNameFilters(
-        {file.kind + " (*." + QFileInfo(file.name).suffix() + ")", "All files (*)"});
-    dialog->setDirectory(directory_);
-    dialog->selectFile(dated(file.name));
-    connect(dialog, &QFileDialog::fileSelected, this,
-            [this, file](const QString& path) { save(path, file); });
-    dialog->open();
+    askForFile(window_,
+               {.title = "Save the " + file.what,
+                .kind = file.kind,
+                .ending = QFileInfo(file.name).suffix(),
+                .directory = directory_,
+                .name = dated(file.name)},
+               [this, file](const QString& path) { save(path, file); });
 }
 
 void FileSaver::save(const QString& path, const SavedFile& file) {
@@ -50,12 +35,8 @@ void FileSaver::save(const QString& path, const SavedFile& file) {
         emit said("Saved " + QDir::toNativeSeparators(path));
         return;
     }
-    auto* box =
-        new QMessageBox(QMessageBox::Warning, "Not saved",
-                        "The " + file.what + " could not be saved.", QMessageBox::Ok, &window_);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(QDir::toNativeSeparators(path) + ": " + error);
-    box->open();
+    showWarning(window_, "Not saved", "The " + file.what + " could not be saved.",
+                QDir::toNativeSeparators(path) + ": " + error);
 }
 
 }  // namespace Orvo::Manager

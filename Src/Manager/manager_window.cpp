@@ -5,12 +5,12 @@
 
 #include <QCloseEvent>
 #include <QDialog>
-#include <QFile>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 
+#include "Manager/Script/replay.h"
 #include "Manager/zoom.h"
 #include "Orvo/core/marvane_assistant.h"
 #include "Runtime/Ports/machine_platform.h"
@@ -26,24 +26,13 @@ constexpr auto kRefresh = 200ms;
 // A machine that was asleep doesn't live through the night in the morning.
 constexpr qint64 kLongestTick = 1000;
 
-// What is recorded must tick in the replay as it did here.
-Window::Clock clockOf(const Options& options) {
-    return options.record.isEmpty() ? Window::Clock::real : Window::Clock::byHand;
-}
-
-std::unique_ptr<Recorder> recorderOf(const Options& options, Window::PanelWidget& panel) {
-    if (options.record.isEmpty()) return nullptr;
-    const auto answers = options.recordsAnswers ? Answers::inFull : Answers::asCancelled;
-    return std::make_unique<Recorder>(QFile::encodeName(options.record).toStdString(),
-                                      panel.panel(), panel.store(), answers);
-}
-
 }  // namespace
 
 ManagerWindow::ManagerWindow(const Options& options)
     : options_(options),
-      panel_(new Window::PanelWidget(Runtime::machinePlatform(), this, clockOf(options))),
-      recorder_(recorderOf(options, *panel_)),
+      // What is recorded must tick in the replay as it did here, and that can begin at any time.
+      panel_(new Window::PanelWidget(Runtime::machinePlatform(), this, Window::Clock::byHand)),
+      recorder_(options.record.isEmpty() ? nullptr : makeRecorder(options.record)),
       station_(panel_->panel()),
       zoomArea_(new ZoomArea(*panel_, this)),
       statusLine_(new StatusLine),
@@ -66,7 +55,7 @@ ManagerWindow::~ManagerWindow() { panel_->panel().setErrorHandler({}); }
 
 void ManagerWindow::listenToErrors() {
     panel_->panel().setErrorHandler([this](const Error& error) {
-        station_.conversation().failed(error);
+        station_.failed(error);
         statusLine_->say("Error " + QString::number(error.number()) + ": " + error.what());
     });
 }
@@ -76,7 +65,7 @@ void ManagerWindow::renewPanel() {
     panel_->renew();
     if (recorder_ != nullptr) recorder_->panelBegins(panel_->panel(), panel_->store());
     listenToErrors();
-    if (options_.isReadOnly) setReadOnly(true);
+    if (options_.isReadOnly && !isReplaying()) setReadOnly(true);
 }
 
 void ManagerWindow::layOut() {
@@ -104,8 +93,21 @@ void ManagerWindow::advance() {
 }
 
 void ManagerWindow::letPass(std::chrono::milliseconds time) {
-    if (recorder_ != nullptr) panel_->store().advance(time);
+    if (!isReplaying()) panel_->store().advance(time);
     station_.advance(time);
+    endHourglass(time);
+    endReplayThatIsOver();
+}
+
+// The panel leaves it to its host to take the hourglass away again: when the amplifier has spoken
+// since, or will not.
+void ManagerWindow::endHourglass(std::chrono::milliseconds time) {
+    Runtime::Store& store = panel_->store();
+    hourglass_ = store.pointer() == Widgets::Pointer::standard ? 0ms : hourglass_ + time;
+    if (hourglass_ == 0ms) return;
+    const auto silence = station_.situation().silence;
+    const bool isAwaited = station_.isConnected() && silence >= hourglass_ && silence < kStaleAfter;
+    if (!isAwaited) store.screen().setPointer(Widgets::Pointer::standard);
 }
 
 void ManagerWindow::open() {
@@ -117,7 +119,7 @@ void ManagerWindow::open() {
 void ManagerWindow::refresh() {
     menus_->refresh();
     events_->refresh();
-    statusLine_->showReadOnly(isReadOnly());
+    showModes();
     statusLine_->showZoom(zoomArea_->zoom());
     showSituation();
 }
@@ -126,7 +128,15 @@ void ManagerWindow::showSituation() {
     const StatusText text = statusText(station_.situation());
     statusLine_->showText(text);
     const QString title = QString::fromStdString(text.connection) + " - Marvane Manager";
-    setWindowTitle(text.isStale ? "Old values: " + title : title);
+    const QString recording = isRecording() ? "Recording: " : "";
+    setWindowTitle((text.isStale ? "Old values: " : "") + recording + title);
+}
+
+void ManagerWindow::showModes() {
+    QStringList modes;
+    if (isReadOnly()) modes += "Read-only";
+    if (isRecording()) modes += "Recording";
+    statusLine_->showMode(modes.join(", "));
 }
 
 // As large as the panel needs, where the screen has room for it.
@@ -138,6 +148,7 @@ void ManagerWindow::adaptSize() {
 }
 
 void ManagerWindow::closeEvent(QCloseEvent* event) {
+    stopReplay();
     tick_.stop();
     refreshes_.stop();
     for (QDialog* dialog : findChildren<QDialog*>()) dialog->reject();

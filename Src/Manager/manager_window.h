@@ -19,6 +19,8 @@
 
 namespace Orvo::Manager {
 
+class Replay;
+
 /// The program's window: the panel, what is connected to it, and what a person can do beside the
 /// panel.
 class ManagerWindow final : public QMainWindow {
@@ -41,14 +43,30 @@ public:
     /// a second.
     void refresh();
 
-    // What the menus command.
+    // What the menus command. One thing at a time plays the host of the panel: what is connected
+    // ends a replay, and a replay ends a recording.
 
     /// With the seed of the options, from the beginning.
     void connectSimulator(Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
-    /// The one that the options name, if any.
-    void connectLink();
-    [[nodiscard]] bool hasLink() const { return options_.link.has_value(); }
+    void connectLink(const LinkAddress& address);
+    /// Asks for the address; the last one is there to be taken again.
+    void askForLink();
+    /// Also what a person types. Empty when the link is connected, else what is wrong with it.
+    QString connectLink(const QString& address);
     void connectNothing();
+
+    void askForRecording();
+    /// From a fresh panel on, to which what is connected is connected anew.
+    void startRecording(const QString& file);
+    void stopRecording();
+    [[nodiscard]] bool isRecording() const { return recorder_ != nullptr; }
+
+    void askForReplay();
+    /// On a fresh panel, with nothing else connected.
+    void startReplay(const QString& file);
+    void stopReplay();
+    [[nodiscard]] bool isReplaying() const { return replay() != nullptr; }
+
     void runQuickTest();
     void setFault(Simulator::Fault fault, bool isOn);
     void setReadOnly(bool isReadOnly);
@@ -80,18 +98,23 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    [[nodiscard]] std::unique_ptr<Recorder> makeRecorder(const QString& file) const;
     void layOut();
     void listenToErrors();
     void renewPanel();
+    [[nodiscard]] Replay* replay() const;
+    void endReplayThatIsOver();
+    void endHourglass(std::chrono::milliseconds time);
     void startClock();
     void advance();
     void adaptSize();
     void showSituation();
+    void showModes();
     [[nodiscard]] QString messageLog() const;
 
     const Options options_;
     Window::PanelWidget* const panel_;
-    const std::unique_ptr<Recorder> recorder_;  // null when nothing is recorded
+    std::unique_ptr<Recorder> recorder_;  // null when nothing is recorded
     Station station_;
     ZoomArea* const zoomArea_;
     StatusLine* const statusLine_;
@@ -102,6 +125,9 @@ private:
     QTimer refreshes_;
     QElapsedTimer sinceTick_;
     int zoomBefore_ = 100;
+    QString linkAddress_;
+    QString sessionDirectory_;
+    std::chrono::milliseconds hourglass_{0};  // how long it has been there
 };
 
 }  // namespace Orvo::Manager

@@ -54,7 +54,19 @@ void Menus::addFileMenu() {
     add(menu, "&Copy message log", "Ctrl+L", [this] { window_.copyMessageLog(); });
     add(menu, "Save message &log…", "Ctrl+Shift+L", [this] { window_.saveMessageLog(); });
     menu->addSeparator();
+    addSessions(menu);
+    menu->addSeparator();
     add(menu, "&Quit", "Ctrl+Q", [this] { window_.close(); })->setMenuRole(QAction::QuitRole);
+}
+
+void Menus::addSessions(QMenu* menu) {
+    recording_ = addSwitch(menu, "&Record a session…", "F3", [this](bool isOn) {
+        isOn ? window_.askForRecording() : window_.stopRecording();
+    });
+    replay_ = addSwitch(menu, "R&eplay a session…", "F5", [this](bool isOn) {
+        isOn ? window_.askForReplay() : window_.stopReplay();
+    });
+    stopReplay_ = add(menu, "St&op the replay", "Esc", [this] { window_.stopReplay(); });
 }
 
 void Menus::addChannels(QMenu* menu, const QString& firstKey,
@@ -70,9 +82,7 @@ void Menus::addConnectMenu() {
     auto* menu = addMenu("&Connect");
     simulator_ =
         addSwitch(menu, "&Simulated amplifier", "F6", [this](bool) { window_.connectSimulator(); });
-    link_ = addSwitch(menu, "&Link", "F7", [this](bool) { window_.connectLink(); });
-    // Where to is the command line's to say.
-    link_->setEnabled(window_.hasLink());
+    link_ = addSwitch(menu, "&Link…", "F7", [this](bool) { window_.askForLink(); });
     nothing_ = addSwitch(menu, "&Nothing", "F8", [this](bool) { window_.connectNothing(); });
     for (QAction* action : {simulator_, link_, nothing_}) connection_.addAction(action);
 }
@@ -145,12 +155,22 @@ void Menus::addHelpMenu() {
     })->setMenuRole(QAction::AboutRole);
 }
 
+void Menus::refreshConnection() {
+    const Station& station = window_.station();
+    const bool isSimulator = station.simulator() != nullptr;
+    const bool isReplay = window_.isReplaying();
+    recording_->setChecked(window_.isRecording());
+    replay_->setChecked(isReplay);
+    stopReplay_->setEnabled(isReplay);
+    simulator_->setChecked(isSimulator);
+    link_->setChecked(station.isConnected() && !isSimulator && !isReplay);
+    nothing_->setChecked(!station.isConnected());
+}
+
 void Menus::refresh() {
+    refreshConnection();
     Station& station = window_.station();
     const auto* simulator = station.simulator();
-    simulator_->setChecked(simulator != nullptr);
-    link_->setChecked(station.isConnected() && simulator == nullptr);
-    nothing_->setChecked(!station.isConnected());
     quickTest_->setEnabled(simulator != nullptr);
     const auto faults = faults_->actions();
     for (const Simulator::FaultRow& row : Simulator::kFaults) {

@@ -34,6 +34,7 @@ private:
                        const Switch& command);
 
     void addFileMenu();
+    void addSessions(QMenu* menu);
     void addChannels(QMenu* menu, const QString& firstKey, void (ManagerWindow::*save)(Integer));
     void addConnectMenu();
     void addAmplifierMenu();
@@ -42,8 +43,12 @@ private:
     void addZoom(QMenu* menu);
     void addEvents(QMenu* menu);
     void addHelpMenu();
+    void refreshConnection();
 
     ManagerWindow& window_;
+    QAction* recording_ = nullptr;
+    QAction* replay_ = nullptr;
+    QAction* stopReplay_ = nullptr;
     QActionGroup connection_{this};
     QAction* simulator_ = nullptr;
     QAction* link_ = nullptr;

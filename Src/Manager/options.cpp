@@ -155,8 +155,8 @@ std::optional<LinkAddress> CommandLine::linkAddress() const {
     if (!parser_.isSet(link_)) return std::nullopt;
     auto address = LinkAddress::read(QFile::encodeName(parser_.value(link_)).toStdString());
     if (address) return address;
-    throw Refused{"--link takes a path, or a path and a speed that serial devices have, not \"" +
-                  parser_.value(link_) + "\"."};
+    throw Refused{QString("--link takes ") + kLinkAddressRule + ", not \"" + parser_.value(link_) +
+                  "\"."};
 }
 
 QString CommandLine::fileOf(const QCommandLineOption& option) const {

@@ -34,6 +34,9 @@ struct Ending {
 
 constexpr int kWrongUsage = 2;
 
+/// What LinkAddress takes, in words.
+constexpr auto kLinkAddressRule = "a path, or a path and a speed that serial devices have";
+
 /// The command line, the program's name being its first word. Needs the application object.
 std::variant<Options, Ending> parseCommandLine(const QStringList& words);
 

@@ -33,9 +33,8 @@ StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
     message_ = addLabel("Message");
     message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->setStretchFactor(message_, 1);
-    readOnly_ = addLabel("Mode");
-    readOnly_->setText("Read-only");
-    readOnly_->hide();
+    mode_ = addLabel("Mode");
+    mode_->hide();
     zoom_ = addLabel("Zoom");
     setMinimumWidth(fontMetrics().horizontalAdvance(kWidest) + kLabels * row->spacing());
     messageEnds_.setSingleShot(true);
@@ -71,6 +70,11 @@ void StatusLine::showText(const StatusText& text) {
     lastWord_->setText(text.isStale ? " \u26a0 " + lastWord + " " : lastWord);
     lastWord_->setStyleSheet(text.isStale ? kWarning : "");
     if (!std::exchange(isStale_, text.isStale) && isStale_) lastWord_->alert();
+}
+
+void StatusLine::showMode(const QString& mode) {
+    mode_->setText(mode);
+    mode_->setVisible(!mode.isEmpty());
 }
 
 void StatusLine::say(const QString& message) {

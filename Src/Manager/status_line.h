@@ -16,7 +16,8 @@ public:
     explicit StatusLine(QWidget* parent = nullptr);
 
     void showText(const StatusText& text);
-    void showReadOnly(bool isReadOnly) { readOnly_->setVisible(isReadOnly); }
+    /// What else a person has to know all the time: "Read-only"; mostly nothing.
+    void showMode(const QString& mode);
     void showZoom(int percent) { zoom_->setText(QString::number(percent) + " %"); }
     void say(const QString& message);
 
@@ -30,7 +31,7 @@ private:
     AlertLabel* lastWord_;
     bool isStale_ = false;
     QLabel* message_;
-    QLabel* readOnly_;
+    QLabel* mode_;
     QLabel* zoom_;
     QTimer messageEnds_;
 };

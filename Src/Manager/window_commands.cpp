@@ -20,16 +20,6 @@ QString channelName(Integer channel) { return "channel-" + QString::number(chann
 
 }  // namespace
 
-void ManagerWindow::connectSimulator(Simulator::PowerAtStart power) {
-    station_.connectSimulator(options_.seed, power);
-}
-
-void ManagerWindow::connectLink() {
-    if (options_.link) station_.connectLink(*options_.link);
-}
-
-void ManagerWindow::connectNothing() { station_.disconnect(); }
-
 void ManagerWindow::runQuickTest() {
     if (auto* simulator = station_.simulator()) simulator->runQuickTest();
 }

@@ -57,4 +57,6 @@ std::optional<LinkAddress> LinkAddress::read(const std::string& text) {
     return address;
 }
 
+std::string LinkAddress::text() const { return speed ? path + '@' + std::to_string(*speed) : path; }
+
 }  // namespace Orvo::Manager

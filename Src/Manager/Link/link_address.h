@@ -14,6 +14,8 @@ struct LinkAddress {
     /// What follows the last "@" is a speed when it is a number. None when there is no path, or
     /// when no serial device has that speed.
     static std::optional<LinkAddress> read(const std::string& text);
+    /// As `read` takes it.
+    [[nodiscard]] std::string text() const;
 };
 
 /// The constant that the terminal interface has for a speed, if any.

@@ -13,21 +13,25 @@ constexpr Integer kSpace{' '};
 
 }  // namespace
 
-WindowBench::WindowBench(double zoom) : zoom_(zoom) { renew(); }
-
-void WindowBench::renew() {
-    const bool isFirst = window_ == nullptr;
-    const QPoint place = isFirst ? QPoint() : window_->pos();
-    window_.reset();
-    window_ = std::make_unique<Window::PanelWidget>(Platform{}, nullptr, Window::Clock::byHand);
-    window_->setZoom(zoom_);
-    take(window_->panel(), window_->store().shared_from_this());
-    if (!isFirst) window_->move(place);
-    window_->show();
+WindowBench::WindowBench(double zoom)
+    : own_(std::make_unique<Window::PanelWidget>(Platform{}, nullptr, Window::Clock::byHand)),
+      window_(*own_) {
+    window_.setZoom(zoom);
+    takeWindow();
+    takeErrors();
+    window_.show();
 }
 
+void WindowBench::renew() {
+    window_.renew();
+    takeWindow();
+    takeErrors();
+}
+
+void WindowBench::takeWindow() { take(window_.panel(), window_.store().shared_from_this()); }
+
 void WindowBench::shoot(const String& file) {
-    const QString error = write(Window::toQt(file), toPng(pictureOf(*window_)));
+    const QString error = write(Window::toQt(file), toPng(pictureOf(window_)));
     if (!error.isEmpty()) throw Error(75, "Path/File access error");
 }
 
@@ -36,8 +40,8 @@ template <class Control>
 Control* WindowBench::controlOf(Widgets::WidgetId widget) {
     const auto name = Layout::describe(widget).name;
     auto* control =
-        window_->findChild<Control*>(QString::fromLatin1(name.data(), qsizetype(name.size())));
-    if (control != nullptr) window_->flush();
+        window_.findChild<Control*>(QString::fromLatin1(name.data(), qsizetype(name.size())));
+    if (control != nullptr) window_.flush();
     return control;
 }
 

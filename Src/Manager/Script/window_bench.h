@@ -9,20 +9,25 @@
 
 namespace Orvo::Manager {
 
-/// A panel in a window of its own. The person's mouse and keyboard go to the window's controls; the
-/// clock is the person's waiting alone.
-class WindowBench final : public Console::PanelBench {
+/// A panel in a window. The person's mouse and keyboard go to the window's controls; the clock is
+/// the person's waiting alone.
+class WindowBench : public Console::PanelBench {
 public:
-    /// The zoom as PanelWidget has it.
+    /// In a window of its own. The zoom as PanelWidget has it.
     explicit WindowBench(double zoom = 1);
 
-    /// The new window stands where the old one stood.
     void renew() override;
     /// Error 75 when the file can't be written.
     void shoot(const String& file) override;
 
     /// False once the window has been closed.
-    [[nodiscard]] bool isShown() const { return window_->isVisible(); }
+    [[nodiscard]] bool isShown() const { return window_.isVisible(); }
+
+protected:
+    /// In a window that others have made. It is not taken yet, and its errors stay with them.
+    explicit WindowBench(Window::PanelWidget& window) : window_(window) {}
+    void takeWindow();
+    [[nodiscard]] Window::PanelWidget& window() const { return window_; }
 
 private:
     void click(Widgets::WidgetId widget, Runtime::MouseButton button) override;
@@ -34,8 +39,8 @@ private:
     template <class Control>
     [[nodiscard]] Control* controlOf(Widgets::WidgetId widget);
 
-    double zoom_;
-    std::unique_ptr<Window::PanelWidget> window_;
+    const std::unique_ptr<Window::PanelWidget> own_{};
+    Window::PanelWidget& window_;
 };
 
 }  // namespace Orvo::Manager

@@ -43,6 +43,11 @@ void Conversation::raised(Long dispatchId, std::span<const Value> arguments) {
 
 void Conversation::handled() { depth_ = std::max(0, depth_ - 1); }
 
+void Conversation::startAnew() {
+    depth_ = 0;
+    lastSaid_.clear();
+}
+
 void Conversation::called(const Member& member, std::span<const Value> arguments) {
     isLastCallShown_ = isWorthALine(member, arguments);
     if (isLastCallShown_) write(Console::commandText(member, arguments));

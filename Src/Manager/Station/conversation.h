@@ -31,8 +31,9 @@ public:
     /// An event is raised; everything up to `handled` is the answer to it.
     void raised(Long dispatchId, std::span<const Value> arguments);
     void handled();
-    /// The panel is another one: no answer to an event is going on.
-    void startAnew() { depth_ = 0; }
+    /// The panel is another one: no answer to an event is going on, and all that it is told is
+    /// news.
+    void startAnew();
 
     void called(const Member& member, std::span<const Value> arguments) override;
     void returned(const Member& member, const Value& result) override;

@@ -8,28 +8,37 @@ namespace Orvo::Manager {
 
 Station::Station(MarvaneAssistant& panel) : panel_(panel), calls_(panel, *this) {
     hearBeforeDevice();
-    connect(nullptr);
+    hearAfterDevice();
 }
 
 Station::~Station() = default;
 
-void Station::connectSimulator(std::uint32_t seed, Simulator::PowerAtStart power) {
+void Station::connect(DeviceMaker make) {
     disconnect();
-    connect(std::make_unique<SimulatedDevice>(panel_, calls_, seed, power));
+    makeDevice_ = std::move(make);
+    plugIn(makeDevice_());
+}
+
+void Station::connectSimulator(std::uint32_t seed, Simulator::PowerAtStart power) {
+    connect([this, seed, power] {
+        return std::make_unique<SimulatedDevice>(panel_, calls_, seed, power);
+    });
 }
 
 void Station::connectLink(const LinkAddress& address) {
-    disconnect();
-    connect(std::make_unique<LinkDevice>(panel_, calls_, address, [this] { renewPanel(); }));
+    connect([this, address] {
+        return std::make_unique<LinkDevice>(panel_, calls_, address, [this] { renewPanel(); });
+    });
 }
 
 void Station::disconnect() {
     if (!isConnected()) return;
-    connect(nullptr);
+    makeDevice_ = {};
+    plugIn(nullptr);
     calls_.Connected(false);
 }
 
-void Station::connect(std::unique_ptr<Device> device) {
+void Station::plugIn(std::unique_ptr<Device> device) {
     device_ = std::move(device);
     wasConnected_ |= isConnected();
     hearAfterDevice();
@@ -52,8 +61,14 @@ void Station::renewPanel() {
     traces_ = {};
     isLinkUp_ = false;
     hearBeforeDevice();
-    device_->panelRenewed();
+    if (isConnected()) device_->panelRenewed();
     hearAfterDevice();
+}
+
+void Station::startAnew() {
+    device_.reset();
+    renewPanel();
+    if (makeDevice_) plugIn(makeDevice_());
 }
 
 Simulator::SimulatedHost* Station::simulator() const {
@@ -71,6 +86,11 @@ Situation Station::situation() const {
     if (!isConnected()) return {.connectedTo = {}, .showsOldValues = wasConnected_};
     return {
         .connectedTo = device_->name(), .isLinkUp = isLinkUp_, .silence = device_->sinceLastWord()};
+}
+
+void Station::failed(const Error& error) {
+    conversation_.failed(error);
+    if (isConnected()) device_->failed(error);
 }
 
 void Station::called(const Member& member, std::span<const Value> arguments) {

@@ -24,13 +24,18 @@ public:
     explicit Station(MarvaneAssistant& panel);
     ~Station() override;
 
+    using DeviceMaker = std::function<std::unique_ptr<Device>()>;
+
     /// One device at a time: what was connected is disconnected first.
+    void connect(DeviceMaker make);
     void connectSimulator(std::uint32_t seed,
                           Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
     void connectLink(const LinkAddress& address);
     /// The panel shows that the link is down, and for the rest what it showed last.
     void disconnect();
     [[nodiscard]] bool isConnected() const { return device_ != nullptr; }
+    /// Null when nothing is connected.
+    [[nodiscard]] Device* device() const { return device_.get(); }
     /// Null when it isn't what is connected.
     [[nodiscard]] Simulator::SimulatedHost* simulator() const;
 
@@ -42,17 +47,22 @@ public:
     [[nodiscard]] Conversation& conversation() { return conversation_; }
     [[nodiscard]] EventLog& log() { return log_; }
     [[nodiscard]] const Traces& traces() const { return traces_; }
-    /// How a device that asks for it gets a fresh panel in the place of this one; without it, or
-    /// when nothing is given, such a device is refused with error 70.
+    /// A fresh panel in the place of this one, for the same device. Error 70 when nobody has said
+    /// how that is done.
+    void renewPanel();
+    /// A fresh panel, to which what is connected is connected as if for the first time.
+    void startAnew();
+    /// How a fresh panel comes in the place of this one.
     void renewWith(std::function<void()> renew) { renew_ = std::move(renew); }
+    /// An error ended a handler that nobody waits for.
+    void failed(const Error& error);
     /// Who else listens to all that is called; null takes it away again.
     void listenWith(CallListener* listener) { listener_ = listener; }
 
 private:
-    void connect(std::unique_ptr<Device> device);
+    void plugIn(std::unique_ptr<Device> device);
     void hearBeforeDevice();
     void hearAfterDevice();
-    void renewPanel();
 
     void called(const Member& member, std::span<const Value> arguments) override;
     void returned(const Member& member, const Value& result) override;
@@ -65,6 +75,7 @@ private:
     Traces traces_;
     CallListener* listener_ = nullptr;
     std::function<void()> renew_;
+    DeviceMaker makeDevice_;
     bool isLinkUp_ = false;
     bool wasConnected_ = false;
     Milliseconds now_{0};

@@ -72,6 +72,7 @@ public:
     /// What a screen and a person's input work with; null takes them away again.
     void showOn(View* view) { view_ = view; }
     void promptWith(Prompter* prompter) { prompter_ = prompter; }
+    [[nodiscard]] Prompter* prompter() const { return prompter_; }
     void observeWith(OperationObserver* observer) { observer_ = observer; }
 
     /// What a person does.

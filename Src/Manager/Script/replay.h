@@ -1,0 +1,53 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <sstream>
+#include <string>
+
+#include "Console/session.h"
+#include "Manager/Script/replay_bench.h"
+#include "Manager/Station/device.h"
+
+namespace Orvo::Manager {
+
+/// A script that plays the host and the person of a window's panel at the pace at which time
+/// passes, as far as the machine keeps up. The panel's clock is the script's.
+class Replay final : public Device {
+public:
+    struct Script {
+        std::string name;  ///< how a person knows it
+        std::string text;
+    };
+
+    /// Calls go to `calls`; `renew` as for ReplayBench, by way of `panelRenewed`.
+    Replay(Window::PanelWidget& window, MarvaneAssistantInterface& calls,
+           std::function<void()> renew, Script script);
+
+    [[nodiscard]] std::string name() const override { return "Replay of " + script_.name; }
+    void advance(std::chrono::milliseconds elapsed) override;
+    void panelRenewed() override { bench_.takePanel(); }
+    void failed(const Error& error) override { bench_.failed(error); }
+    [[nodiscard]] std::chrono::milliseconds sinceLastWord() const override { return silence_; }
+
+    [[nodiscard]] bool isOver() const { return isOver_; }
+    /// What was not understood, with its place; it ends the replay.
+    [[nodiscard]] const std::optional<std::string>& complaint() const { return complaint_; }
+
+private:
+    void runLine();
+
+    const Script script_;
+    std::istringstream lines_;
+    ReplayBench bench_;
+    Console::Session session_;
+    std::size_t lineNumber_ = 0;
+    std::chrono::milliseconds left_{0};  // of the wait that the script is in
+    std::chrono::milliseconds silence_{0};
+    bool isOver_ = false;
+    std::optional<std::string> complaint_;
+};
+
+}  // namespace Orvo::Manager
