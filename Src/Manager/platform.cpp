@@ -7,6 +7,15 @@ namespace {
 
 constexpr auto kVariable = "QT_QPA_PLATFORM";
 
+QtMessageHandler usualHandler = nullptr;  // NOLINT(*-avoid-non-const-global-variables)
+
+// Where there is no directory for what lives as long as a person is logged in, the toolkit makes
+// one, and says so; here that is nobody's concern.
+void tell(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")) return;
+    usualHandler(type, context, text);
+}
+
 bool isGiven(const char* variable) { return !qEnvironmentVariableIsEmpty(variable); }
 
 }  // namespace
@@ -20,6 +29,7 @@ QByteArray platformFor(bool hasX, bool hasWayland) {
 }
 
 void choosePlatform() {
+    usualHandler = qInstallMessageHandler(tell);
     if (isGiven(kVariable)) return;
     const QByteArray platform = platformFor(isGiven("DISPLAY"), isGiven("WAYLAND_DISPLAY"));
     if (!platform.isEmpty()) qputenv(kVariable, platform);

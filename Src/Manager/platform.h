@@ -8,7 +8,8 @@ namespace Orvo::Manager {
 /// offscreen where it can't be reached. Empty: leave the choice to the toolkit.
 QByteArray platformFor(bool hasX, bool hasWayland);
 
-/// To be called before the application object is made. What the person chose stays.
+/// To be called before the application object is made, which then goes about it silently. What the
+/// person chose stays.
 void choosePlatform();
 
 /// Whether anyone can see the windows.
