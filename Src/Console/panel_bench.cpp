@@ -19,11 +19,9 @@ void PanelBench::take(MarvaneAssistant& panel, std::shared_ptr<Runtime::Store> s
 }
 
 void PanelBench::takeErrors() {
-    panel_->setErrorHandler([this](const Error& error) { failed(error); });
-}
-
-void PanelBench::failed(const Error& error) {
-    if (listener_ != nullptr) listener_->failed(error);
+    panel_->setErrorHandler([this](const Error& error) {
+        if (listener_ != nullptr) listener_->failed(error);
+    });
 }
 
 // Whatever a person does may bring a handler to renew the bench: the old widgets see to it

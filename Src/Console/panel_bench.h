@@ -24,7 +24,6 @@ protected:
     void take(MarvaneAssistant& panel, std::shared_ptr<Runtime::Store> store);
     /// From now on the bench hears of the panel's errors that nobody waits for.
     void takeErrors();
-    void failed(const Error& error);
 
     void click(Widgets::WidgetId widget, Runtime::MouseButton button) override;
     void dragOff(Widgets::WidgetId widget, Runtime::MouseButton button) override;

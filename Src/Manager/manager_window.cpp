@@ -55,7 +55,7 @@ ManagerWindow::~ManagerWindow() { panel_->panel().setErrorHandler({}); }
 
 void ManagerWindow::listenToErrors() {
     panel_->panel().setErrorHandler([this](const Error& error) {
-        station_.failed(error);
+        station_.conversation().failed(error);
         statusLine_->say("Error " + QString::number(error.number()) + ": " + error.what());
     });
 }

@@ -151,6 +151,20 @@ TEST_F(SessionTest, ALinkThatIsNoneIsRefusedWithAReason) {
     EXPECT_EQ(window_.station().situation().connectedTo.find("Link to /dev/nowhere at 9600"), 0U);
 }
 
+TEST_F(SessionTest, AnErrorThatNoCallerWaitsForIsAmongTheEvents) {
+    struct Saboteur final : Runtime::OperationObserver {
+        void before(const Runtime::Operation&) override { throw Error(7, "Gone"); }
+    } saboteur;
+    window_.connectLink(QString("/dev/nowhere"));
+    window_.station().log().clear();
+    click("Command12");
+    store().observeWith(&saboteur);
+    click("optN1");
+    store().observeWith(nullptr);
+    EXPECT_EQ(window_.station().log().lines(),
+              (std::deque<std::string>{"event Mute 1", "! 7 Gone"}));
+}
+
 TEST_F(SessionTest, TheHourglassEndsWhenTheAmplifierHasSpokenOrWillNot) {
     const auto isBusy = [this] { return store().pointer() == Widgets::Pointer::hourglass; };
     const auto beBusy = [this] { store().screen().setPointer(Widgets::Pointer::hourglass); };

@@ -29,7 +29,6 @@ public:
     [[nodiscard]] std::string name() const override { return "Replay of " + script_.name; }
     void advance(std::chrono::milliseconds elapsed) override;
     void panelRenewed() override { bench_.takePanel(); }
-    void failed(const Error& error) override { bench_.failed(error); }
     [[nodiscard]] std::chrono::milliseconds sinceLastWord() const override { return silence_; }
 
     [[nodiscard]] bool isOver() const { return isOver_; }

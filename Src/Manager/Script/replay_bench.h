@@ -17,7 +17,6 @@ public:
     ~ReplayBench() override;
 
     void takePanel();
-    using PanelBench::failed;
 
     /// How a command waits: by itself, or by leaving the time to `takeWait`.
     enum class Waiting { atOnce, asked };

@@ -3,8 +3,6 @@
 #include <chrono>
 #include <string>
 
-#include "Orvo/values/error.h"
-
 namespace Orvo::Manager {
 
 /// What is connected to the panel. It calls the panel's members and hears its events, from the
@@ -19,8 +17,6 @@ public:
     /// The device asked for a fresh panel, and there is one in the place of the old one; it raises
     /// its events to nobody yet.
     virtual void panelRenewed() {}
-    /// An error ended a handler of the panel's that nobody waits for.
-    virtual void failed(const Error&) {}
     /// The time since the last word from the amplifier, or since the beginning.
     [[nodiscard]] virtual std::chrono::milliseconds sinceLastWord() const = 0;
 };

@@ -88,11 +88,6 @@ Situation Station::situation() const {
         .connectedTo = device_->name(), .isLinkUp = isLinkUp_, .silence = device_->sinceLastWord()};
 }
 
-void Station::failed(const Error& error) {
-    conversation_.failed(error);
-    if (isConnected()) device_->failed(error);
-}
-
 void Station::called(const Member& member, std::span<const Value> arguments) {
     if (listener_ != nullptr) listener_->called(member, arguments);
     conversation_.called(member, arguments);

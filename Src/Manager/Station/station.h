@@ -54,8 +54,6 @@ public:
     void startAnew();
     /// How a fresh panel comes in the place of this one.
     void renewWith(std::function<void()> renew) { renew_ = std::move(renew); }
-    /// An error ended a handler that nobody waits for.
-    void failed(const Error& error);
     /// Who else listens to all that is called; null takes it away again.
     void listenWith(CallListener* listener) { listener_ = listener; }
 
