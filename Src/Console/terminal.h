@@ -17,7 +17,7 @@ class Terminal {
 public:
     explicit Terminal(Completer completer);
 
-    /// None at the end of input.
+    /// None at the end of input. Ctrl+C gives up the line: it is empty then.
     std::optional<std::string> ask(const std::string& prompt);
 };
 

@@ -15,6 +15,18 @@ namespace {
 // The library calls back without a context.
 Completer completerInUse = nullptr;  // NOLINT(*-avoid-non-const-global-variables)
 
+constexpr int kControlC = 3;
+bool isGivenUp = false;  // NOLINT(*-avoid-non-const-global-variables)
+
+// While a line is edited; the library forgets it with each line.
+int makeControlCAKey() { return rl_parse_and_bind("setty -d -intr"); }
+
+int giveUp(int /*count*/, int /*key*/) {
+    isGivenUp = true;
+    rl_done = 1;
+    return 0;
+}
+
 struct Free {
     void operator()(char* text) const { std::free(text); }  // NOLINT(*-no-malloc)
 };
@@ -46,10 +58,18 @@ Terminal::Terminal(Completer completer) {
     rl_basic_word_break_characters = blanks.data();
     rl_attempted_completion_function = complete;
     using_history();
+    rl_initialize();
+    rl_pre_input_hook = makeControlCAKey;
+    rl_add_defun("give-up-line", giveUp, kControlC);
 }
 
 std::optional<std::string> Terminal::ask(const std::string& prompt) {
+    isGivenUp = false;
     const std::unique_ptr<char, Free> line(readline(prompt.c_str()));
+    if (isGivenUp) {
+        std::puts("^C");
+        return "";
+    }
     if (!line) return std::nullopt;
     if (*line != '\0') add_history(line.get());
     return line.get();
