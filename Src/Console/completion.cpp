@@ -32,10 +32,14 @@ std::vector<std::string_view> parts(std::string_view text, std::string_view sepa
 /// Keeps those candidates that begin with what has been typed.
 class Offer {
 public:
-    explicit Offer(std::string_view typed) : typed_(typed) {}
+    Offer(std::string_view typed, const Grammar& grammar) : typed_(typed), grammar_(grammar) {}
 
     void add(std::string_view candidate) {
         if (candidate.starts_with(typed_)) offered_.emplace_back(candidate);
+    }
+
+    void add(const Command& command) {
+        if (isAllowed(command, grammar_)) add(command.name);
     }
 
     std::vector<std::string> sorted() && {
@@ -46,11 +50,12 @@ public:
 
 private:
     std::string_view typed_;
+    const Grammar& grammar_;
     std::vector<std::string> offered_;
 };
 
 void addCommands(Offer& offer) {
-    for (const Command& command : allCommands()) offer.add(command.name);
+    for (const Command& command : allCommands()) offer.add(command);
 }
 
 // The command itself tells of which kind the member has to be.
@@ -86,7 +91,7 @@ void addArgument(Offer& offer, std::string_view command, std::string_view word) 
 
 void addNext(Offer& offer, std::span<const std::string_view> typed) {
     if (typed.empty()) return addCommands(offer);
-    if (typed.front() == kHelp) return addCommands(offer);
+    if (typed.front() == kHelp) return typed.size() == 1 ? addCommands(offer) : void();
     const Command* command = findCommand(typed.front());
     if (command == nullptr) return;
     const auto words = parts(command->words, " ");
@@ -102,8 +107,9 @@ void addNext(Offer& offer, std::span<const std::string_view> typed) {
 
 }  // namespace
 
-std::vector<std::string> completions(std::string_view before, std::string_view typed) {
-    Offer offer(typed);
+std::vector<std::string> completions(std::string_view before, std::string_view typed,
+                                     const Grammar& grammar) {
+    Offer offer(typed, grammar);
     const auto words = parts(before, " \t");
     if (words.empty()) offer.add(kHelp);
     addNext(offer, words);

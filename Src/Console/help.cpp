@@ -29,16 +29,24 @@ std::string row(const Command& command) {
     return text.append(command.help) + '\n';
 }
 
-std::string helpOnAll() {
+std::string helpOnAll(const Grammar& grammar) {
     std::string text;
     for (const auto& [side, heading] : kSides) {
         text.append(heading) += '\n';
         for (const Command& command : allCommands()) {
-            if (command.side == side) text += row(command);
+            if (command.side == side && isAllowed(command, grammar)) text += row(command);
         }
     }
     text.pop_back();
     return text;
+}
+
+std::string helpOn(std::string_view name, const Grammar& grammar) {
+    if (name == kHelp) return "help [COMMAND] lists the commands, or says what one of them does";
+    const Command* command = findCommand(name);
+    const bool isKnown = command != nullptr && isAllowed(*command, grammar);
+    if (!isKnown) return "There is no command " + excerpt(name) + " here";
+    return usage(*command) + '\n' + std::string(command->help);
 }
 
 }  // namespace
@@ -49,14 +57,13 @@ std::string usage(const Command& command) {
     return text;
 }
 
-std::optional<std::string> help(std::string_view line) {
+std::optional<std::string> help(std::string_view line, const Grammar& grammar) {
     try {
         const auto words = split(line);
         if (words.empty() || words.front().source != kHelp) return std::nullopt;
-        if (words.size() == 1) return helpOnAll();
-        const Command* command = findCommand(words[1].source);
-        if (command == nullptr) return "There is no command " + excerpt(words[1].source);
-        return usage(*command) + '\n' + std::string(command->help);
+        if (words.size() == 1) return helpOnAll(grammar);
+        if (words.size() == 2) return helpOn(words[1].source, grammar);
+        return "help takes one command, not " + excerpt(words[2].source) + " too";
     } catch (const Misunderstood&) {
         return std::nullopt;
     }

@@ -23,14 +23,16 @@ int talk() {
     StoreBench bench;
     BufferedOutput output;
     Session session(bench, kGrammar, [&output](std::string_view line) { output.line(line); });
-    Terminal terminal(completions);
+    Terminal terminal([](std::string_view before, std::string_view typed) {
+        return completions(before, typed, kGrammar);
+    });
     while (!session.hasQuit()) {
         const auto line = terminal.ask("orvo> ");
         if (!line) {
             output.line("");
             break;
         }
-        const auto text = help(*line);
+        const auto text = help(*line, kGrammar);
         if (text) {
             output.line(*text);
         } else {

@@ -9,9 +9,19 @@ namespace {
 using namespace Orvo::Console;
 using Words = std::vector<std::string>;
 
+constexpr Grammar kInMemory{.place = Place::inMemory};
+constexpr Grammar kInWindow{.place = Place::inWindow};
+
+Words completions(std::string_view before, std::string_view typed) {
+    return completions(before, typed, kInMemory);
+}
+
 TEST(Completion, offersWhatMayStandInThePlace) {
     EXPECT_EQ(completions("", "he"), Words{"help"});
     EXPECT_EQ(completions("help ", "in"), Words{"invoke"});
+    EXPECT_EQ(completions("help let ", "in"), Words{});
+    EXPECT_EQ(completions("", "sho"), Words{"show"});
+    EXPECT_EQ(completions("", "sho", kInWindow), (Words{"shot", "show"}));
     EXPECT_EQ(completions("  ", "of"), Words{"off"});
     EXPECT_EQ(completions("let ", "Temp"), Words{"Temperature"});
     EXPECT_EQ(completions("get ", "Temp"), Words{});
@@ -33,14 +43,21 @@ TEST(Completion, offersWhatMayStandInThePlace) {
     EXPECT_EQ(completions("nonsense ", ""), Words{});
 }
 
-TEST(Help, isThereForEveryCommand) {
-    for (const Command& command : allCommands()) {
-        const auto text = help("help " + std::string(command.name));
-        EXPECT_EQ(text, usage(command) + '\n' + std::string(command.help));
-        EXPECT_NE(help("help")->find("\n  " + usage(command) + ' '), std::string::npos);
+TEST(Help, isThereForEveryCommandOfAPlace) {
+    for (const Grammar& grammar : {kInMemory, kInWindow}) {
+        for (const Command& command : allCommands()) {
+            const bool isKnown = isAllowed(command, grammar);
+            const auto text = help("help " + std::string(command.name), grammar);
+            EXPECT_EQ(text == usage(command) + '\n' + std::string(command.help), isKnown) << *text;
+            const auto listed = help("help", grammar)->find("\n  " + usage(command) + ' ');
+            EXPECT_EQ(listed != std::string::npos, isKnown) << command.name;
+        }
     }
-    EXPECT_EQ(help("help nonsense"), "There is no command \"nonsense\"");
-    EXPECT_FALSE(help("get Mute 1"));
+    EXPECT_EQ(help("help shot", kInMemory), "There is no command \"shot\" here");
+    EXPECT_EQ(help("help nonsense", kInWindow), "There is no command \"nonsense\" here");
+    EXPECT_EQ(help("help let x", kInMemory), "help takes one command, not \"x\" too");
+    EXPECT_TRUE(help("help help", kInMemory)->starts_with("help [COMMAND] "));
+    EXPECT_FALSE(help("get Mute 1", kInMemory));
 }
 
 }  // namespace
