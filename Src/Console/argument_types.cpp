@@ -29,11 +29,11 @@ std::vector<Value> takeTyped(Arguments& arguments, const Member& member) {
 
 // A 16-bit number is a Boolean as it stands; the panel would make -1 of every one but 0.
 Value lateBound(const Word& word, const Member* member, std::size_t position) {
-    Value value = naturalLiteral(word);
     const bool isKnown = member != nullptr && position < member->parameterCount;
-    if (!isKnown || member->parameters()[position].type != ValueType::boolean) return value;
-    const auto* raw = std::get_if<Integer>(&value);
-    return raw != nullptr ? Boolean(*raw) : value;
+    if (isKnown && member->parameters()[position].type == ValueType::boolean) {
+        if (auto raw = literalOrNone(word, ValueType::boolean)) return *std::move(raw);
+    }
+    return naturalLiteral(word);
 }
 
 std::vector<Value> takeNatural(Arguments& arguments, const Member* member) {

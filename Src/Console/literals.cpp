@@ -19,12 +19,18 @@ std::optional<Value> booleanLiteral(const Word& word) {
     if (word.form != Word::Form::bare) return std::nullopt;
     if (word.source == "true") return Boolean(true);
     if (word.source == "false") return Boolean(false);
-    if (const auto raw = wholeNumber<Integer>(word.source)) return Boolean(*raw);
+    if (const auto raw = wholeNumberOrBits<Integer>(word.source)) return Boolean(*raw);
     return std::nullopt;
 }
 
 template <class Whole>
 std::optional<Value> wholeLiteral(const Word& word) {
+    if (word.form != Word::Form::bare) return std::nullopt;
+    return wholeNumberOrBits<Whole>(word.source);
+}
+
+template <class Whole>
+std::optional<Value> naturalWhole(const Word& word) {
     if (word.form != Word::Form::bare) return std::nullopt;
     return wholeNumber<Whole>(word.source);
 }
@@ -52,7 +58,18 @@ std::optional<Value> numberLiteral(const Word& word) {
     return written->isNegative ? -value : value;
 }
 
-std::optional<Value> literalOf(const Word& word, ValueType type) {
+}  // namespace
+
+std::optional<Digits> digitsOf(std::string_view text) {
+    const bool isNegative = text.starts_with('-');
+    if (isNegative || text.starts_with('+')) text.remove_prefix(1);
+    const bool isHexadecimal = text.starts_with("0x");
+    if (isHexadecimal) text.remove_prefix(2);
+    if (!consistsOf(text, isHexadecimal ? kHexadecimal : kDecimal)) return std::nullopt;
+    return Digits{text, isHexadecimal ? 16 : 10, isNegative};
+}
+
+std::optional<Value> literalOrNone(const Word& word, ValueType type) {
     switch (type) {
         case ValueType::boolean:
             return booleanLiteral(word);
@@ -72,19 +89,8 @@ std::optional<Value> literalOf(const Word& word, ValueType type) {
     return std::nullopt;
 }
 
-}  // namespace
-
-std::optional<Digits> digitsOf(std::string_view text) {
-    const bool isNegative = text.starts_with('-');
-    if (isNegative || text.starts_with('+')) text.remove_prefix(1);
-    const bool isHexadecimal = text.starts_with("0x");
-    if (isHexadecimal) text.remove_prefix(2);
-    if (!consistsOf(text, isHexadecimal ? kHexadecimal : kDecimal)) return std::nullopt;
-    return Digits{text, isHexadecimal ? 16 : 10, isNegative};
-}
-
 Value literal(const Word& word, ValueType type) {
-    if (auto value = literalOf(word, type)) return *std::move(value);
+    if (auto value = literalOrNone(word, type)) return *std::move(value);
     throw Misunderstood{excerpt(word.source) + " is no " + std::string(nameOf(type)), word.offset};
 }
 
@@ -92,8 +98,10 @@ Value naturalLiteral(const Word& word) {
     using enum ValueType;
     const bool isTruth = word.source == "true" || word.source == "false";
     if (isTruth) return literal(word, boolean);
-    for (const ValueType type : {integer, longInteger, number, array}) {
-        if (auto value = literalOf(word, type)) return *std::move(value);
+    if (auto value = naturalWhole<Integer>(word)) return *std::move(value);
+    if (auto value = naturalWhole<Long>(word)) return *std::move(value);
+    for (const ValueType type : {number, array}) {
+        if (auto value = literalOrNone(word, type)) return *std::move(value);
     }
     return literal(word, string);
 }

@@ -2,10 +2,11 @@
 
 #include <charconv>
 #include <concepts>
-#include <limits>
 #include <optional>
 #include <string_view>
 #include <system_error>
+#include <type_traits>
+#include <utility>
 
 #include "Console/words.h"
 #include "Orvo/core/value.h"
@@ -22,8 +23,8 @@ struct Digits {
 /// None when the text is not written that way.
 std::optional<Digits> digitsOf(std::string_view text);
 
-/// None also when the number doesn't fit.
-template <std::signed_integral Whole>
+/// None also when the number doesn't fit in a `Whole`.
+template <std::integral Whole>
 std::optional<Whole> wholeNumber(std::string_view text) {
     const auto written = digitsOf(text);
     if (!written) return std::nullopt;
@@ -33,13 +34,24 @@ std::optional<Whole> wholeNumber(std::string_view text) {
         std::from_chars(digits.data(), digits.data() + digits.size(), value, written->base);
     if (status != std::errc{}) return std::nullopt;
     if (written->isNegative) value = -value;
-    using Limits = std::numeric_limits<Whole>;
-    if (value < Limits::min() || value > Limits::max()) return std::nullopt;
+    if (!std::in_range<Whole>(value)) return std::nullopt;
     return static_cast<Whole>(value);
 }
 
-/// What a word stands for where a value of this type is expected. Throws Misunderstood when it is
-/// no literal of the type.
+/// The same, but what is hexadecimal may also be the bits of a negative number: 0xFFFF is -1.
+template <std::signed_integral Whole>
+std::optional<Whole> wholeNumberOrBits(std::string_view text) {
+    if (const auto number = wholeNumber<Whole>(text)) return number;
+    const auto written = digitsOf(text);
+    if (!written || written->base != 16) return std::nullopt;
+    const auto bits = wholeNumber<std::make_unsigned_t<Whole>>(text);
+    return bits ? std::optional(static_cast<Whole>(*bits)) : std::nullopt;
+}
+
+/// What a word stands for where a value of this type is expected; none when it is no literal of the
+/// type.
+std::optional<Value> literalOrNone(const Word& word, ValueType type);
+/// The same; throws Misunderstood.
 Value literal(const Word& word, ValueType type);
 
 /// What a word stands for where any value may stand: a number in the narrowest type that holds it.

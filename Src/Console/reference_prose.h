@@ -29,7 +29,7 @@ passed over. A carriage return at the end of a line belongs to the line break.
 | word | written |
 | --- | --- |
 | String | `"in double quotes"` with the escapes `\"`, `\\`, `\n`, `\t` and `\uXXXX` (a UTF-16 code unit); without quotes when it consists of letters A to Z and a to z, digits, `.`, `-`, `_`, `:` and `/` |
-| Integer, Long | decimal, or hexadecimal after `0x`; with an optional sign |
+| Integer, Long | decimal, or hexadecimal after `0x`; with an optional sign. Hexadecimal digits may also be the bits of a negative number: `0xFFFF` is the Integer -1 |
 | Boolean | `true` (-1), `false` (0), or any Integer, which is passed on as it is |
 | Integer array | `[10 20 30]` indexed from 1, `LOW:[10 20 30]` indexed from LOW (`LOW:[]` has a dimension but no element), `[]` without a dimension |
 | widget | its name in the layout, `NAME(INDEX)` for an element of a widget array |

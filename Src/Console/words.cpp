@@ -114,7 +114,7 @@ private:
     }
 
     static Long lowerBound(std::size_t start, std::string_view prefix) {
-        const auto lower = wholeNumber<Long>(prefix.substr(0, prefix.size() - 1));
+        const auto lower = wholeNumberOrBits<Long>(prefix.substr(0, prefix.size() - 1));
         if (!prefix.ends_with(':') || !lower) {
             throw Misunderstood{"what stands before [ is no lower bound", start};
         }
@@ -125,7 +125,7 @@ private:
         std::vector<Integer> elements;
         for (skipBlanks(); !isAtEnd() && peek() != ']'; skipBlanks()) {
             const std::size_t start = at_;
-            const auto element = wholeNumber<Integer>(takeUpTo(kElementEnd));
+            const auto element = wholeNumberOrBits<Integer>(takeUpTo(kElementEnd));
             if (!element) throw Misunderstood{"the element is no Integer", start};
             elements.push_back(*element);
         }
