@@ -100,14 +100,16 @@ void ManagerWindow::letPass(std::chrono::milliseconds time) {
 }
 
 // The panel leaves it to its host to take the hourglass away again: when the amplifier has spoken
-// since, or will not.
+// since, or will not. A replay does so itself.
 void ManagerWindow::endHourglass(std::chrono::milliseconds time) {
     Runtime::Store& store = panel_->store();
     hourglass_ = store.pointer() == Widgets::Pointer::standard ? 0ms : hourglass_ + time;
     if (hourglass_ == 0ms) return;
     const auto silence = station_.situation().silence;
     const bool isAwaited = station_.isConnected() && silence >= hourglass_ && silence < kStaleAfter;
-    if (!isAwaited) store.screen().setPointer(Widgets::Pointer::standard);
+    if (isAwaited || isReplaying()) return;
+    store.screen().setPointer(Widgets::Pointer::standard);
+    if (isRecording()) recorder_->pointerIsSet();
 }
 
 void ManagerWindow::open() {

@@ -5,8 +5,8 @@
 #include <QHideEvent>
 #include <QShortcut>
 
-#include "Runtime/Qt/fonts.h"
 #include "Runtime/Qt/accessibility.h"
+#include "Runtime/Qt/fonts.h"
 #include "Runtime/Qt/hints.h"
 
 namespace Orvo::Window {
