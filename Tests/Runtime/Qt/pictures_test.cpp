@@ -1,0 +1,90 @@
+#include <functional>
+
+#include <QPainter>
+
+#include "picture_comparison.h"
+#include "pictures_fixture.h"
+
+namespace Orvo::Window {
+namespace {
+
+using Layout::Kind;
+
+bool hasText(Kind kind) {
+    switch (kind) {
+        case Kind::label:
+        case Kind::button:
+        case Kind::combo:
+        case Kind::list:
+        case Kind::picture:
+        case Kind::tabs:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool hasPlace(Kind kind) {
+    return kind != Kind::line && kind != Kind::timer && kind != Kind::image;
+}
+
+class TabPicturesTest : public PicturesTest {
+protected:
+    /// The places of those widgets on the tab that can be seen.
+    [[nodiscard]] std::vector<QRect> places(int tab, bool (*isWanted)(Kind)) const {
+        std::vector<QRect> found;
+        for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
+            const bool isThere = pageOf(id) == tab && store_.isShown(id);
+            if (isThere && isWanted(Layout::describe(id).style.kind))
+                found.push_back(Scale(1).rect(id));
+        }
+        return found;
+    }
+};
+
+TEST_F(TabPicturesTest, LookAsTheyDid) {
+    const char* const names[] = {"common", "channels-1-2", "channels-3-4"};
+    for (int tab = 0; tab < 3; ++tab) {
+        auto texts = places(tab, &hasText);
+        texts.emplace_back(0, 0, widget_.width(), 25);  // the tabs' own
+        expectAsKept(names[tab], picture(tab), texts);
+    }
+}
+
+TEST_F(TabPicturesTest, ShowWhenAWidgetMoves) {
+    for (int tab = 0; tab < 3; ++tab) {
+        const QImage whole = picture(tab);
+        for (const QRect& place : places(tab, &hasPlace)) {
+            const QRect around = place.adjusted(-12, -12, 12, 12) & whole.rect();
+            QImage moved = whole;
+            QPainter(&moved).drawImage(place.topLeft() + QPoint(2, 0), whole, place);
+            if (moved == whole) continue;
+            const Difference difference = differenceOf(moved.copy(around), whole.copy(around),
+                                                       {place.translated(-around.topLeft())});
+            EXPECT_FALSE(isHinting(difference)) << tab << ": " << place.x() << ", " << place.y();
+        }
+    }
+}
+
+QImage sample(QFont::HintingPreference hinting) {
+    QImage image(300, 40, QImage::Format_RGB32);
+    image.fill(QColor(40, 38, 60));
+    QFont font("Liberation Sans");
+    font.setPixelSize(11);
+    font.setHintingPreference(hinting);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(QColor(255, 255, 128));
+    painter.drawText(QPointF(10, 24), "Protection of channel 2, 1000Hz, EIAJ (1KHz)");
+    return image;
+}
+
+TEST(PictureComparison, AnotherHintingPasses) {
+    const QImage hinted = sample(QFont::PreferVerticalHinting);
+    const QImage unhinted = sample(QFont::PreferNoHinting);
+    EXPECT_NE(unhinted, hinted);
+    EXPECT_TRUE(isHinting(differenceOf(unhinted, hinted, {{8, 10, 280, 20}})));
+}
+
+}  // namespace
+}  // namespace Orvo::Window
