@@ -86,6 +86,16 @@ protected:
         return text;
     }
 
+    /// All up to this end, or what there is after a long time.
+    std::string awaited(const std::string& end) {
+        std::string text;
+        for (int i = 0; i < 1000 && !text.ends_with(end); ++i) {
+            station_.advance(25ms);
+            text += received();
+        }
+        return text;
+    }
+
     std::string ask(const std::string& text) {
         send(text);
         station_.advance(25ms);
@@ -184,6 +194,21 @@ TEST_F(LinkTest, AMegabyteWithoutALineBreakIsOneRefusal) {
     }
     EXPECT_EQ(answers, "");
     EXPECT_EQ(ask("\nget Mute 1\n"), "? the line is too long\n= 0\n");
+}
+
+TEST_F(LinkTest, TheLongestTraceIsOneLine) {
+    goOnline();
+    std::string line = "on Mute call DisegnaFormaDOnda 1 [";
+    for (int sample = 0; sample < 32767; ++sample) line += "-0x8000 ";
+    line += "]\n";
+    while (!line.empty()) {
+        line.erase(0, send(line));
+        station_.advance(25ms);
+    }
+    EXPECT_EQ(awaited("ok\n"), "ok\n");
+    person_.click(id("Command12"));
+    EXPECT_EQ(awaited("  ok\n"), "event Mute 1\n  ok\n");
+    EXPECT_EQ(station_.traces().samples(1).bounds().upper, 32767);
 }
 
 TEST_F(LinkTest, AFloodIsHeardForAMomentAtATime) {

@@ -10,7 +10,13 @@ namespace Orvo::Manager {
 /// Makes lines of bytes that come in pieces. Of a line that is too long nothing is kept.
 class LineSplitter {
 public:
-    static constexpr std::size_t kLongestLine = 65536;  // bytes
+    // The longest command of use is a trace of as many samples as can be drawn, each as it may be
+    // written at most, within as many commands as can be nested.
+    static constexpr std::size_t kMostSamples = 32768;
+    static constexpr std::size_t kLongestSample = sizeof "-0x8000";  // with the blank
+    static constexpr std::size_t kCommandsAround = 4096;
+    static constexpr std::size_t kLongestLine =
+        kMostSamples * kLongestSample + kCommandsAround;  // bytes
 
     struct Line {
         std::string text;  ///< without its line break
