@@ -1,11 +1,7 @@
-#include <array>
-#include <cstdlib>
 #include <set>
 #include <vector>
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -178,32 +174,6 @@ TEST_F(WindowTest, PicturesShowThePanelAndAnyScope) {
     }
     EXPECT_TRUE(hasTrace);
     EXPECT_EQ(pictureOf(window_.panelWidget()), before);
-}
-
-TEST_F(WindowTest, ALinkMayAskForAFreshPanelAlsoWhileItAnswersTheOldOne) {
-    const int other = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
-    if (::grantpt(other) != 0) GTEST_SKIP() << "there are no pseudo-terminals here";
-    ASSERT_EQ(::unlockpt(other), 0);
-    window_.station().connectLink({::ptsname(other)});
-    live(25ms);
-    const auto exchange = [&](const std::string& sent) {
-        std::array<char, 4096> piece{};
-        EXPECT_EQ(::write(other, sent.data(), sent.size()), ssize_t(sent.size()));
-        for (int i = 0; i < 3; ++i) live(25ms);
-        const auto count = ::read(other, piece.data(), piece.size());
-        return std::string(piece.data(), std::size_t(std::max<ssize_t>(0, count)));
-    };
-    const auto press = [this](const char* button) {
-        window_.panelWidget().findChild<QAbstractButton*>(button)->click();
-    };
-    EXPECT_EQ(exchange("let Mute 1 true\nnew\nget Mute 1\n"), "ok\nok\n= 0\n");
-    EXPECT_EQ(exchange("on OnOff new\nlet Mute 2 true\n"), "ok\nok\n");
-    press("cmdOnOff");
-    EXPECT_EQ(exchange("get Mute 2\n"), "event OnOff\n  ok\n= 0\n");
-    press("cmdReadInData");
-    EXPECT_EQ(exchange("\n"), "event DownLoad\n") << "the fresh panel's buttons";
-    EXPECT_TRUE(window_.panelWidget().findChild<QWidget*>("SSTab1")->isVisible());
-    ::close(other);
 }
 
 TEST_F(WindowTest, ClosingEndsWithAPromptOpen) {
