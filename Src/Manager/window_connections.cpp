@@ -125,11 +125,10 @@ void ManagerWindow::startReplay(const QString& file) {
     }
     stopRecording();
     sessionDirectory_ = QFileInfo(file).absolutePath();
-    station_.connect([this, name = QFileInfo(file).fileName().toStdString(),
-                      text = script.readAll().toStdString()] {
+    script.close();
+    station_.connect([this, path = nativeName(file)] {
         return std::make_unique<Replay>(
-            *panel_, station_.panel(), [this] { station_.renewPanel(); },
-            Replay::Script{name, text});
+            *panel_, station_.panel(), [this] { station_.renewPanel(); }, path);
     });
     station_.renewPanel();
 }

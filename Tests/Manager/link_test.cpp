@@ -168,7 +168,7 @@ TEST_F(LinkTest, WaitsForWhatIsNotThereYet) {
     std::ofstream(directory_.path() / "plain") << "let PowerOn true\n";
     station_.connectLink({directory_.path() / "plain"});
     station_.advance(25ms);
-    EXPECT_TRUE(station_.situation().connectedTo.ends_with("(not there)"));
+    EXPECT_TRUE(station_.situation().connectedTo.ends_with("(no serial device, pipe or socket)"));
 }
 
 TEST_F(LinkTest, OnlyTheHostsCommandsAreTaken) {

@@ -18,6 +18,12 @@ constexpr std::size_t kPiece = 16384;  // bytes
 // Whoever is behind with reading is not asked what else there is to answer.
 constexpr std::size_t kMuchUnread = 65536;  // bytes
 
+std::string troubleOf(std::error_code reason) {
+    if (reason == std::errc::no_such_file_or_directory) return "not there";
+    const bool isOfAnotherKind = reason == std::errc::inappropriate_io_control_operation;
+    return isOfAnotherKind ? "no serial device, pipe or socket" : reason.message();
+}
+
 }  // namespace
 
 LinkDevice::LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
@@ -30,7 +36,7 @@ LinkDevice::~LinkDevice() = default;
 
 std::string LinkDevice::name() const {
     const std::string speed = address_.speed ? " at " + std::to_string(*address_.speed) : "";
-    return "Link to " + address_.path + speed + (port_ ? "" : " (not there)");
+    return "Link to " + address_.path + speed + (port_ ? "" : " (" + trouble_ + ")");
 }
 
 // A handler that waits lets time pass within time that passes.
@@ -50,7 +56,8 @@ void LinkDevice::tryToOpen() {
     untilTry_ = kBetweenTries;
     try {
         port_ = std::make_unique<LinkPort>(address_);
-    } catch (const std::system_error&) {
+    } catch (const std::system_error& failure) {
+        trouble_ = troubleOf(failure.code());
         return;
     }
     session_.emplace(bench_, kGrammar, [this](std::string_view line) { say(line); });
@@ -62,6 +69,7 @@ void LinkDevice::close() {
     lines_ = {};
     unsent_.clear();
     isBroken_ = false;
+    trouble_ = "not there";
     untilTry_ = kBetweenTries;
     calls_.Connected(false);
 }

@@ -50,6 +50,7 @@ private:
     const LinkAddress address_;
     std::chrono::milliseconds silence_{0};
     std::chrono::milliseconds untilTry_{0};
+    std::string trouble_ = "not there";  // why the link is not open, when it isn't
 
     // While the link is open.
     std::unique_ptr<LinkPort> port_;

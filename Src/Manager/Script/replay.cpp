@@ -26,9 +26,9 @@ ReplayBench::Waiting waitingOf(std::string_view line) {
 }  // namespace
 
 Replay::Replay(Window::PanelWidget& window, MarvaneAssistantInterface& calls,
-               std::function<void()> renew, Script script)
-    : script_(std::move(script)),
-      lines_(script_.text),
+               std::function<void()> renew, const std::filesystem::path& script)
+    : name_(script.filename().string()),
+      lines_(script),
       bench_(window, calls, std::move(renew)),
       session_(bench_, kGrammar, [](std::string_view) {}) {}
 
@@ -55,7 +55,7 @@ void Replay::runLine() {
     const auto complaint = session_.run(line);
     bench_.setWaiting(ReplayBench::Waiting::atOnce);
     left_ = bench_.takeWait();
-    if (complaint) complaint_ = Console::placed(*complaint, script_.name, lineNumber_, line);
+    if (complaint) complaint_ = Console::placed(*complaint, name_, lineNumber_, line);
     isOver_ = complaint || session_.hasQuit();
 }
 

@@ -2,9 +2,10 @@
 
 #include <chrono>
 #include <cstddef>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <optional>
-#include <sstream>
 #include <string>
 
 #include "Console/session.h"
@@ -17,16 +18,12 @@ namespace Orvo::Manager {
 /// passes, as far as the machine keeps up. The panel's clock is the script's.
 class Replay final : public Device {
 public:
-    struct Script {
-        std::string name;  ///< how a person knows it
-        std::string text;
-    };
-
-    /// Calls go to `calls`; `renew` as for ReplayBench, by way of `panelRenewed`.
+    /// Calls go to `calls`; `renew` as for ReplayBench, by way of `panelRenewed`. A file that can't
+    /// be read is an empty script.
     Replay(Window::PanelWidget& window, MarvaneAssistantInterface& calls,
-           std::function<void()> renew, Script script);
+           std::function<void()> renew, const std::filesystem::path& script);
 
-    [[nodiscard]] std::string name() const override { return "Replay of " + script_.name; }
+    [[nodiscard]] std::string name() const override { return "Replay of " + name_; }
     void advance(std::chrono::milliseconds elapsed) override;
     void panelRenewed() override { bench_.takePanel(); }
     [[nodiscard]] std::chrono::milliseconds sinceLastWord() const override { return silence_; }
@@ -38,8 +35,8 @@ public:
 private:
     void runLine();
 
-    const Script script_;
-    std::istringstream lines_;
+    const std::string name_;
+    std::ifstream lines_;
     ReplayBench bench_;
     Console::Session session_;
     std::size_t lineNumber_ = 0;
