@@ -6,6 +6,8 @@
 #include <memory>
 
 #include <editline/readline.h>
+#include <termios.h>
+#include <unistd.h>
 
 #include "Console/terminal.h"
 
@@ -18,7 +20,29 @@ Completer completerInUse = nullptr;  // NOLINT(*-avoid-non-const-global-variable
 constexpr int kControlC = 3;
 bool isGivenUp = false;  // NOLINT(*-avoid-non-const-global-variables)
 
-// While a line is edited; the library forgets it with each line.
+// As long as this is, Ctrl+C interrupts nobody: the library writes the prompt before it takes the
+// terminal over.
+class Uninterrupted {
+public:
+    Uninterrupted() : isTerminal_(::tcgetattr(STDIN_FILENO, &before_) == 0) {
+        termios settings = before_;
+        settings.c_cc[VINTR] = _POSIX_VDISABLE;
+        apply(settings);
+    }
+    ~Uninterrupted() { apply(before_); }
+    Uninterrupted(const Uninterrupted&) = delete;
+    Uninterrupted& operator=(const Uninterrupted&) = delete;
+
+private:
+    void apply(const termios& settings) const {
+        if (isTerminal_) ::tcsetattr(STDIN_FILENO, TCSANOW, &settings);
+    }
+
+    termios before_{};
+    bool isTerminal_;
+};
+
+// The library forgets it with each line.
 int makeControlCAKey() { return rl_parse_and_bind("setty -d -intr"); }
 
 int giveUp(int /*count*/, int /*key*/) {
@@ -65,6 +89,7 @@ Terminal::Terminal(Completer completer) {
 
 std::optional<std::string> Terminal::ask(const std::string& prompt) {
     isGivenUp = false;
+    const Uninterrupted uninterrupted;
     const std::unique_ptr<char, Free> line(readline(prompt.c_str()));
     if (isGivenUp) {
         std::puts("^C");
