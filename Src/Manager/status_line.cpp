@@ -23,41 +23,32 @@ constexpr auto kWarning =
 
 }  // namespace
 
+template <class Label>
+Label* StatusLine::add(const QString& name) {
+    auto* label = new Label;
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setMargin(2);
+    layout()->addWidget(label);
+    return label;
+}
+
 StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 0, 6, 0);
     row->setSpacing(10);
-    link_ = addAlert("Link");
-    connection_ = addLabel("Connected to");
-    lastWord_ = addAlert("Last word from the amplifier");
-    message_ = addLabel("Message");
+    link_ = add<AlertLabel>("Link");
+    connection_ = add<QLabel>("Connected to");
+    lastWord_ = add<AlertLabel>("Last word from the amplifier");
+    message_ = add<QLabel>("Message");
     message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->setStretchFactor(message_, 1);
-    mode_ = addLabel("Mode");
+    mode_ = add<QLabel>("Mode");
     mode_->hide();
-    zoom_ = addLabel("Zoom");
+    zoom_ = add<QLabel>("Zoom");
     setMinimumWidth(fontMetrics().horizontalAdvance(kWidest) + kLabels * row->spacing());
     messageEnds_.setSingleShot(true);
     QObject::connect(&messageEnds_, &QTimer::timeout, message_, &QLabel::clear);
-}
-
-QLabel* StatusLine::addLabel(const QString& name) {
-    auto* label = new QLabel;
-    add(*label, name);
-    return label;
-}
-
-AlertLabel* StatusLine::addAlert(const QString& name) {
-    auto* label = new AlertLabel;
-    add(*label, name);
-    return label;
-}
-
-void StatusLine::add(QLabel& label, const QString& name) {
-    label.setObjectName(name);
-    label.setTextFormat(Qt::PlainText);
-    label.setMargin(2);
-    layout()->addWidget(&label);
 }
 
 void StatusLine::showText(const StatusText& text) {

@@ -22,9 +22,8 @@ public:
     void say(const QString& message);
 
 private:
-    QLabel* addLabel(const QString& name);
-    AlertLabel* addAlert(const QString& name);
-    void add(QLabel& label, const QString& name);
+    template <class Label>
+    Label* add(const QString& name);
 
     AlertLabel* link_;
     QLabel* connection_;
