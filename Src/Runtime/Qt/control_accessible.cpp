@@ -59,6 +59,7 @@ QAccessible::State CheckableAccessible::state() const {
 }
 
 QStringList CheckableAccessible::actionNames() const {
+    if (!button().isEnabled()) return {};
     return QStringList(pressAction()) + QAccessibleWidget::actionNames();
 }
 

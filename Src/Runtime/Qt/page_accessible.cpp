@@ -12,8 +12,7 @@ namespace Orvo::Window {
 
 using Layout::Kind;
 
-PaintedAccessible::PaintedAccessible(Page& page, WidgetId id)
-    : page_(&page), id_(id), told_(value()) {}
+PaintedAccessible::PaintedAccessible(Page& page, WidgetId id) : page_(&page), id_(id) {}
 
 QString PaintedAccessible::value() const { return valueOf(page_->store(), id_); }
 

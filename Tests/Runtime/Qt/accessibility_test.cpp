@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include "Runtime/Qt/names.h"
+#include "Runtime/Qt/panel_widget.h"
 #include "Runtime/Qt/spoken.h"
 #include "window_fixture.h"
 
@@ -200,6 +201,24 @@ TEST_F(AccessibilityTest, TheTabKeyReachesEveryControlAndShowsIt) {
             EXPECT_TRUE(isReached || isBeside || !store_.acceptsInput(id)) << widget.name;
         }
     }
+}
+
+QStringList namesBelow(const QAccessibleInterface& top) {
+    QStringList names;
+    for (int i = 0; i < top.childCount(); ++i) {
+        names += top.child(i)->text(QAccessible::Name);
+        names += namesBelow(*top.child(i));
+    }
+    return names;
+}
+
+TEST(AccessibilityOfAPanelTest, AFreshPanelIsKnownAfresh) {
+    PanelWidget panel;
+    const auto known = [&] { return namesBelow(*QAccessible::queryAccessibleInterface(&panel)); };
+    const QStringList before = known();
+    EXPECT_TRUE(before.contains("Protection channel 4"));
+    panel.renew();
+    EXPECT_EQ(known(), before);
 }
 
 }  // namespace
