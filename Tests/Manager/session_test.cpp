@@ -53,7 +53,7 @@ protected:
     QString warning() {
         auto* box = window_.findChild<QMessageBox*>();
         if (box == nullptr) return {};
-        const QString details = box->informativeText();
+        QString details = box->informativeText();
         delete box;
         return details;
     }
