@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QApplication>
 #include <QHideEvent>
 #include <QShortcut>
 
@@ -133,10 +134,13 @@ void Front::bringToScreen(WidgetId widget) {
     pages_[std::size_t(pageOf(widget))]->repaintWidget(widget);
 }
 
+// The focus that a page takes with it would go to whatever comes next in the host's window.
 void Front::bringTabToFront() {
     tabs_->refresh();
-    for (std::size_t tab = 0; tab < pages_.size(); ++tab) {
-        pages_[tab]->setVisible(int(tab) == tabs_->currentIndex());
+    for (Page* page : pages_) {
+        const bool isInFront = page->tab() == tabs_->currentIndex();
+        if (!isInFront && page->isAncestorOf(QApplication::focusWidget())) tabs_->setFocus();
+        page->setVisible(isInFront);
     }
 }
 

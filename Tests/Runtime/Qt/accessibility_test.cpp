@@ -3,7 +3,9 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QHelpEvent>
+#include <QPushButton>
 #include <QToolTip>
+#include <QVBoxLayout>
 
 #include "Runtime/Qt/names.h"
 #include "Runtime/Qt/panel_widget.h"
@@ -196,7 +198,7 @@ TEST_F(AccessibilityTest, TheTabKeyReachesEveryControlAndShowsIt) {
                 kind == Kind::picture || kind == Kind::digit || kind == Kind::shape;
             if (pageOf(id) != tab || !isToBeKnown(widget.style) || isOnlyRead) continue;
             // The arrows reach the options beside the selected one.
-            const bool isReached = reached.count(std::string(widget.name)) != 0;
+            const bool isReached = reached.contains(std::string(widget.name));
             const bool isBeside = kind == Kind::option && !widget.style.isSelected;
             EXPECT_TRUE(isReached || isBeside || !store_.acceptsInput(id)) << widget.name;
         }
@@ -219,6 +221,22 @@ TEST(AccessibilityOfAPanelTest, AFreshPanelIsKnownAfresh) {
     EXPECT_TRUE(before.contains("Protection channel 4"));
     panel.renew();
     EXPECT_EQ(known(), before);
+}
+
+TEST(AccessibilityOfAPanelTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
+    QWidget host;
+    QVBoxLayout layout(&host);
+    PanelWidget panel;
+    QPushButton neighbour;
+    layout.addWidget(&panel);
+    layout.addWidget(&neighbour);
+    host.show();
+    host.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
+    panel.findChild<QWidget*>("cmdOnOff")->setFocus();
+    panel.store().input().selectTab(0, 1);
+    panel.flush();
+    EXPECT_TRUE(panel.findChild<QWidget*>("SSTab1")->hasFocus());
 }
 
 }  // namespace
