@@ -22,7 +22,7 @@ struct Id {
 template <std::size_t kParts>
 struct Row {
     std::array<Id, kParts> widgets;
-    const char* says;
+    const char* says = "";
     const char* unit = "";
 };
 

@@ -115,9 +115,8 @@ PaintedAccessible* PageAccessible::speaker(WidgetId id) const {
 }
 
 QAccessibleInterface* PageAccessible::childAt(int x, int y) const {
-    const auto all = children();
-    for (auto id = all.rbegin(); id != all.rend(); ++id) {
-        QAccessibleInterface* child = interfaceOf(*id);
+    for (const WidgetId id : children()) {
+        QAccessibleInterface* child = interfaceOf(id);
         if (!child->state().invisible && child->rect().contains(x, y)) return child;
     }
     return nullptr;

@@ -56,7 +56,7 @@ public:
     explicit PageAccessible(Page& page);
     ~PageAccessible() override;
 
-    void announce(WidgetId speaker);
+    void announce(WidgetId id);
 
     [[nodiscard]] int childCount() const override;
     [[nodiscard]] QAccessibleInterface* child(int index) const override;

@@ -48,10 +48,9 @@ public:
     [[nodiscard]] bool hasHeard(const Accessible& thing, const QString& change) const;
     void forget() { heard_.clear(); }
 
-private slots:
-    void hear(const QDBusMessage& message);
-
 private:
+    Q_SLOT void hear(const QDBusMessage& message);
+
     [[nodiscard]] QDBusMessage call(const Accessible& thing, const QString& interface,
                                     const QString& method, const QVariantList& words = {}) const;
     [[nodiscard]] QVariant property(const Accessible& thing, const QString& interface,
