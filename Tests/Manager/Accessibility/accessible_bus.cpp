@@ -31,7 +31,9 @@ std::vector<Element> elements(const QDBusMessage& answer, const Read& read) {
     std::vector<Element> all;
     if (answer.type() != QDBusMessage::ReplyMessage) return all;
     const auto array = answer.arguments().at(0).value<QDBusArgument>();
-    for (array.beginArray(); !array.atEnd();) all.push_back(read(array));
+    array.beginArray();
+    while (!array.atEnd()) all.push_back(read(array));
+    array.endArray();
     return all;
 }
 
