@@ -52,9 +52,8 @@ std::string run(Console::Bench& bench, const std::string& script) {
     return answers;
 }
 
-// But for the pointer, which is not the panel's to set back.
 std::string stateOf(Console::Bench& bench) {
-    std::string script;
+    std::string script = "show Screen\n";
     for (const Layout::Widget& widget : Layout::kWidgets) {
         const std::string name(widget.name);
         const auto kind = widget.style.kind;
