@@ -13,7 +13,6 @@ constexpr std::size_t kDeepest = 64;
 // For each event: a link that never ends must not fill the memory.
 constexpr std::size_t kMostHandlers = 100;
 
-Error outOfMemory() { return {7, "Out of memory"}; }
 Error outOfStackSpace() { return {28, "Out of stack space"}; }
 
 std::string failure(const Error& error) { return "! " + textOf(error); }
@@ -55,7 +54,7 @@ std::optional<Misunderstood> Session::run(std::string_view text) {
 void Session::row(std::string_view text) { line("- " + std::string(text)); }
 
 void Session::remember(const Event& event, Action action) {
-    if (handlersOf(event).size() == kMostHandlers) throw outOfMemory();
+    if (handlersOf(event).size() == kMostHandlers) throw Errors::outOfMemory();
     handlersOf(event).push_back(std::make_shared<Handler>(Handler{std::move(action)}));
 }
 

@@ -1,4 +1,5 @@
 #include <array>
+#include <clocale>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -79,6 +80,10 @@ char** complete(const char* typed, int /*start*/, int /*end*/) {
 Terminal::Terminal(Completer completer) {
     static std::array blanks{' ', '\t', '\0'};
     completerInUse = completer;
+    // The library drops what the locale can't tell, which the C locale is all but ASCII.
+    if (std::setlocale(LC_CTYPE, "") == nullptr || MB_CUR_MAX == 1) {
+        std::setlocale(LC_CTYPE, "C.UTF-8");
+    }
     rl_basic_word_break_characters = blanks.data();
     rl_attempted_completion_function = complete;
     using_history();

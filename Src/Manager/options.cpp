@@ -59,7 +59,7 @@ private:
     const QCommandLineOption script_{
         "script",
         "Runs panel script from the file, \"-\" being standard input, and ends with it. The script "
-        "plays the amplifier too: of the other options only --zoom and --keep-going count.",
+        "plays the amplifier too: only --zoom and --keep-going go with it.",
         "FILE"};
     const QCommandLineOption keepGoing_{
         "keep-going", "Goes on after a command of the script that was not understood."};

@@ -79,17 +79,18 @@ void ManagerWindow::askForRecording() {
                });
 }
 
-// The recorder comes first: where nothing can be recorded, nothing is given up.
+// Where nothing can be recorded, nothing is given up.
 void ManagerWindow::startRecording(const QString& file) {
+    QFile probe(file);
+    if (!probe.open(QIODevice::Append)) {
+        return showWarning(*this, "Not recorded", "The session can't be recorded.",
+                           QDir::toNativeSeparators(file) + ": " + probe.errorString());
+    }
+    probe.close();
     stopReplay();
     stopRecording();
     const bool wasReadOnly = isReadOnly();
-    try {
-        recorder_ = makeRecorder(file);
-    } catch (const std::system_error& failure) {
-        return showWarning(*this, "Not recorded", "The session can't be recorded.",
-                           QString::fromLocal8Bit(failure.what()));
-    }
+    recorder_ = makeRecorder(file);
     sessionDirectory_ = QFileInfo(file).absolutePath();
     station_.listenWith(recorder_.get());
     station_.startAnew();

@@ -71,21 +71,26 @@ void Recorder::does(const Runtime::Deed& deed) {
 }
 
 void Recorder::did() {
-    const auto slider = actions_.empty() ? std::nullopt : actions_.back().movedSlider;
+    if (actions_.empty()) return;
+    const Action deed = actions_.back();
     end();
     // The language moves a slider and lets go of it in one.
+    const auto& slider = deed.movedSlider;
     if (slider && store_->get<Runtime::StoredSlider>(*slider).state().isHeld) {
         write(deedText({.verb = Runtime::Deed::Verb::hold, .widget = *slider}));
     }
+    if (deed.isOver && store_->pointer() == Widgets::Pointer::hourglass) pointerIsSet();
 }
 
 void Recorder::answered(const std::optional<String>& answer) {
+    if (actions_.empty() || actions_.back().isOver) return;
     const bool isTold = answer && answers_ == Answers::inFull;
     writeWait();
     file_.putBefore("answer " + (isTold ? Console::textOf(StringView(*answer)) : "cancel") + '\n');
     // No event takes what stands behind an answer that it hasn't got.
     resumptions_ = 0;
-    if (!actions_.empty()) actions_.back().hasStopped = false;
+    actions_.back().hasStopped = false;
+    actions_.back().isOver = answer && !isTold;
 }
 
 void Recorder::raised(const Event& event, std::span<const Value> arguments) {
@@ -113,12 +118,13 @@ void Recorder::stop() {
     if (actions_.empty()) return;
     Action& action = actions_.back();
     action.isWritten = true;
-    if (std::exchange(action.hasStopped, true)) ++resumptions_;
+    if (!action.isOver && std::exchange(action.hasStopped, true)) ++resumptions_;
 }
 
 // The first tick after a wait comes of that; what follows it at once does, too.
 bool Recorder::isInTheMidst() const {
-    return !actions_.empty() && (actions_.size() > 1 || actions_.front().isWritten);
+    return std::any_of(actions_.begin(), actions_.end(),
+                       [](const Action& action) { return action.isWritten && !action.isOver; });
 }
 
 void Recorder::write(std::string_view command) {

@@ -19,7 +19,8 @@ enum class Answers : std::uint8_t { asCancelled, inFull };
 
 /// Writes down what host and person do to a panel, as panel script that does the same to a fresh
 /// panel. The events are there as comments. What is done in the midst of an action, because it
-/// raises an event or opens a prompt, stands before it and is said to be done meanwhile.
+/// raises an event or opens a prompt, stands before it and is said to be done meanwhile. Only what
+/// comes of an answer that it doesn't hold is not repeated.
 ///
 /// The store's clock must be run by hand: each timer then ticks in the replay as it ticked here.
 class Recorder final : public CallListener, private Runtime::InputObserver {
@@ -51,6 +52,9 @@ private:
         std::optional<Widgets::WidgetId> movedSlider = std::nullopt;
         // For an event or a prompt.
         bool hasStopped = false;
+        // A prompt of it was given what the recording doesn't hold. The replay cancels that and is
+        // done with it: what else comes of it comes after it.
+        bool isOver = false;
     };
 
     void does(const Runtime::Deed& deed) override;

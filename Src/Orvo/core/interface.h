@@ -35,7 +35,8 @@ public:
     /// Empties the message log.
     virtual void CancellaTesto() = 0;
 
-    /// Adds a line, as it is, at the end of the message log.
+    /// Adds a line, as it is, at the end of the message log. Error 7 when the runtime's list is
+    /// full; Orvo::Store's holds 2,097,152 lines and 67,108,864 characters.
     virtual void AggiugiTesto(const String& strTesto) = 0;
 
     /// Shows quick-test row 0 to 5 as passed or failed. Error 340 for any other row.

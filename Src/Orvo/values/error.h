@@ -26,6 +26,7 @@ namespace Errors {
 
 inline Error invalidCall() { return {5, "Invalid procedure call or argument"}; }
 inline Error overflow() { return {6, "Overflow"}; }
+inline Error outOfMemory() { return {7, "Out of memory"}; }
 inline Error subscriptOutOfRange() { return {9, "Subscript out of range"}; }
 inline Error typeMismatch() { return {13, "Type mismatch"}; }
 inline Error setNotSupported() { return {383, "Set not supported (read-only property)"}; }

@@ -71,7 +71,7 @@ public:
 class List {
 public:
     virtual ~List() = default;
-    /// Adds an item at the end, in constant time.
+    /// Adds an item at the end, in constant time. Error 7 when the list is full.
     virtual void addItem(const String& text) = 0;
     virtual void clear() = 0;
 };

@@ -1,5 +1,7 @@
 #include "Runtime/Qt/slider.h"
 
+#include <utility>
+
 #include <QKeyEvent>
 #include <QLinearGradient>
 #include <QPainter>
@@ -55,7 +57,7 @@ bool Slider::event(QEvent* event) {
 
 void Slider::letGo() {
     grip_.reset();
-    input().drop(id());
+    if (std::exchange(isPressed_, false)) input().drop(id());
 }
 
 void Slider::mousePressEvent(QMouseEvent* event) {
@@ -63,6 +65,7 @@ void Slider::mousePressEvent(QMouseEvent* event) {
     if (!button) return event->ignore();
     const double y = event->position().y();
     const QRectF grabbed = cap();
+    isPressed_ = isPressed_ || event->button() == Qt::LeftButton;
     input().press(id(), *button);
     if (event->button() != Qt::LeftButton) return;
     const bool isOnCap = y >= grabbed.top() && y <= grabbed.bottom();
@@ -77,7 +80,10 @@ void Slider::mouseMoveEvent(QMouseEvent* event) {
 void Slider::mouseReleaseEvent(QMouseEvent* event) {
     const auto button = mouseButtonOf(*event);
     if (!button) return event->ignore();
-    if (event->button() == Qt::LeftButton) grip_.reset();
+    if (event->button() == Qt::LeftButton) {
+        isPressed_ = false;
+        grip_.reset();
+    }
     const bool isInside = rect().contains(event->position().toPoint());
     input().release(
         id(), *button,

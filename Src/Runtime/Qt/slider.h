@@ -37,6 +37,7 @@ private:
     void drawGroove(QPainter& painter) const;
     void drawCap(QPainter& painter) const;
 
+    bool isPressed_ = false;
     std::optional<double> grip_;  // while dragged: the pointer's distance from the cap's middle
     int wheel_ = 0;               // eighths of a degree that are no whole step yet
 };

@@ -42,7 +42,11 @@ struct ComboState {
 
 /// A screen that keeps up with a growing list compares `clears` first, then the number of items.
 struct ListState {
+    static constexpr std::size_t kMostItems = std::size_t{1} << 21;
+    static constexpr std::size_t kMostText = std::size_t{1} << 26;  ///< characters in all
+
     std::deque<String> items;
+    std::size_t text = 0;  ///< characters in all
     std::uint64_t clears = 0;
 };
 

@@ -166,7 +166,11 @@ void StoredCombo::setEnabled(Boolean enabled) {
 
 void StoredList::addItem(const String& text) {
     observe({.verb = Verb::addItem, .value = text});
+    const bool isFull = state_.items.size() == ListState::kMostItems ||
+                        text.size() > ListState::kMostText - state_.text;
+    if (isFull) throw Errors::outOfMemory();
     state_.items.push_back(text);
+    state_.text += text.size();
     changed();
 }
 
@@ -174,6 +178,7 @@ void StoredList::clear() {
     observe({.verb = Verb::clear});
     if (state_.items.empty()) return;
     state_.items.clear();
+    state_.text = 0;
     ++state_.clears;
     changed();
 }
