@@ -27,8 +27,11 @@ private:
     [[nodiscard]] QFont font() const;
     [[nodiscard]] QRect textPlace() const;
     [[nodiscard]] int baseline() const;
+    void paintEdge(QPainter& painter, QColor colour) const;
+    void paintText(QPainter& painter) const;
 
     QRect place_;
+    int edge_ = 1;  // pixels
     QFont font_;
     QFont firstFont_;
 };

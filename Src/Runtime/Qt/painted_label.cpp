@@ -6,8 +6,15 @@
 
 namespace Orvo::Window {
 
+namespace {
+
+bool isPale(QColor colour) { return qGray(colour.rgb()) > 160; }
+
+}  // namespace
+
 void PaintedLabel::layOut(const Scale& scale) {
     place_ = scale.rect(id());
+    edge_ = scale.thickness(1);
     font_ = toQt(looks().font, scale.zoom());
     firstFont_ = fontOfFirst();
 }
@@ -39,12 +46,32 @@ QRect PaintedLabel::textPlace() const {
 
 QRect PaintedLabel::bounds() const {
     // A pixel more for what italics and antialiasing put outside.
-    return place_.united(textPlace()).adjusted(-1, -1, 1, 1);
+    const int more = edge_ + 1;
+    return place_.united(textPlace()).adjusted(-more, -more, more, more);
 }
 
+// What is laid out dark has a light ground: a pale text would be lost on it without a dark edge.
 void PaintedLabel::paint(QPainter& painter) const {
+    const QColor colour = toQt(stored<Runtime::StoredLabel>().colour);
+    const QColor laidOut = toQt(looks().text);
     painter.setFont(font());
-    painter.setPen(toQt(stored<Runtime::StoredLabel>().colour));
+    if (isPale(colour) && !isPale(laidOut)) paintEdge(painter, laidOut);
+    painter.setPen(colour);
+    paintText(painter);
+}
+
+void PaintedLabel::paintEdge(QPainter& painter, QColor colour) const {
+    painter.setPen(colour);
+    for (const int x : {-edge_, 0, edge_}) {
+        for (const int y : {-edge_, 0, edge_}) {
+            painter.translate(x, y);
+            paintText(painter);
+            painter.translate(-x, -y);
+        }
+    }
+}
+
+void PaintedLabel::paintText(QPainter& painter) const {
     if (looks().flow == Layout::TextFlow::line)
         return painter.drawText(QPointF(place_.left(), baseline()), text());
     painter.drawText(place_, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextDontClip, text());

@@ -28,6 +28,10 @@ int distance(QRgb one, QRgb other) {
                      std::abs(qBlue(one) - qBlue(other))});
 }
 
+QRgb meanOf(const QImage& picture) {
+    return picture.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0);
+}
+
 void compareSpots(const QImage& one, const QImage& other, const QRegion& text, Difference& result) {
     for (int y = 0; y < one.height(); ++y) {
         for (int x = 0; x < one.width(); ++x) {
@@ -82,12 +86,15 @@ Difference differenceOf(const QImage& actual, const QImage& reference,
     result.picture = result.picture.scaled(reference.size());
     for (const QRect& place : texts) {
         result.shift = std::max(result.shift, shiftOf(actual, reference, place));
+        result.tint = std::max(result.tint,
+                               distance(meanOf(actual.copy(place)), meanOf(reference.copy(place))));
     }
     return result;
 }
 
 bool isHinting(const Difference& difference) {
-    return difference.inText <= 50 && difference.elsewhere <= 5 && difference.shift <= 1;
+    return difference.inText <= 50 && difference.elsewhere <= 8 && difference.shift <= 1 &&
+           difference.tint <= 5;
 }
 
 }  // namespace Orvo::Window

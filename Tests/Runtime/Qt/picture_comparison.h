@@ -14,6 +14,8 @@ struct Difference {
     int elsewhere = 0;
     /// By how many pixels a text has moved at most, as far as one looks.
     int shift = 0;
+    /// The largest difference of the mean colours of a text's place.
+    int tint = 0;
     /// Where: the brighter, the more.
     QImage picture;
 };

@@ -36,7 +36,8 @@ void expectAsKept(const char* name, const QImage& actual, const std::vector<QRec
     difference.picture.save(left + "difference.png");
     EXPECT_TRUE(isHinting(difference))
         << "text " << difference.inText << ", elsewhere " << difference.elsewhere
-        << ", text moved by " << difference.shift << "; see " << qPrintable(left) << "*.png";
+        << ", text moved by " << difference.shift << " and tinted by " << difference.tint
+        << "; see " << qPrintable(left) << "*.png";
 }
 
 PicturesTest::PicturesTest() {

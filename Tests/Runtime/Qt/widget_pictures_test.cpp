@@ -143,6 +143,9 @@ TEST_F(WidgetPicturesTest, Captions) {
         panel_.Connected(isConnected);
         add("lblConnected12");
     }
+    add("lblTestResult(0)");
+    panel_.ClearTest();
+    panel_.chkTest(1, true);
     panel_.chkTest(2, false);
     for (const char* label :
          {"lblTestResult(0)", "lblTestResult(1)", "lblTestResult(2)", "Label59"})
