@@ -103,7 +103,7 @@ void Session::failed(const Error& error) {
 
 std::optional<String> Session::asked(const Widgets::Question& question) {
     ++depth_;
-    const std::optional<String> answer = queuedAnswer();
+    std::optional<String> answer = queuedAnswer();
     --depth_;
     const std::string typed = answer ? textOf(StringView(*answer)) : "cancel";
     line("prompt " + textOf(StringView(question.text)) + ' ' + textOf(StringView(question.title)) +
