@@ -1,27 +1,8 @@
-#include <variant>
-
 #include "Manager/Simulator/host_bench.h"
+#include "Support/recorder.h"
 
 namespace Orvo::Tests {
 namespace {
-
-// What the panel did to its widgets, in words.
-class Recorder final : public Runtime::OperationObserver {
-public:
-    void before(const Runtime::Operation& operation) override {
-        std::string line = std::to_string(operation.widget) + ' ' +
-                           std::to_string(static_cast<int>(operation.verb));
-        if (const auto* text = std::get_if<StringView>(&operation.value)) line += toUtf8(*text);
-        if (const auto* number = std::get_if<Integer>(&operation.value)) {
-            line += ' ' + std::to_string(*number);
-        }
-        if (const auto* drawn = std::get_if<Runtime::LineSegment>(&operation.value)) {
-            line += ' ' + std::to_string(drawn->from.y);
-        }
-        lines.push_back(line);
-    }
-    std::vector<std::string> lines;
-};
 
 TEST_F(HostTest, LivesTheSameLifeForTheSameSeedHoweverItsTimeIsDivided) {
     const auto record = [](std::uint32_t seed, int pace) {
@@ -34,7 +15,7 @@ TEST_F(HostTest, LivesTheSameLifeForTheSameSeedHoweverItsTimeIsDivided) {
             host.advance(Milliseconds(pace));
         }
         bench->store().observeWith(nullptr);
-        return recorder.lines;
+        return recorder.seen;
     };
     const auto life = record(1, 16);
     EXPECT_GT(life.size(), 10'000U);
@@ -52,7 +33,7 @@ TEST_F(HostTest, SendsOnlyWhatChanged) {
     pass(5000);
     store_.observeWith(nullptr);
     // All scopes show silence and nothing is asked for: what is left is a volt here and there.
-    EXPECT_LT(recorder.lines.size(), 200U);
+    EXPECT_LT(recorder.seen.size(), 200U);
 }
 
 TEST_F(HostTest, SkipsWhatCannotBeMadeUpFor) {

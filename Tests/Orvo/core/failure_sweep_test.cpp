@@ -1,58 +1,13 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <optional>
 
 #include "Orvo/core/notification_table.h"
-#include "Orvo/values/text.h"
-#include "Support/bench.h"
+#include "Support/recorder.h"
 
 // Every member and every handler, with each of its widget operations failing in turn.
 namespace Orvo::Tests {
 namespace {
-
-using Operations = std::vector<std::string>;
-
-template <class... Visitors>
-struct Overloaded : Visitors... {
-    using Visitors::operator()...;
-};
-template <class... Visitors>
-Overloaded(Visitors...) -> Overloaded<Visitors...>;
-
-std::string pointText(Widgets::Point point) {
-    return std::to_string(point.x) + ',' + std::to_string(point.y);
-}
-
-std::string textOf(const Runtime::Operation& operation) {
-    const auto value =
-        std::visit(Overloaded{[](std::monostate) { return std::string(); },
-                              [](auto number) { return std::to_string(number); },
-                              [](StringView text) { return toUtf8(text); },
-                              [](Colour colour) { return testing::PrintToString(colour); },
-                              [](const Runtime::LineSegment& line) {
-                                  return pointText(line.from) + ' ' + pointText(line.to);
-                              }},
-                   operation.value);
-    return std::to_string(operation.widget) + ' ' +
-           std::to_string(static_cast<int>(operation.verb)) + ' ' + std::to_string(operation.tab) +
-           ' ' + value;
-}
-
-class Recorder final : public Runtime::OperationObserver {
-public:
-    explicit Recorder(std::optional<std::size_t> failAt = {}) : failAt_(failAt) {}
-
-    void before(const Runtime::Operation& operation) override {
-        seen.push_back(textOf(operation));
-        if (seen.size() - 1 == failAt_) throw Error(7, "Gone");
-    }
-
-    Operations seen;
-
-private:
-    std::optional<std::size_t> failAt_;
-};
 
 class Answering final : public Runtime::Prompter {
 public:
