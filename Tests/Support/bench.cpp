@@ -43,24 +43,8 @@ String PanelTest::caption(std::string_view label) const {
     return store_.get<Runtime::StoredLabel>(id(label)).state().caption;
 }
 
-Colour PanelTest::colour(std::string_view label) const {
-    return store_.get<Runtime::StoredLabel>(id(label)).state().colour;
-}
-
-Colour PanelTest::lineColour(std::string_view line) const {
-    return store_.get<Runtime::StoredLine>(id(line)).state().colour;
-}
-
-bool PanelTest::isVisible(std::string_view widget) const {
-    return store_.widget(id(widget)).isVisible();
-}
-
 bool PanelTest::isEnabled(std::string_view widget) const {
     return store_.widget(id(widget)).isEnabled();
-}
-
-bool PanelTest::isSelected(std::string_view option) const {
-    return store_.get<Runtime::StoredOption>(id(option)).state().value;
 }
 
 bool PanelTest::isChecked(std::string_view check) const {

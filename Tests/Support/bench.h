@@ -53,11 +53,7 @@ protected:
 
     [[nodiscard]] bool isLit(std::string_view shape) const;
     [[nodiscard]] String caption(std::string_view label) const;
-    [[nodiscard]] Colour colour(std::string_view label) const;
-    [[nodiscard]] Colour lineColour(std::string_view line) const;
-    [[nodiscard]] bool isVisible(std::string_view widget) const;
     [[nodiscard]] bool isEnabled(std::string_view widget) const;
-    [[nodiscard]] bool isSelected(std::string_view option) const;
     [[nodiscard]] bool isChecked(std::string_view check) const;
     [[nodiscard]] Integer position(std::string_view slider) const;
     /// The digits of several widgets, "_" for one that is dark.

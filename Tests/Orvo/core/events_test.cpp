@@ -109,16 +109,5 @@ TEST_F(Threads, OtherThanThePanelsAreRefusedAndChangeNothing) {
     EXPECT_FALSE(isLit("shpConnected"));
 }
 
-TEST_F(Events, OfAHandlerThatFailsGoToTheErrorHandler) {
-    class Failing final : public Runtime::OperationObserver {
-        void before(const Runtime::Operation& /*operation*/) override { throw Error(7, "Gone"); }
-    } failing;
-    store_.observeWith(&failing);
-    person_.click(id("cmdGo12"));
-    store_.advance(std::chrono::milliseconds(1500));
-    store_.observeWith(nullptr);
-    EXPECT_EQ(takeLines(), (Lines{"! 7 Gone", "! 7 Gone", "! 7 Gone"}));
-}
-
 }  // namespace
 }  // namespace Orvo::Tests

@@ -69,20 +69,6 @@ TEST_F(Trace, JoinsTheSamplesFromIndex1AndStopsWhereTheArrayDoes) {
         EXPECT_EQ(drawn.points.size(), row.points);
         EXPECT_TRUE(drawnOn(store_, "Picture1").points.empty());
     }
-    panel_.DisegnaFormaDOnda(3, IntegerArray(0, {99, 1, 2}));
-    EXPECT_EQ(drawnOn(store_, "Picture3").points.front().x, 112.5);
-    EXPECT_NEAR(drawnOn(store_, "Picture3").points.front().y, -2.9394, 0.0001);
-}
-
-TEST_F(Trace, DrawsNothingForAChannelThatThereIsNot) {
-    panel_.DisegnaFormaDOnda(1, IntegerArray(1, {1, 2}));
-    for (const Integer channel : {Integer{0}, Integer{5}, Integer{-1}}) {
-        EXPECT_EQ(errorOf([&] {
-                      panel_.DisegnaFormaDOnda(channel, IntegerArray(1, {3, 4, 5}));
-                  }),
-                  5);
-    }
-    EXPECT_EQ(drawnOn(store_, "Picture1").points.size(), 2U);
 }
 
 }  // namespace

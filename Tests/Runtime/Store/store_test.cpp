@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Support/bench.h"
+#include "Support/recorder.h"
 
 namespace Orvo::Tests {
 namespace {
@@ -48,30 +48,6 @@ TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
     EXPECT_TRUE(store_[kN1].value());
     EXPECT_TRUE(store_[kP3].value());
     EXPECT_EQ(takeHeard(), (Heard{"click optP3", "click optP1", "click optN1", "release optN1"}));
-}
-
-TEST_F(StoreTest, TicksInOrderOnItsClock) {
-    std::vector<std::int64_t> times;
-    answer_ = [&](Notification&) { times.push_back(store_.now().count()); };
-    store_.advance(1499ms);
-    EXPECT_EQ(takeHeard(), Heard());
-    store_.advance(1501ms);
-    EXPECT_EQ(times, (std::vector<std::int64_t>{1500, 1500, 3000, 3000}));
-    EXPECT_EQ(takeHeard(), (Heard{"tick tmrVirtualTemp12", "tick tmrVirtualTemp34",
-                                  "tick tmrVirtualTemp12", "tick tmrVirtualTemp34"}));
-}
-
-TEST_F(StoreTest, StartsTheIntervalOfATimerThatIsEnabledAnew) {
-    constexpr auto kTimer = Layout::timerRef("tmrVirtualTemp12");
-    store_[Layout::timerRef("tmrVirtualTemp34")].setEnabled(false);
-    store_.advance(1000ms);
-    store_[kTimer].setEnabled(true);
-    EXPECT_EQ(store_.untilNextTick(), 500ms);
-    store_[kTimer].setEnabled(false);
-    EXPECT_EQ(store_.untilNextTick(), std::nullopt);
-    store_.advance(1000ms);
-    store_[kTimer].setEnabled(Boolean(Integer{2}));
-    EXPECT_EQ(store_.untilNextTick(), 1500ms);
 }
 
 TEST_F(StoreTest, TicksOnceForAllTheTimeThatItMissed) {
@@ -120,76 +96,10 @@ TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
     EXPECT_EQ(errorOf([&] { tabs.setTabEnabled(3, true); }), 5);
 }
 
-TEST_F(StoreTest, IgnoresInputToWhatIsHiddenOrDisabledByWhatContainsIt) {
-    const auto button = id("Command12");
-    const auto clicked = [&] {
-        person_.click(button);
-        return takeHeard() == Heard{"click Command12", "release Command12"};
-    };
-    EXPECT_TRUE(clicked());
-    store_.show(id("Frame6"), false);
-    EXPECT_FALSE(clicked());
-    store_.show(id("Frame6"), true);
-    store_.enable(id("SSTab1"), false);
-    EXPECT_FALSE(clicked());
-    store_.enable(id("SSTab1"), true);
-    store_[Layout::kTabs].setTabEnabled(1, false);
-    EXPECT_FALSE(clicked());
-    store_[Layout::kTabs].setTabEnabled(1, true);
-    EXPECT_TRUE(clicked());
-}
-
-TEST_F(StoreTest, LetsAComboBoxBePickedAndTypedIn) {
-    constexpr auto kCombo = Layout::comboRef("Combo1");
-    for (const auto* item : {u"1", u"2"}) store_[kCombo].addItem(item);
-    person_.pick(kCombo.id, u"2");
-    EXPECT_EQ(store_[kCombo].text(), u"1");
-    store_.enable(kCombo.id, true);
-    person_.pick(kCombo.id, u"2");
-    person_.pick(kCombo.id, u"3");
-    EXPECT_EQ(store_[kCombo].text(), u"2");
-    person_.type(kCombo.id, u'5');
-    EXPECT_EQ(store_[kCombo].text(), u"25");
-    person_.type(kCombo.id, 8);
-    answer_ = [](Notification& notification) { notification.keyCode = 0; };
-    person_.type(kCombo.id, u'6');
-    EXPECT_EQ(store_[kCombo].text(), u"2");
-    EXPECT_EQ(takeHeard(), (Heard{"click Combo1", "key Combo1", "key Combo1", "key Combo1"}));
-}
-
-// Notes what is said to have changed.
-class Noting final : public Runtime::View {
-public:
-    void changed(Widgets::WidgetId widget) override { ids.push_back(widget); }
-    std::vector<Widgets::WidgetId> ids;
-};
-
-TEST_F(StoreTest, TellsItsViewOfChangesOnly) {
-    Noting view;
-    store_.showOn(&view);
-    constexpr auto kLamp = Layout::shapeRef("Shape16");
-    store_[kLamp].setFillStyle(Widgets::FillStyle::transparent);
-    EXPECT_TRUE(view.ids.empty());
-    store_[kLamp].setFillStyle(Widgets::FillStyle::solid);
-    store_.screen().setPointer(Widgets::Pointer::hourglass);
-    EXPECT_EQ(view.ids, (std::vector<Widgets::WidgetId>{kLamp.id, Layout::kNoWidget}));
-}
-
-class FailingAt final : public Runtime::OperationObserver {
-public:
-    explicit FailingAt(int count) : left_(count) {}
-    void before(const Runtime::Operation& /*operation*/) override {
-        if (left_-- == 0) throw Error(7, "Gone");
-    }
-
-private:
-    int left_;
-};
-
 TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
     constexpr auto kPicture = Layout::pictureRef("Picture1");
     const std::vector<Widgets::Point> points{{0, 0}, {1, 1}, {2, 0}, {3, 1}};
-    FailingAt thirdLine(6);
+    Recorder thirdLine(6);
     store_.observeWith(&thirdLine);
     EXPECT_EQ(errorOf([&] { store_[kPicture].polyline(points, Layout::kGreen); }), 7);
     const auto& drawing = store_.get<Runtime::StoredPicture>(kPicture.id).state().drawing;

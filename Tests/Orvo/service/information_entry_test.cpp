@@ -1,0 +1,25 @@
+#include "Support/bench.h"
+
+namespace Orvo::Tests {
+namespace {
+
+using InformationEntry = PanelTest;
+
+TEST_F(InformationEntry, EndsWhenThePanelIsReleasedUnderIt) {
+    struct Releasing final : Runtime::Prompter {
+        std::optional<String> ask(const Widgets::Question& /*question*/) override {
+            ++asked;
+            bench->release();
+            return u"530284";
+        }
+        std::unique_ptr<Bench> bench = makeBench();
+        int asked = 0;
+    } person;
+    person.bench->store().promptWith(&person);
+    person.bench->store().input().type(id("List1"), 18);
+    EXPECT_EQ(person.asked, 1);
+    EXPECT_TRUE(person.bench->store().widget(id("Command1")).isEnabled());
+}
+
+}  // namespace
+}  // namespace Orvo::Tests
