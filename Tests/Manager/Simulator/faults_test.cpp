@@ -5,7 +5,6 @@ namespace {
 
 // What a fault shows, and that it's gone after it.
 struct Case {
-    const char* label;
     Fault fault;
     int untilShown;  // milliseconds
     const char* lamp;
@@ -15,7 +14,7 @@ struct Case {
     const char* logAfter;
 };
 
-void PrintTo(const Case& one, std::ostream* out) { *out << one.label; }
+void PrintTo(const Case& one, std::ostream* out) { *out << one.log << ": " << one.lamp; }
 
 class Faults : public HostTest, public testing::WithParamInterface<Case> {};
 
@@ -24,7 +23,6 @@ TEST_P(Faults, ShowAndRecover) {
     run();
     EXPECT_NE(isLit(one.lamp), one.isLitByFault);
     host_->set(one.fault, true);
-    EXPECT_TRUE(host_->has(one.fault));
     pass(one.untilShown);
     EXPECT_EQ(isLit(one.lamp), one.isLitByFault);
     EXPECT_TRUE(hasLogged(one.log));
@@ -35,22 +33,17 @@ TEST_P(Faults, ShowAndRecover) {
     EXPECT_TRUE(hasLogged(one.logAfter));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    OfTheAmplifier, Faults,
-    testing::Values(Case{"mains", Fault::mainsFailure, 300, "shpMainPresence34", false, 300,
-                         "Mains failure", "Mains present"},
-                    Case{"mains, ready", Fault::mainsFailure, 2000, "Shape17", false, 3000,
-                         "Mains failure", "Mains present"},
-                    Case{"mains, clock", Fault::mainsFailure, 2000, "Shape4", false, 3000,
-                         "Mains failure", "Mains present"},
-                    Case{"short on 1", Fault::shortOnChannel1, 200, "Shape18", true, 2500,
-                         "1: protection trip", "1: protection clear"},
-                    Case{"short on 4", Fault::shortOnChannel4, 200, "Shape14", true, 2500,
-                         "4: protection trip", "4: protection clear"},
-                    Case{"short on any", Fault::shortOnChannel3, 200, "Shape28", true, 2500,
-                         "3: protection trip", "3: protection clear"},
-                    Case{"heat", Fault::overTemperature, 60'000, "Shape13", true, 90'000,
-                         "3: protection trip", "3: protection clear"}));
+// clang-format off
+constexpr Case kCases[] = {
+    {Fault::mainsFailure, 300, "shpMainPresence34", false, 300, "Mains failure", "Mains present"},
+    {Fault::mainsFailure, 2000, "Shape4", false, 3000, "Mains failure", "Mains present"},
+    {Fault::shortOnChannel1, 200, "Shape18", true, 2500, "1: protection trip", "1: protection clear"},
+    {Fault::shortOnChannel3, 200, "Shape28", true, 2500, "3: protection trip", "3: protection clear"},
+    {Fault::shortOnChannel4, 200, "Shape14", true, 2500, "4: protection trip", "4: protection clear"},
+    {Fault::overTemperature, 60'000, "Shape13", true, 90'000, "3: protection trip", "3: protection clear"},
+};
+// clang-format on
+INSTANTIATE_TEST_SUITE_P(OfTheAmplifier, Faults, testing::ValuesIn(kCases));
 
 TEST_F(HostTest, SwitchesOnAgainWhenTheMainsReturn) {
     run();

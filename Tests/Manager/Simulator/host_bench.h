@@ -58,16 +58,19 @@ protected:
         return std::stoi(digits({"ledTemp12(0)", "ledTemp12(1)", "ledTemp12(2)"}));
     }
 
+    [[nodiscard]] const std::vector<Widgets::Point>& trace(std::string_view scope) const {
+        const auto& drawing = store_.get<Runtime::StoredPicture>(id(scope)).state().drawing;
+        return std::get<Runtime::DrawnPolyline>(drawing.back()).points;
+    }
+
     /// The lowest and the highest voltage of the trace on a scope; the grid has 10 pixels for 30 V.
     struct Swing {
         float lowest = 0;
         float highest = 0;
     };
     [[nodiscard]] Swing swing(std::string_view scope) const {
-        const auto& drawing = store_.get<Runtime::StoredPicture>(id(scope)).state().drawing;
-        const auto& points = std::get<Runtime::DrawnPolyline>(drawing.back()).points;
-        const auto [top, bottom] = std::minmax_element(
-            points.begin(), points.end(), [](auto one, auto other) { return one.y < other.y; });
+        const auto [top, bottom] =
+            std::ranges::minmax_element(trace(scope), {}, &Widgets::Point::y);
         return {(50 - bottom->y) * 3, (50 - top->y) * 3};
     }
 
