@@ -19,7 +19,7 @@ struct Accessible {
     friend bool operator==(const Accessible&, const Accessible&) = default;
 };
 
-enum class State { checked = 4, enabled = 8, focused = 12, showing = 25 };
+enum class State { checked = 4, showing = 25 };
 
 /// The accessibility bus, seen from a screen reader's side: it speaks to the programs over the bus
 /// alone. What is no longer there has no name, no children and no value.
@@ -29,7 +29,6 @@ class AccessibleBus final : public QObject {
 public:
     AccessibleBus();
 
-    [[nodiscard]] bool isConnected() const { return bus_.isConnected(); }
     [[nodiscard]] std::vector<Accessible> programs() const;
 
     [[nodiscard]] std::vector<Accessible> childrenOf(const Accessible& thing) const;
