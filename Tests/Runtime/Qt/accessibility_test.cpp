@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <set>
 
 #include <QAbstractItemView>
@@ -55,19 +56,9 @@ bool isLamp(const Layout::Style& style) {
 }
 
 bool isToBeKnown(const Layout::Style& style) {
-    switch (style.kind) {
-        case Kind::shape:
-            return isLamp(style);
-        case Kind::label:
-        case Kind::line:
-        case Kind::frame:
-        case Kind::image:
-        case Kind::timer:
-        case Kind::tabs:
-            return false;
-        default:
-            return true;
-    }
+    const auto silent = {Kind::label, Kind::line, Kind::frame, Kind::image,
+                         Kind::timer, Kind::tabs, Kind::shape};
+    return isLamp(style) || std::ranges::find(silent, style.kind) == silent.end();
 }
 
 TEST_F(AccessibilityTest, EveryWidgetThatTellsOrTakesSomethingIsKnownByName) {
@@ -182,9 +173,13 @@ TEST_F(AccessibilityTest, TheTabKeyReachesEveryControlAndShowsIt) {
         std::set<std::string> reached;
         QWidget* strip = &control("SSTab1");
         strip->setFocus();
+        WidgetId last = 0;
         for (QWidget* focused = nullptr; focused != strip;) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             focused = QApplication::focusWidget();
+            const WidgetId next = idOf(focused->objectName().toStdString());
+            EXPECT_TRUE(next > last || focused == strip) << "not in the layout's order";
+            last = next;
             ASSERT_TRUE(reached.insert(focused->objectName().toStdString()).second);
             const QImage shown = focused->grab().toImage();
             focused->clearFocus();

@@ -62,18 +62,6 @@ TEST_F(ControlsTest, TheKeyboardStopsOnceInAGroupOfOptions) {
     EXPECT_EQ(stops(), "optN2");
 }
 
-TEST_F(ControlsTest, TheTabKeyFollowsTheLayout) {
-    toTab(1);
-    control("SSTab1").setFocus();
-    WidgetId last = 0;
-    for (int i = 0; i < 8; ++i) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        const WidgetId next = idOf(QApplication::focusWidget()->objectName().toStdString());
-        EXPECT_GT(next, last);
-        last = next;
-    }
-}
-
 TEST_F(ControlsTest, TheHourglassShowsAtOnce) {
     store_.screen().setPointer(Widgets::Pointer::hourglass);
     EXPECT_EQ(front_.cursor().shape(), Qt::WaitCursor);

@@ -1,4 +1,4 @@
-#include <functional>
+#include <algorithm>
 
 #include <QPainter>
 
@@ -11,17 +11,9 @@ namespace {
 using Layout::Kind;
 
 bool hasText(Kind kind) {
-    switch (kind) {
-        case Kind::label:
-        case Kind::button:
-        case Kind::combo:
-        case Kind::list:
-        case Kind::picture:
-        case Kind::tabs:
-            return true;
-        default:
-            return false;
-    }
+    const auto kinds = {Kind::label, Kind::button,  Kind::combo,
+                        Kind::list,  Kind::picture, Kind::tabs};
+    return std::ranges::find(kinds, kind) != kinds.end();
 }
 
 bool hasPlace(Kind kind) {

@@ -1,4 +1,3 @@
-#include <bit>
 #include <cmath>
 #include <vector>
 
@@ -7,26 +6,11 @@
 #include <QImage>
 #include <QPainter>
 
-#include "Runtime/Qt/segments.h"
 #include "Runtime/Qt/slider_track.h"
 #include "Runtime/Qt/trace.h"
 
 namespace Orvo::Window {
 namespace {
-
-TEST(SegmentsTest, TheDigitsHaveTheirSegments) {
-    const int counts[] = {6, 2, 5, 5, 4, 5, 6, 3, 7, 6};
-    for (int digit = 0; digit < 10; ++digit) {
-        EXPECT_EQ(std::popcount(kLitSegments[std::size_t(digit)]), counts[digit]) << digit;
-    }
-}
-
-// A digit's cell is narrower than its widget: the next one overlaps it.
-TEST(SegmentsTest, SegmentsStayInTheirCell) {
-    for (int segment = 0; segment < kSegmentCount; ++segment) {
-        EXPECT_TRUE(QRectF(0, 0, 12, 15).contains(segmentOutline(segment).boundingRect()));
-    }
-}
 
 TEST(SliderTrackTest, PositionsAndPlacesBelongTogether) {
     for (const ZeroAt zero : {ZeroAt::top, ZeroAt::bottom}) {

@@ -15,33 +15,16 @@ namespace Orvo::Window {
 class Recorder final : public Widgets::NotificationSink {
 public:
     void notify(Widgets::Notification& notification) override {
+        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
         if (!heard.empty()) heard += ", ";
         heard += std::string(Layout::describe(notification.widget).name) + " " +
-                 nameOf(notification.kind);
+                 kNames[static_cast<int>(notification.kind)];
         if (notification.keyCode != 0) heard += std::to_string(notification.keyCode);
         if (discardsKeys) notification.keyCode = 0;
     }
 
     std::string heard;
     bool discardsKeys = false;
-
-private:
-    static std::string nameOf(Widgets::NotificationKind kind) {
-        switch (kind) {
-            case Widgets::NotificationKind::click:
-                return "click";
-            case Widgets::NotificationKind::release:
-                return "release";
-            case Widgets::NotificationKind::keyPress:
-                return "key";
-            case Widgets::NotificationKind::tick:
-                return "tick";
-            case Widgets::NotificationKind::change:
-                return "change";
-            default:
-                return "?";
-        }
-    }
 };
 
 /// A shown screen over a bare store: what the panel would write, the test writes.
