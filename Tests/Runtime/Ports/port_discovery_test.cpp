@@ -174,12 +174,5 @@ TEST(BlockHeap, GoesOnForeverBesideABlockThatStays) {
     EXPECT_EQ(heap.allocate(0x8000'0000), 0);
 }
 
-TEST_F(PortMembersTest, LpstrToStringTakesLongTexts) {
-    const Long address = heap_->allocate(32768);
-    std::ranges::fill(heap_->bytesFrom(address), std::byte{'x'});
-    heap_->bytesFrom(address + 32767).front() = std::byte{0};
-    EXPECT_EQ(panel_.LPSTRtoSTRING(address).size(), 32767U);
-}
-
 }  // namespace
 }  // namespace Orvo::Tests
