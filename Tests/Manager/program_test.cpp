@@ -66,7 +66,10 @@ TEST_F(ProgramTest, ARecordedDemonstrationIsRepeatedAlike) {
     EXPECT_EQ(QString(console.readAllStandardOutput()), outcome.out);
 }
 
-TEST_F(ProgramTest, WhatCannotBeReadOrWrittenEndsIt) {
+TEST_F(ProgramTest, WhatCannotBeUnderstoodReadOrWrittenEndsIt) {
+    const Outcome option = run({"--zoom", "wide"});
+    EXPECT_EQ(option.status, 2);
+    EXPECT_TRUE(option.error.contains("from 50 to 800, not \"wide\""));
     const Outcome script = run({"--script", "no such file"});
     EXPECT_EQ(script.status, 2);
     EXPECT_TRUE(script.error.contains("no such file"));

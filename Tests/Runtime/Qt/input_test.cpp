@@ -162,6 +162,9 @@ TEST_F(InputTest, AComboTakesWhatTheStoreTakes) {
     auto& box = control<QComboBox>("Combo1");
     key(Qt::Key_2)(box);
     EXPECT_EQ(combo.text(), u"12");
+    key(Qt::Key_Backspace)(box);
+    EXPECT_EQ(combo.text(), u"1");
+    key(Qt::Key_2)(box);
     panel_.discardsKeys = true;
     key(Qt::Key_5)(box);
     EXPECT_EQ(combo.text(), u"12");
