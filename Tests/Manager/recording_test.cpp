@@ -305,6 +305,7 @@ protected:
             panel = &host;
             person_.type(id("List1"), 18);
             person_.click(id("Command12"));
+            panel = nullptr;
         };
         expectSameReplay([](auto& host) { host.Mute(1, !host.Mute(1)); }, act, answers);
     }
