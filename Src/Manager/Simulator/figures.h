@@ -84,7 +84,7 @@ constexpr Milliseconds kStartUp{200};             ///< until the amplifier at th
 constexpr Milliseconds kStatusInterval{100};      ///< between two reports of all readings
 constexpr Milliseconds kTraceInterval{50};        ///< between two frames of each scope
 constexpr Milliseconds kSilenceIsLoss{600};       ///< after which the host takes the link for lost
-constexpr Milliseconds kAnswerIsDue{500};         ///< after which the host asks again
+constexpr Milliseconds kAnswerIsDue{500};         ///< after which the host waits no longer
 constexpr Milliseconds kQuickTestPace{400};       ///< between two rows of the quick test
 constexpr Milliseconds kLongestAdvance{600'000};  ///< at once; what is more is skipped
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -82,11 +83,10 @@ struct Reading {
     Integer value = 0;
 };
 
-/// All readings, after the request of this number and all before it were obeyed. What belongs to
-/// a pair that is missing is missing.
+/// All readings. What belongs to a pair that is missing is missing.
 struct Status {
     std::vector<Reading> readings;
-    std::uint32_t answered = 0;
+    std::optional<std::uint32_t> answered;  ///< the request that has just been obeyed
 };
 
 /// A scope's frame: samples from index 1 on, as the panel draws them.

@@ -9,6 +9,8 @@ namespace Orvo::Simulator {
 /// What the generator can play, by the panel's wave types from 0.
 enum class Signal : std::uint8_t { tone100Hz, tone1kHz, tone10kHz, eiaj, lineIn };
 
+constexpr int kSignalCount = 5;
+
 /// By the panel's input codes.
 enum class Input : std::uint8_t { positive = 1, negative = 2 };
 

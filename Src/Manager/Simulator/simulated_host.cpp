@@ -1,25 +1,15 @@
 #include "Manager/Simulator/simulated_host.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
-#include <string_view>
-#include <utility>
 #include <variant>
 
-#include "Orvo/values/indexed.h"
+#include "Manager/Simulator/request_text.h"
 #include "Orvo/values/text.h"
 
 namespace Orvo::Simulator {
-namespace {
 
 using namespace LinkFigures;
-
-// By the panel's wave types, from 0.
-constexpr std::array<std::string_view, 5> kSignalNames{"100 Hz", "1 kHz", "10 kHz", "EIAJ",
-                                                       "Line in"};
-
-}  // namespace
 
 SimulatedHost::SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed, PowerAtStart power)
     : SimulatedHost(panel, panel, seed, power) {}
@@ -46,7 +36,7 @@ void SimulatedHost::step() {
     link_.step();
     link_.receive([this](const Message& message) { receive(message); });
     noticeSilence();
-    if (dataDue_ && now_ >= *dataDue_) askInternalData();
+    giveUp(awaited_.takeOverdue(now_));
     if (const auto result = quickTest_.step(now_, status_.readings)) {
         tell("Quick test: " + std::to_string(result->passed) + " of " +
              std::to_string(result->rows) + " passed");
@@ -58,45 +48,45 @@ void SimulatedHost::step() {
 // flipped by themselves and must hear in any case what came of it.
 void SimulatedHost::OnOff() {
     const bool isOn = bool(panel_.PowerOn());
-    powerAsked_ = ask(SwitchPower{!isOn});
-    if (!powerAsked_) panel_.PowerOn(isOn);
+    if (!ask(SwitchPower{!isOn})) panel_.PowerOn(isOn);
 }
 
 void SimulatedHost::Mute(Integer& intChannel) {
     ask(SetMute{intChannel, !bool(panel_.Mute(intChannel))});
 }
 
-void SimulatedHost::DownLoad() { askInternalData(); }
+void SimulatedHost::DownLoad() { ask(AskInternalData{}); }
 
 void SimulatedHost::VolumeChange(Integer& intChannel, Integer& intVolume) {
+    // Without a connection, one word will do for all the moves of a drag.
+    const bool isToBeAsked = isConnected_ || !sliders_.isAway(intChannel);
     sliders_.moved(intChannel, intVolume);
-    if (!isConnected_) return;
-    sliders_.asked(intChannel, link_.send(SetVolume{intChannel, intVolume}));
+    if (isToBeAsked && ask(SetVolume{intChannel, intVolume})) sliders_.asked(intChannel);
 }
 
+// Not awaited: the panel repeats it as long as the test lasts.
 void SimulatedHost::SetTemp(Integer& intChannel, Integer& intValue) {
     if (isConnected_) link_.send(SetVirtualTemperature{intChannel, intValue});
 }
 
 void SimulatedHost::WaveForm(Integer& intNChannel, Integer& intTypeWaveForm, Integer& intPosNeg) {
-    const auto* name = entry(kSignalNames, intTypeWaveForm, 0);
-    if (name == nullptr) return;
-    const auto input = static_cast<Input>(intPosNeg);
-    if (!ask(StartGenerator{intNChannel, static_cast<Signal>(intTypeWaveForm), input})) return;
-    tell("Channel " + std::to_string(intNChannel) + ": " + std::string(*name) + " to the " +
-         (input == Input::positive ? "positive" : "negative") + " input");
+    if (intTypeWaveForm < 0 || intTypeWaveForm >= kSignalCount) return;
+    const StartGenerator request{intNChannel, static_cast<Signal>(intTypeWaveForm),
+                                 static_cast<Input>(intPosNeg)};
+    if (ask(request)) tell(describe(request));
 }
 
 void SimulatedHost::GeneralInformations(Integer& /*intIdDevice*/, String& strInformations,
                                         String& strSnAmp, String& strSnCard) {
     const Information information{toUtf8(strInformations), toUtf8(strSnAmp), toUtf8(strSnCard)};
-    if (ask(SetInformation{information})) askInternalData();
+    if (ask(SetInformation{information})) ask(AskInternalData{});
 }
 
 void SimulatedHost::ChangeAmpId(Integer& intIdDevice) {
     log_.emptied();
     disconnect();
     mirror_.forget();
+    status_ = {};
     link_.select(intIdDevice);
     tell("Amplifier " + std::to_string(intIdDevice));
 }
@@ -109,15 +99,39 @@ void SimulatedHost::runQuickTest() {
     }
 }
 
-std::optional<std::uint32_t> SimulatedHost::ask(Command command) {
-    if (isConnected_) return link_.send(std::move(command));
-    tell("Not connected");
-    return std::nullopt;
+bool SimulatedHost::ask(const Command& command) {
+    if (isConnected_) {
+        awaited_.add(now_, {link_.send(command), command});
+    } else {
+        tell("Not connected");
+    }
+    return isConnected_;
 }
 
-void SimulatedHost::askInternalData() {
-    dataDue_.reset();
-    if (ask(AskInternalData{})) dataDue_ = now_ + kAnswerIsDue;
+// The link keeps the order, so what was asked before and hasn't been answered is lost.
+void SimulatedHost::hearAnswer(std::uint32_t number) {
+    giveUp(awaited_.takeUpTo(number - 1));
+    for (const Request& request : awaited_.takeUpTo(number)) confirm(request.command);
+}
+
+void SimulatedHost::confirm(const Command& command) {
+    if (std::holds_alternative<SwitchPower>(command)) mirror_.repeat(Item::power);
+    if (const auto* volume = std::get_if<SetVolume>(&command)) sliders_.ended(volume->channel);
+}
+
+void SimulatedHost::giveUp(const std::vector<Request>& lost) {
+    for (const Request& request : lost) giveUp(request.command);
+    if (!lost.empty()) showStatus();
+}
+
+void SimulatedHost::giveUp(const Command& command) {
+    if (std::holds_alternative<AskInternalData>(command) && isConnected_) {
+        if (!awaited_.has<AskInternalData>()) ask(command);
+        return;
+    }
+    tell("No answer: " + describe(command));
+    if (std::holds_alternative<SwitchPower>(command)) panel_.PowerOn(panel_.PowerOn());
+    if (const auto* volume = std::get_if<SetVolume>(&command)) sliders_.ended(volume->channel);
 }
 
 void SimulatedHost::receive(const Message& message) {
@@ -137,16 +151,15 @@ void SimulatedHost::understand(bool isIntact) {
 
 void SimulatedHost::take(const Status& status) {
     status_ = status;
-    if (powerAsked_ && status.answered >= *powerAsked_) {
-        powerAsked_.reset();
-        mirror_.repeat(Item::power);
-    }
-    for (const Reading& reading : status.readings) {
-        if (reading.item == Item::volume) {
-            sliders_.confirmed(reading.index, reading.value, status.answered);
-        }
+    if (status.answered) hearAnswer(*status.answered);
+    showStatus();
+}
+
+void SimulatedHost::showStatus() {
+    for (const Reading& reading : status_.readings) {
+        if (reading.item == Item::volume) sliders_.confirmed(reading.index, reading.value);
         // What was on its way before the request would flip the power buttons to and fro.
-        if (reading.item != Item::power || !powerAsked_) show(reading);
+        if (reading.item != Item::power || !awaited_.has<SwitchPower>()) show(reading);
     }
 }
 
@@ -160,7 +173,6 @@ void SimulatedHost::show(const Reading& reading) {
 }
 
 void SimulatedHost::take(const Page& page) {
-    dataDue_.reset();
     tell("Internal data");
     for (const std::string& line : page.lines) log_.add(line);
 }
@@ -178,11 +190,8 @@ void SimulatedHost::connect() {
 // What the panel shows of the amplifier stays, as the last that is known of it.
 void SimulatedHost::disconnect() {
     isConnected_ = false;
-    dataDue_.reset();
     quickTest_.abandon();
-    if (powerAsked_) panel_.PowerOn(panel_.PowerOn());
-    powerAsked_.reset();
-    sliders_.giveUp();
+    giveUp(awaited_.takeAll());
     panel_.Connected(false);
     panel_.TimerVirtualTemp12(false);
     panel_.TimerVirtualTemp34(false);

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
+#include <vector>
 
+#include "Manager/Simulator/awaited_requests.h"
 #include "Manager/Simulator/fault.h"
 #include "Manager/Simulator/host_log.h"
 #include "Manager/Simulator/message.h"
@@ -22,7 +23,9 @@ namespace Orvo::Simulator {
 ///   confirmed it;
 /// - only what changed is shown, and everything once more after a reconnect;
 /// - a slider isn't written while a person holds it, nor while a later move is unanswered;
-/// - a control that changes by itself when it is worked is put back if nothing comes of it.
+/// - a control that changes by itself when it is worked is put back if nothing comes of it;
+/// - nothing is waited for for ever: in the end a question is asked again, but an order is given
+///   up, and the log says so.
 ///
 /// The same seed, panel and calls give the same life. It ends before the panel does, and is used
 /// on the panel's thread.
@@ -68,12 +71,16 @@ private:
     void ChangeAmpId(Integer& intIdDevice) override;
 
     void step();
-    /// The number of the request; none without a connection.
-    std::optional<std::uint32_t> ask(Command command);
-    void askInternalData();
+    /// Whether the request is on its way; not without a connection.
+    bool ask(const Command& command);
+    void hearAnswer(std::uint32_t number);
+    void confirm(const Command& command);
+    void giveUp(const std::vector<Request>& lost);
+    void giveUp(const Command& command);
 
     void receive(const Message& message);
     void take(const Status& status);
+    void showStatus();
     void show(const Reading& reading);
     void take(const Trace& trace) { mirror_.show(trace); }
     void take(const Page& page);
@@ -93,11 +100,8 @@ private:
     bool isUnderstood_ = true;
     Milliseconds lastSound_{0};
     Milliseconds lastWord_{0};
-    /// The request that asks for power on or off, until it is answered.
-    std::optional<std::uint32_t> powerAsked_;
-    /// When the internal data is asked for again, unless it has come.
-    std::optional<Milliseconds> dataDue_;
 
+    AwaitedRequests awaited_;
     Status status_;
     PanelMirror mirror_;
     VolumeSliders sliders_;

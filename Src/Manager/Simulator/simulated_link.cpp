@@ -19,7 +19,7 @@ void SimulatedLink::step() {
     now_ += kStep;
     toAmplifier_.deliver(now_, [this](const Request& request) { obey(request); });
     amplifier().step();
-    if (now_ % kStatusInterval == Milliseconds(0)) replyStatus();
+    if (now_ % kStatusInterval == Milliseconds(0)) replyStatus(std::nullopt);
     if (now_ % kTraceInterval != Milliseconds(0)) return;
     for (Trace& trace : amplifier().traces()) reply(std::move(trace));
 }
@@ -57,14 +57,15 @@ void SimulatedLink::restart() {
 
 void SimulatedLink::obey(const Request& request) {
     amplifier().obey(request.command);
-    obeyed_ = request.number;
     if (std::holds_alternative<AskInternalData>(request.command)) {
         reply(Page{amplifier().internalData()});
     }
-    replyStatus();
+    replyStatus(request.number);
 }
 
-void SimulatedLink::replyStatus() { reply(Status{amplifier().readings(), obeyed_}); }
+void SimulatedLink::replyStatus(std::optional<std::uint32_t> answered) {
+    reply(Status{amplifier().readings(), answered});
+}
 
 void SimulatedLink::reply(Content content) {
     if (isUp()) toHost_.put(now_, {std::move(content), !has(Fault::garbledReplies)});

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 
 #include "Manager/Simulator/amplifier.h"
 #include "Manager/Simulator/delay_line.h"
@@ -39,7 +40,7 @@ private:
     void restart();
     void obey(const Request& request);
     void reply(Content content);
-    void replyStatus();
+    void replyStatus(std::optional<std::uint32_t> answered);
 
     std::uint32_t seed_;
     PowerAtStart power_;
@@ -51,7 +52,6 @@ private:
     DelayLine<Request> toAmplifier_{LinkFigures::kLatency};
     DelayLine<Message> toHost_{LinkFigures::kLatency};
     std::uint32_t sent_ = 0;
-    std::uint32_t obeyed_ = 0;
 };
 
 }  // namespace Orvo::Simulator

@@ -1,24 +1,24 @@
 #include "Manager/Simulator/volume_sliders.h"
 
+#include "Orvo/values/indexed.h"
+
 namespace Orvo::Simulator {
 
 void VolumeSliders::moved(Integer channel, Integer volume) {
     if (Slider* one = slider(channel)) one->shown = volume;
 }
 
-void VolumeSliders::asked(Integer channel, std::uint32_t request) {
-    if (Slider* one = slider(channel)) one->awaited = request;
+void VolumeSliders::await(Integer channel, bool isAwaited) {
+    if (Slider* one = slider(channel)) one->isAwaited = isAwaited;
 }
 
-void VolumeSliders::confirmed(Integer channel, Integer volume, std::uint32_t answered) {
-    if (Slider* one = slider(channel)) {
-        one->confirmed = volume;
-        if (one->awaited && answered >= *one->awaited) one->awaited.reset();
-    }
+void VolumeSliders::confirmed(Integer channel, Integer volume) {
+    if (Slider* one = slider(channel)) one->confirmed = volume;
 }
 
-void VolumeSliders::giveUp() {
-    for (Slider& one : sliders_) one.awaited.reset();
+bool VolumeSliders::isAway(Integer channel) const {
+    const Slider* one = entry(sliders_, channel);
+    return one != nullptr && one->shown != one->confirmed;
 }
 
 void VolumeSliders::forgetAll() { sliders_.fill({}); }
@@ -30,7 +30,7 @@ void VolumeSliders::settle() {
 
 void VolumeSliders::settle(Integer channel, Slider& slider) {
     const bool isInPlace = !slider.confirmed || slider.shown == slider.confirmed;
-    if (isInPlace || slider.awaited) return;
+    if (isInPlace || slider.isAwaited) return;
     if (bool(panel_.VolumeSliderButtonDown(channel))) return;
     panel_.VolumeSlider(channel, *slider.confirmed);
     slider.shown = slider.confirmed;

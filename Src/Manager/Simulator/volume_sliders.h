@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 
 #include "Orvo/core/interface.h"
@@ -20,28 +19,32 @@ public:
 
     /// A person moved a slider to where this volume is.
     void moved(Integer channel, Integer volume);
-    /// The amplifier was asked for it by the request of this number.
-    void asked(Integer channel, std::uint32_t request);
-    /// The amplifier's volume, after it has answered all requests up to this number.
-    void confirmed(Integer channel, Integer volume, std::uint32_t answered);
-    /// No request will be answered any more.
-    void giveUp();
+    /// The amplifier was asked for it.
+    void asked(Integer channel) { await(channel, true); }
+    /// The latest request was answered, or never will be.
+    void ended(Integer channel) { await(channel, false); }
+    /// The amplifier's volume.
+    void confirmed(Integer channel, Integer volume);
     /// The amplifier is another one, or the panel may show anything.
     void forgetAll();
 
     /// Moves what may be moved; to be called again and again, as a slider is let go without word.
     void settle();
 
+    /// Whether a slider is elsewhere than where the amplifier says that it belongs.
+    [[nodiscard]] bool isAway(Integer channel) const;
+
 private:
     struct Slider {
         std::optional<Integer> shown;
         std::optional<Integer> confirmed;
-        std::optional<std::uint32_t> awaited;
+        bool isAwaited = false;
     };
 
     static constexpr int kChannels = 4;
 
     Slider* slider(Integer channel);
+    void await(Integer channel, bool isAwaited);
     void settle(Integer channel, Slider& slider);
 
     MarvaneAssistantInterface& panel_;

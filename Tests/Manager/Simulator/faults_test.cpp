@@ -105,6 +105,24 @@ TEST_F(HostTest, LosesWhatWasOnItsWayWithTheLink) {
     EXPECT_FALSE(isLit("Shape16"));
 }
 
+TEST_F(HostTest, GivesUpWhatABreakOfTheLinkSwallowedThatNobodyNoticed) {
+    run();
+    constexpr Integer kMoves[] = {20, 25};
+    for (const auto* button : {"chkOnOff12", "Command12", "cmdGo12"}) person_.click(id(button));
+    for (Integer position : kMoves) person_.slide(id("ZelvinSlider1"), position);
+    host_->set(Fault::linkLoss, true);
+    pass(50);
+    host_->set(Fault::linkLoss, false);
+    pass(1000);
+    EXPECT_FALSE(hasLogged("Link lost"));
+    EXPECT_EQ(logged("No answer: "), 4);
+    EXPECT_TRUE(isChecked("chkOnOff12"));
+    EXPECT_EQ(position("ZelvinSlider1"), 18);
+    host_->set(Fault::mainsFailure, true);
+    pass(500);
+    EXPECT_FALSE(isLit("shpOnOff"));
+}
+
 TEST_F(HostTest, LeavesTheTestTemperatureAloneWithoutALink) {
     run();
     person_.slide(id("ZelvinSlider3"), 40);

@@ -74,6 +74,7 @@ TEST_F(HostTest, PutsASliderBackThatWasMovedWithoutALink) {
     pass(1000);
     person_.slide(id("ZelvinSlider2"), 25);
     pass(20);
+    EXPECT_EQ(logged("Not connected"), 1);
     for (const auto* slider : {"ZelvinSlider1", "ZelvinSlider2"}) EXPECT_EQ(position(slider), 18);
 }
 
