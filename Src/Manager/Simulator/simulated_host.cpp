@@ -71,9 +71,8 @@ void SimulatedHost::SetTemp(Integer& intChannel, Integer& intValue) {
 
 void SimulatedHost::WaveForm(Integer& intNChannel, Integer& intTypeWaveForm, Integer& intPosNeg) {
     if (intTypeWaveForm < 0 || intTypeWaveForm >= kSignalCount) return;
-    const StartGenerator request{intNChannel, static_cast<Signal>(intTypeWaveForm),
-                                 static_cast<Input>(intPosNeg)};
-    if (ask(request)) tell(describe(request));
+    ask(StartGenerator{intNChannel, static_cast<Signal>(intTypeWaveForm),
+                       static_cast<Input>(intPosNeg)});
 }
 
 void SimulatedHost::GeneralInformations(Integer& /*intIdDevice*/, String& strInformations,
@@ -117,6 +116,7 @@ void SimulatedHost::hearAnswer(std::uint32_t number) {
 void SimulatedHost::confirm(const Command& command) {
     if (std::holds_alternative<SwitchPower>(command)) mirror_.repeat(Item::power);
     if (const auto* volume = std::get_if<SetVolume>(&command)) sliders_.ended(volume->channel);
+    if (std::holds_alternative<StartGenerator>(command)) tell(describe(command));
 }
 
 void SimulatedHost::giveUp(const std::vector<Request>& lost) {

@@ -20,7 +20,7 @@ namespace Orvo::Simulator {
 /// It knows the panel's public interface and nothing else, and may serve as the example of how a
 /// host treats it:
 /// - what a person asks for goes to the amplifier, and the panel changes when the amplifier has
-///   confirmed it;
+///   confirmed it, as does what the log says of it;
 /// - only what changed is shown, and everything once more after a reconnect;
 /// - a slider isn't written while a person holds it, nor while a later move is unanswered;
 /// - a control that changes by itself when it is worked is put back if nothing comes of it;

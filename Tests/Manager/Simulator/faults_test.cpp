@@ -116,6 +116,7 @@ TEST_F(HostTest, GivesUpWhatABreakOfTheLinkSwallowedThatNobodyNoticed) {
     pass(1000);
     EXPECT_FALSE(hasLogged("Link lost"));
     EXPECT_EQ(logged("No answer: "), 4);
+    EXPECT_EQ(logged("to the positive input"), 1);
     EXPECT_TRUE(isChecked("chkOnOff12"));
     EXPECT_EQ(position("ZelvinSlider1"), 18);
     host_->set(Fault::mainsFailure, true);
