@@ -190,6 +190,7 @@ void SimulatedHost::connect() {
 // What the panel shows of the amplifier stays, as the last that is known of it.
 void SimulatedHost::disconnect() {
     isConnected_ = false;
+    if (quickTest_.isRunning()) tell("Quick test broken off");
     quickTest_.abandon();
     giveUp(awaited_.takeAll());
     panel_.Connected(false);

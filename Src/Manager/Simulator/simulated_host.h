@@ -46,7 +46,8 @@ public:
     [[nodiscard]] bool has(Fault fault) const { return link_.has(fault); }
 
     /// Begins the quick test, or begins it again: a row every 400 ms, by what the amplifier last
-    /// reported. Without a connection there is only a line in the log.
+    /// reported. Without a connection there is only a line in the log, and one when the connection
+    /// is lost before the last row.
     void runQuickTest();
 
     [[nodiscard]] bool isConnected() const { return isConnected_; }

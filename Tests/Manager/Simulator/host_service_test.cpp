@@ -38,11 +38,14 @@ TEST_F(HostTest, RunsTheQuickTestRowByRow) {
     host_->runQuickTest();
     pass(3000);
     EXPECT_EQ(rows(), "PFFFFF");
+    EXPECT_FALSE(hasLogged("broken off"));
+    host_->runQuickTest();
     host_->set(Fault::linkLoss, true);
     pass(1000);
+    EXPECT_TRUE(hasLogged("Quick test broken off"));
     host_->runQuickTest();
     pass(3000);
-    EXPECT_EQ(rows(), "PFFFFF");
+    EXPECT_EQ(rows(), "P----.");
 }
 
 TEST_F(HostTest, WritesTheInternalDataToTheLog) {
