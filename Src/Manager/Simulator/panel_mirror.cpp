@@ -39,6 +39,14 @@ constexpr std::array<Member, 14> kMembers{{
     {Item::negativeAux, valueOf<&Panel::VNAux>},
 }};
 
+constexpr std::array<Integer, 2> kSecondPairChannels{3, 4};
+constexpr Integer kSecondPair = 2;
+
+constexpr std::array kClearedByChannel{Item::protection, Item::mute, Item::signal};
+constexpr std::array kClearedByPair{Item::clock,         Item::ready,         Item::temperature,
+                                    Item::positivePower, Item::negativePower, Item::positiveAux,
+                                    Item::negativeAux};
+
 }  // namespace
 
 PanelMirror::Effect PanelMirror::show(const Reading& reading) {
@@ -58,6 +66,15 @@ void PanelMirror::show(const Trace& trace) {
     if (!isNew && shown->second == trace.samples) return;
     shown->second = trace.samples;
     panel_.DisegnaFormaDOnda(trace.channel, trace.samples);
+}
+
+void PanelMirror::clearSecondPair() {
+    for (const Integer channel : kSecondPairChannels) {
+        for (const Item item : kClearedByChannel) show({item, channel, 0});
+        traces_.erase(channel);
+        panel_.DisegnaAssi(channel);
+    }
+    for (const Item item : kClearedByPair) show({item, kSecondPair, 0});
 }
 
 void PanelMirror::repeat(Item item) {

@@ -21,6 +21,9 @@ public:
     Effect show(const Reading& reading);
     /// The same for a frame of a scope.
     void show(const Trace& trace);
+    /// Nothing is lit, measured or drawn any more of a second pair that is missing. Its volumes
+    /// stay: there is none that means nothing.
+    void clearSecondPair();
 
     /// The next readings of this item are shown even if nothing has changed, as the panel may have
     /// changed by itself.

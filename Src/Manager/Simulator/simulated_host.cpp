@@ -168,8 +168,10 @@ void SimulatedHost::showStatus() {
 void SimulatedHost::show(const Reading& reading) {
     const auto effect = mirror_.show(reading);
     if (effect == PanelMirror::Effect::none) return;
-    if (reading.item == Item::secondPair) mirror_.repeat(Item::mute);
     if (effect == PanelMirror::Effect::changed) log_.tell(now_, reading);
+    if (reading.item != Item::secondPair) return;
+    mirror_.repeat(Item::mute);
+    if (reading.value == 0) mirror_.clearSecondPair();
 }
 
 void SimulatedHost::take(const Page& page) {

@@ -161,8 +161,11 @@ TEST_F(HostTest, DoesWithoutASecondPair) {
     for (const auto* button : {"Command12", "Command11"}) person_.click(id(button));
     pass(300);
     EXPECT_FALSE(isLit("Shape34"));
+    host_->set(Fault::shortOnChannel3, true);
+    pass(300);
     host_->set(Fault::secondPairMissing, true);
     pass(300);
+    for (const auto* lamp : {"Shape13", "Shape28", "Shape12"}) EXPECT_FALSE(isLit(lamp)) << lamp;
     const auto hasTab = [this] {
         return store_.get<Runtime::StoredTabs>(id("SSTab1")).state().enabled[2];
     };
@@ -178,6 +181,7 @@ TEST_F(HostTest, DoesWithoutASecondPair) {
     host_->set(Fault::secondPairMissing, false);
     pass(300);
     EXPECT_TRUE(hasTab());
+    EXPECT_TRUE(isLit("Shape13"));
     EXPECT_TRUE(hasLogged("Channels 3 and 4 missing"));
     EXPECT_TRUE(hasLogged("Channels 3 and 4 present"));
 }
