@@ -105,7 +105,7 @@ void ManagerWindow::endHourglass(std::chrono::milliseconds time) {
     Runtime::Store& store = panel_->store();
     hourglass_ = store.pointer() == Widgets::Pointer::standard ? 0ms : hourglass_ + time;
     if (hourglass_ == 0ms) return;
-    const auto silence = station_.situation().silence;
+    const auto silence = station_.situation().silence.value_or(hourglass_);
     const bool isAwaited = station_.isConnected() && silence >= hourglass_ && silence < kStaleAfter;
     if (isAwaited || isReplaying()) return;
     store.screen().setPointer(Widgets::Pointer::standard);

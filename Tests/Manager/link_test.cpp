@@ -145,14 +145,17 @@ TEST_F(LinkTest, WaitsForWhatIsNotThereYet) {
     connectLink();
     station_.advance(25ms);
     EXPECT_TRUE(station_.situation().connectedTo.ends_with("(not there)"));
+    EXPECT_FALSE(station_.situation().silence);
     listenOnSocket();
     station_.advance(1s);
     pickUp();
     EXPECT_EQ(ask("get PowerOn\n"), "= 0\n");
+    EXPECT_TRUE(station_.situation().silence);
     std::ofstream(directory_.path() / "plain") << "let PowerOn true\n";
     station_.connectLink({directory_.path() / "plain"});
     station_.advance(25ms);
     EXPECT_TRUE(station_.situation().connectedTo.ends_with("(no serial device, pipe or socket)"));
+    EXPECT_TRUE(station_.situation().showsOldValues) << "the socket's";
 }
 
 TEST_F(LinkTest, OnlyTheHostsCommandsAreTaken) {

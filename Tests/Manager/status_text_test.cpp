@@ -9,11 +9,12 @@ using namespace std::chrono_literals;
 
 TEST(StatusText, TellsHowOldTheLastWordIs) {
     struct Row {
-        std::chrono::milliseconds silence;
-        const char* lastWord;
-        bool isStale;
+        std::optional<std::chrono::milliseconds> silence;
+        const char* lastWord = "";
+        bool isStale = false;
     };
     const Row rows[] = {
+        {std::nullopt, "No word yet", false},
         {0ms, "Last word just now", false},
         {999ms, "Last word just now", false},
         {1000ms, "Last word 1 s ago", false},
@@ -37,6 +38,8 @@ TEST(StatusText, TellsTheLinkAndWhatIsConnected) {
     const auto old = statusText({.connectedTo = {}, .showsOldValues = true});
     EXPECT_EQ(old.connection + ", " + old.lastWord, "Nothing connected, Old values");
     EXPECT_TRUE(old.isStale);
+    const auto silent = statusText({.connectedTo = "Amplifier", .showsOldValues = true});
+    EXPECT_EQ(silent.lastWord, "No word yet: old values");
 }
 
 }  // namespace

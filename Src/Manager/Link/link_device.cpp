@@ -41,7 +41,7 @@ std::string LinkDevice::name() const {
 
 // A handler that waits lets time pass within time that passes.
 void LinkDevice::advance(std::chrono::milliseconds elapsed) {
-    silence_ += elapsed;
+    if (silence_) *silence_ += elapsed;
     if (isListening_) return;
     untilTry_ -= elapsed;
     if (port_ == nullptr && untilTry_ <= 0ms) tryToOpen();

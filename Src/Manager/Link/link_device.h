@@ -34,7 +34,9 @@ public:
     [[nodiscard]] std::string name() const override;
     void advance(std::chrono::milliseconds elapsed) override;
     void panelRenewed() override { bench_.connect(); }
-    [[nodiscard]] std::chrono::milliseconds sinceLastWord() const override { return silence_; }
+    [[nodiscard]] std::optional<std::chrono::milliseconds> sinceLastWord() const override {
+        return silence_;
+    }
 
 private:
     void tryToOpen();
@@ -48,7 +50,7 @@ private:
     LinkBench bench_;
     MarvaneAssistantInterface& calls_;
     const LinkAddress address_;
-    std::chrono::milliseconds silence_{0};
+    std::optional<std::chrono::milliseconds> silence_;  // none before the first word
     std::chrono::milliseconds untilTry_{0};
     std::string trouble_ = "not there";  // why the link is not open, when it isn't
 

@@ -26,7 +26,9 @@ public:
     [[nodiscard]] std::string name() const override { return "Replay of " + name_; }
     void advance(std::chrono::milliseconds elapsed) override;
     void panelRenewed() override { bench_.takePanel(); }
-    [[nodiscard]] std::chrono::milliseconds sinceLastWord() const override { return silence_; }
+    [[nodiscard]] std::optional<std::chrono::milliseconds> sinceLastWord() const override {
+        return silence_;
+    }
 
     [[nodiscard]] bool isOver() const { return isOver_; }
     /// What was not understood, with its place; it ends the replay.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <string>
 
 namespace Orvo::Manager {
@@ -17,8 +18,8 @@ public:
     /// The device asked for a fresh panel, and there is one in the place of the old one; it raises
     /// its events to nobody yet.
     virtual void panelRenewed() {}
-    /// The time since the last word from the amplifier, or since the beginning.
-    [[nodiscard]] virtual std::chrono::milliseconds sinceLastWord() const = 0;
+    /// The time since the last word from the amplifier; none before the first.
+    [[nodiscard]] virtual std::optional<std::chrono::milliseconds> sinceLastWord() const = 0;
 };
 
 }  // namespace Orvo::Manager

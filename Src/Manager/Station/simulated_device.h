@@ -16,7 +16,8 @@ public:
         return "Simulated amplifier (seed " + std::to_string(seed_) + ")";
     }
     void advance(std::chrono::milliseconds elapsed) override { host_.advance(elapsed); }
-    [[nodiscard]] std::chrono::milliseconds sinceLastWord() const override {
+    /// It speaks from the beginning.
+    [[nodiscard]] std::optional<std::chrono::milliseconds> sinceLastWord() const override {
         return host_.sinceLastWord();
     }
 

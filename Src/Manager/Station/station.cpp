@@ -39,8 +39,8 @@ void Station::disconnect() {
 }
 
 void Station::plugIn(std::unique_ptr<Device> device) {
+    showsOldValues_ |= isConnected() && device_->sinceLastWord();
     device_ = std::move(device);
-    wasConnected_ |= isConnected();
     hearAfterDevice();
 }
 
@@ -60,6 +60,7 @@ void Station::renewPanel() {
     conversation_.startAnew();
     traces_ = {};
     isLinkUp_ = false;
+    showsOldValues_ = false;
     hearBeforeDevice();
     if (isConnected()) device_->panelRenewed();
     hearAfterDevice();
@@ -83,9 +84,10 @@ void Station::advance(Milliseconds elapsed) {
 }
 
 Situation Station::situation() const {
-    if (!isConnected()) return {.connectedTo = {}, .showsOldValues = wasConnected_};
-    return {
-        .connectedTo = device_->name(), .isLinkUp = isLinkUp_, .silence = device_->sinceLastWord()};
+    return {.connectedTo = isConnected() ? device_->name() : "",
+            .isLinkUp = isLinkUp_,
+            .silence = isConnected() ? device_->sinceLastWord() : std::nullopt,
+            .showsOldValues = showsOldValues_};
 }
 
 void Station::called(const Member& member, std::span<const Value> arguments) {

@@ -75,7 +75,7 @@ private:
     std::function<void()> renew_;
     DeviceMaker makeDevice_;
     bool isLinkUp_ = false;
-    bool wasConnected_ = false;
+    bool showsOldValues_ = false;
     Milliseconds now_{0};
 
     // An event goes to the sinks in this order: what the device does lies between the other two.

@@ -9,11 +9,17 @@ std::string twoDigits(std::int64_t number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
-std::string lastWord(std::chrono::milliseconds silence) {
+bool isStale(const Situation& situation) {
+    return situation.silence ? *situation.silence >= kStaleAfter : situation.showsOldValues;
+}
+
+std::string lastWord(const Situation& situation) {
     using namespace std::chrono_literals;
-    if (silence >= kStaleAfter) return "No word for " + inWords(silence) + ": old values";
-    if (silence < 1s) return "Last word just now";
-    return "Last word " + inWords(silence) + " ago";
+    const std::string oldValues = isStale(situation) ? ": old values" : "";
+    if (!situation.silence) return "No word yet" + oldValues;
+    const std::string silence = inWords(*situation.silence);
+    if (!oldValues.empty()) return "No word for " + silence + oldValues;
+    return *situation.silence < 1s ? "Last word just now" : "Last word " + silence + " ago";
 }
 
 }  // namespace
@@ -35,8 +41,8 @@ StatusText statusText(const Situation& situation) {
     }
     return {.connection = situation.connectedTo,
             .link = situation.isLinkUp ? "Link up" : "Link down",
-            .lastWord = lastWord(situation.silence),
-            .isStale = situation.silence >= kStaleAfter};
+            .lastWord = lastWord(situation),
+            .isStale = isStale(situation)};
 }
 
 }  // namespace Orvo::Manager

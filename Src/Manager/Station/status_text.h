@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <string>
 
 namespace Orvo::Manager {
@@ -9,15 +10,16 @@ namespace Orvo::Manager {
 struct Situation {
     std::string connectedTo;  ///< empty: nothing is connected
     bool isLinkUp = false;
-    std::chrono::milliseconds silence{0};  ///< since the last word, or since it was connected
-    bool showsOldValues = false;           ///< nothing is connected, but something was
+    /// Since the last word, if there was one.
+    std::optional<std::chrono::milliseconds> silence = std::nullopt;
+    bool showsOldValues = false;  ///< what was connected before has left values
 };
 
 /// The situation in words (UTF-8).
 struct StatusText {
     std::string connection;
     std::string link;
-    std::string lastWord;  ///< empty when there was never one
+    std::string lastWord;  ///< empty when there is nothing to tell
     bool isStale = false;  ///< what the panel shows is old, and must not be taken for live
 };
 
