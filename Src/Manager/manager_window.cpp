@@ -72,7 +72,6 @@ void ManagerWindow::layOut() {
     setCentralWidget(zoomArea_);
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addPermanentWidget(statusLine_, 1);
-    statusBar()->setMinimumWidth(statusLine_->minimumWidth());
     addDockWidget(Qt::RightDockWidgetArea, events_);
     events_->hide();
     connect(events_, &QDockWidget::topLevelChanged, this, &ManagerWindow::adaptSize);
@@ -129,6 +128,8 @@ void ManagerWindow::refresh() {
 void ManagerWindow::showSituation() {
     const StatusText text = statusText(station_.situation());
     statusLine_->showText(text);
+    // A status bar doesn't hand on by itself what a line in it needs.
+    statusBar()->setMinimumWidth(statusLine_->minimumSizeHint().width());
     const QString title = QString::fromStdString(text.connection) + " - Marvane Manager";
     const QString recording = isRecording() ? "Recording: " : "";
     setWindowTitle((text.isStale ? "Old values: " : "") + recording + title);

@@ -11,12 +11,6 @@ using namespace std::chrono_literals;
 
 constexpr auto kMessageStays = 8s;
 
-// What has to fit, less the message.
-constexpr auto kWidest =
-    "Link down Simulated amplifier (seed 12345678) No word for 59 min 59 s: old values Read-only "
-    "100 %";
-constexpr int kLabels = 6;
-
 // Readable in a dark and in a light desktop.
 constexpr auto kWarning =
     "QLabel { background: #ffcc33; color: black; font-weight: bold; border-radius: 3px; }";
@@ -38,17 +32,16 @@ StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
     row->setContentsMargins(6, 0, 6, 0);
     row->setSpacing(10);
     link_ = add<AlertLabel>("Link");
-    connection_ = add<QLabel>("Connected to");
+    connection_ = add<ElidedLabel>("Connected to");
     lastWord_ = add<AlertLabel>("Last word from the amplifier");
-    message_ = add<QLabel>("Message");
-    message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    message_ = add<ElidedLabel>("Message");
     row->setStretchFactor(message_, 1);
-    mode_ = add<QLabel>("Mode");
+    mode_ = add<ElidedLabel>("Mode");
     mode_->hide();
     zoom_ = add<QLabel>("Zoom");
-    setMinimumWidth(fontMetrics().horizontalAdvance(kWidest) + kLabels * row->spacing());
     messageEnds_.setSingleShot(true);
-    QObject::connect(&messageEnds_, &QTimer::timeout, message_, &QLabel::clear);
+    QObject::connect(&messageEnds_, &QTimer::timeout, message_,
+                     [this] { message_->setFullText({}); });
 }
 
 void StatusLine::showText(const StatusText& text) {
@@ -56,7 +49,7 @@ void StatusLine::showText(const StatusText& text) {
     const bool isLinkNews = !link_->text().isEmpty() && link_->text() != link;
     link_->setText(link);
     if (isLinkNews) link_->alert();
-    connection_->setText(QString::fromStdString(text.connection));
+    connection_->setFullText(QString::fromStdString(text.connection));
     const QString lastWord = QString::fromStdString(text.lastWord);
     lastWord_->setText(text.isStale ? " \u26a0 " + lastWord + " " : lastWord);
     lastWord_->setStyleSheet(text.isStale ? kWarning : "");
@@ -64,13 +57,12 @@ void StatusLine::showText(const StatusText& text) {
 }
 
 void StatusLine::showMode(const QString& mode) {
-    mode_->setText(mode);
+    mode_->setFullText(mode);
     mode_->setVisible(!mode.isEmpty());
 }
 
 void StatusLine::say(const QString& message) {
-    message_->setText(message);
-    message_->setToolTip(message);
+    message_->setFullText(message);
     messageEnds_.start(kMessageStays);
 }
 

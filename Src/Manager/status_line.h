@@ -6,11 +6,13 @@
 
 #include "Manager/Station/status_text.h"
 #include "Manager/alert_label.h"
+#include "Manager/elided_label.h"
 
 namespace Orvo::Manager {
 
 /// The line below the panel: link, what is connected, how old its last word is, and for a few
-/// seconds what has just been done.
+/// seconds what has just been done. Where it is narrow, the link, the last word and the zoom stay
+/// whole.
 class StatusLine final : public QWidget {
 public:
     explicit StatusLine(QWidget* parent = nullptr);
@@ -21,16 +23,19 @@ public:
     void showZoom(int percent) { zoom_->setText(QString::number(percent) + " %"); }
     void say(const QString& message);
 
+    /// As narrow as it can be: no text widens the window that has room for it.
+    [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
+
 private:
     template <class Label>
     Label* add(const QString& name);
 
     AlertLabel* link_;
-    QLabel* connection_;
+    ElidedLabel* connection_;
     AlertLabel* lastWord_;
     bool isStale_ = false;
-    QLabel* message_;
-    QLabel* mode_;
+    ElidedLabel* message_;
+    ElidedLabel* mode_;
     QLabel* zoom_;
     QTimer messageEnds_;
 };

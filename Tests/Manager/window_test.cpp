@@ -140,6 +140,12 @@ TEST_F(WindowTest, TheZoomKeysGoFromStopToStop) {
     EXPECT_EQ(nextSmaller(kSmallestZoom), kSmallestZoom);
 }
 
+TEST_F(WindowTest, NoTextWidensASmallWindow) {
+    window_.connectLink(QString("/dev/nowhere/with/a/long/name"));
+    window_.setZoom(kSmallestZoom);
+    EXPECT_EQ(window_.width(), window_.panelWidget().sizeHint().width());
+}
+
 TEST_F(WindowTest, FullScreenFillsTheScreenAndGivesTheZoomBack) {
     window_.setZoom(75);
     window_.setFullScreen(true);
