@@ -147,7 +147,7 @@ void ManagerWindow::adaptSize() {
     if (isFullScreen() || isMaximized()) return;
     layout()->activate();
     const QSize frame = frameGeometry().size() - size();
-    resize(sizeHint().boundedTo(screen()->availableSize() - frame));
+    resize(zoomArea_->bounded(sizeHint(), screen()->availableSize() - frame));
 }
 
 void ManagerWindow::closeEvent(QCloseEvent* event) {

@@ -4,6 +4,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 #include "Manager/zoom.h"
 
@@ -38,6 +39,15 @@ void ZoomArea::setFitting(bool isFitting) {
 }
 
 QSize ZoomArea::sizeHint() const { return panel_.sizeHint(); }
+
+QSize ZoomArea::bounded(const QSize& window, const QSize& room) const {
+    QSize wanted = window;
+    if (window.height() > room.height()) wanted.rwidth() += verticalScrollBar()->sizeHint().width();
+    if (wanted.width() > room.width()) {
+        wanted.rheight() += horizontalScrollBar()->sizeHint().height();
+    }
+    return wanted.boundedTo(room);
+}
 
 void ZoomArea::paintEvent(QPaintEvent* event) {
     QPainter(viewport()).fillRect(event->rect(), QColor(kSurround));

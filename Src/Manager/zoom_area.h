@@ -23,6 +23,10 @@ public:
     /// The panel without scroll bars.
     [[nodiscard]] QSize sizeHint() const override;
 
+    /// How large a window as large as this has to be where there is only so much room: beside a
+    /// scroll bar for one direction, the other still needs all of its own.
+    [[nodiscard]] QSize bounded(const QSize& window, const QSize& room) const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
