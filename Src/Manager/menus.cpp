@@ -5,6 +5,7 @@
 #include "Manager/manager_window.h"
 #include "Manager/zoom.h"
 #include "Orvo/layout/common_tab.h"
+#include "Runtime/Store/store.h"
 
 // The keys keep clear of the panel's own: Alt with a letter or a digit, Ctrl+Tab, and in its lists
 // what they type there, Ctrl+R above all.
@@ -113,8 +114,8 @@ void Menus::addViewMenu() {
     int tab = 1;
     for (const auto caption : Layout::kTabCaptions) {
         const QString text = QString::fromUtf16(caption.data(), qsizetype(caption.size()));
-        add(menu, QString("&%1 ").arg(tab) + text, QString("Ctrl+%1").arg(tab),
-            [this, tab] { window_.selectTab(tab); });
+        tabs_ += add(menu, QString("&%1 ").arg(tab) + text, QString("Ctrl+%1").arg(tab),
+                     [this, tab] { window_.selectTab(tab); });
         ++tab;
     }
     menu->addSeparator();
@@ -167,8 +168,16 @@ void Menus::refreshConnection() {
     nothing_->setChecked(!station.isConnected());
 }
 
+void Menus::refreshTabs() {
+    const auto& store = window_.panelWidget().store();
+    const auto& tabs = store.get<Runtime::StoredTabs>(Layout::kTabs.id);
+    int tab = 0;
+    for (QAction* action : tabs_) action->setEnabled(tabs.isTabEnabled(tab++));
+}
+
 void Menus::refresh() {
     refreshConnection();
+    refreshTabs();
     Station& station = window_.station();
     const auto* simulator = station.simulator();
     quickTest_->setEnabled(simulator != nullptr);

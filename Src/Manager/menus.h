@@ -44,12 +44,14 @@ private:
     void addEvents(QMenu* menu);
     void addHelpMenu();
     void refreshConnection();
+    void refreshTabs();
 
     ManagerWindow& window_;
     QAction* recording_ = nullptr;
     QAction* replay_ = nullptr;
     QAction* stopReplay_ = nullptr;
     QActionGroup connection_{this};
+    QList<QAction*> tabs_;
     QAction* simulator_ = nullptr;
     QAction* link_ = nullptr;
     QAction* nothing_ = nullptr;

@@ -96,6 +96,14 @@ TEST_F(WindowTest, MenusFollowWhatIsConnected) {
     EXPECT_FALSE(action("Ctrl+F, 3")->isChecked());
 }
 
+TEST_F(WindowTest, ATabThatIsMissingCannotBeCommanded) {
+    for (const bool isThere : {false, true}) {
+        window_.panelWidget().panel().AbilitaSlave(isThere);
+        window_.refresh();
+        EXPECT_EQ(action("Ctrl+3")->isEnabled(), isThere);
+    }
+}
+
 TEST_F(WindowTest, ReadOnlyModeIsThePanels) {
     action("F2")->trigger();
     EXPECT_EQ(window_.panelWidget().panel().ReadOnly(), Boolean(true));
