@@ -66,4 +66,8 @@ void StatusLine::say(const QString& message) {
     messageEnds_.start(kMessageStays);
 }
 
+void StatusLine::unsay(const QString& message) {
+    if (message_->text() == message) message_->setFullText({});
+}
+
 }  // namespace Orvo::Manager

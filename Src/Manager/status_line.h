@@ -22,6 +22,8 @@ public:
     void showMode(const QString& mode);
     void showZoom(int percent) { zoom_->setText(QString::number(percent) + " %"); }
     void say(const QString& message);
+    /// Takes the message back, if it is still there.
+    void unsay(const QString& message);
 
     /// As narrow as it can be: no text widens the window that has room for it.
     [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }

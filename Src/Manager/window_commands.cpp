@@ -14,6 +14,7 @@
 namespace Orvo::Manager {
 namespace {
 
+constexpr auto kFullScreenHint = "F11 leaves full screen";
 constexpr auto kMessageLog = Layout::listRef("List1");
 
 QString channelName(Integer channel) { return "channel-" + QString::number(channel); }
@@ -87,9 +88,13 @@ void ManagerWindow::setFullScreen(bool isFullScreen) {
     if (isFullScreen) zoomBefore_ = zoomArea_->zoom();
     menuBar()->setVisible(!isFullScreen);
     setWindowState(windowState() ^ Qt::WindowFullScreen);
-    if (!isFullScreen) return setZoom(zoomBefore_);
-    zoomArea_->setFitting(true);
-    statusLine_->say("F11 leaves full screen");
+    if (isFullScreen) {
+        zoomArea_->setFitting(true);
+        statusLine_->say(kFullScreenHint);
+    } else {
+        setZoom(zoomBefore_);
+        statusLine_->unsay(kFullScreenHint);
+    }
 }
 
 void ManagerWindow::showEvents(bool isShown) {

@@ -159,7 +159,9 @@ TEST_F(WindowTest, FullScreenFillsTheScreenAndGivesTheZoomBack) {
     window_.setFullScreen(true);
     QApplication::processEvents();
     EXPECT_GT(window_.panelWidget().zoom(), 1);
+    EXPECT_TRUE(label("Message").contains("F11"));
     window_.setFullScreen(false);
+    EXPECT_EQ(label("Message"), "");
     EXPECT_EQ(window_.panelWidget().zoom(), 0.75);
 }
 
