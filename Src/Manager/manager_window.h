@@ -56,7 +56,7 @@ public:
     void connectNothing();
 
     void askForRecording();
-    /// From a fresh panel on, to which what is connected is connected anew.
+    /// From a fresh panel on, to which what is connected is connected anew; the tab in front stays.
     void startRecording(const QString& file);
     void stopRecording();
     [[nodiscard]] bool isRecording() const { return recorder_ != nullptr; }
@@ -80,6 +80,7 @@ public:
 
     /// Tabs are counted from 1. One that is disabled doesn't come to the front.
     void selectTab(int tab);
+    [[nodiscard]] int tab() const;
     void setZoom(int percent);
     void zoomIn();
     void zoomOut();

@@ -65,7 +65,8 @@ private:
         "keep-going", "Goes on after a command of the script that was not understood."};
     const QCommandLineOption record_{
         "record",
-        "Writes to the file, as panel script, what the amplifier and the person do to the panel.",
+        "Writes to the file, as panel script, what the amplifier and the person do to the panel. "
+        "Traces on all four scopes make about 250 MB an hour.",
         "FILE"};
     const QCommandLineOption recordAnswers_{
         "record-answers",

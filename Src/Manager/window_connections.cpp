@@ -90,12 +90,14 @@ void ManagerWindow::startRecording(const QString& file) {
     stopReplay();
     stopRecording();
     const bool wasReadOnly = isReadOnly();
+    const int tabInFront = tab();
     recorder_ = makeRecorder(file);
     sessionDirectory_ = QFileInfo(file).absolutePath();
     station_.listenWith(recorder_.get());
     station_.startAnew();
     if (wasReadOnly && !isReadOnly()) setReadOnly(true);
-    statusLine_->say("Recording to " + QFileInfo(file).fileName());
+    selectTab(tabInFront);
+    statusLine_->say("Recording from a fresh start to " + QFileInfo(file).fileName());
 }
 
 void ManagerWindow::stopRecording() {

@@ -133,10 +133,12 @@ TEST_F(SessionTest, WhatCannotBeRecordedOrReplayedIsToldAndChangesNothing) {
     EXPECT_EQ(&store(), before);
 }
 
-TEST_F(SessionTest, ARecordingStaysReadOnly) {
+TEST_F(SessionTest, ARecordingStaysReadOnlyAndOnItsTab) {
     window_.setReadOnly(true);
+    window_.selectTab(3);
     window_.startRecording(QString::fromStdString(file_));
     EXPECT_TRUE(window_.isReadOnly());
+    EXPECT_EQ(window_.tab(), 3);
     window_.refresh();
     EXPECT_TRUE(window_.windowTitle().contains("Recording: "));
 }
