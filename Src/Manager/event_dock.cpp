@@ -66,8 +66,13 @@ void EventDock::showEvent(QShowEvent* event) {
     showNewest();
 }
 
+bool EventDock::showsNewest() const {
+    return lines_->verticalScrollBar()->value() == lines_->verticalScrollBar()->maximum();
+}
+
 void EventDock::showNewest() {
     lines_->verticalScrollBar()->setValue(lines_->verticalScrollBar()->maximum());
+    lines_->horizontalScrollBar()->setValue(0);
 }
 
 void EventDock::append() {
@@ -77,7 +82,9 @@ void EventDock::append() {
     for (auto line = lines.end() - std::ptrdiff_t(fresh); line != lines.end(); ++line) {
         texts += QString::fromStdString(*line);
     }
+    const bool wasNewestShown = showsNewest();
     if (!texts.isEmpty()) lines_->appendPlainText(texts.join('\n'));
+    if (wasNewestShown) showNewest();
     shown_ = log_.added();
 }
 

@@ -7,8 +7,8 @@
 
 namespace Orvo::Manager {
 
-/// The event view: the log's lines beside the panel, the newest in sight unless a person has
-/// scrolled up.
+/// The event view: the log's lines beside the panel, the newest in sight from its first letter on
+/// unless a person has scrolled up.
 class EventDock final : public QDockWidget {
 public:
     /// The actions stand above the lines.
@@ -23,6 +23,7 @@ protected:
 
 private:
     void append();
+    [[nodiscard]] bool showsNewest() const;
     void showNewest();
 
     const EventLog& log_;

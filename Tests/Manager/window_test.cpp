@@ -7,7 +7,9 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPointer>
+#include <QScrollBar>
 #include <QTimer>
 
 #include "Manager/file_saver.h"
@@ -119,7 +121,11 @@ TEST_F(WindowTest, TheEventViewShowsTheLastEventsAndIsBounded) {
         window_.panelWidget().store().input().click(Tests::id("Command12"));
         if (i % 777 == 0) window_.refresh();
     }
+    auto* sideways = window_.findChild<QPlainTextEdit*>()->horizontalScrollBar();
+    sideways->setRange(0, 99);
+    sideways->setValue(99);
     window_.refresh();
+    EXPECT_EQ(sideways->value(), 0) << "the newest lines show from their first letter on";
     window_.copyEvents();
     const QStringList lines = QApplication::clipboard()->text().split('\n');
     EXPECT_EQ(lines.size(), qsizetype(EventLog::kMostLines));
