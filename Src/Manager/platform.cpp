@@ -10,9 +10,11 @@ constexpr auto kVariable = "QT_QPA_PLATFORM";
 QtMessageHandler usualHandler = nullptr;  // NOLINT(*-avoid-non-const-global-variables)
 
 // Where there is no directory for what lives as long as a person is logged in, the toolkit makes
-// one, and says so; here that is nobody's concern.
+// one, and says so; offscreen it says that no window manager hears how small a window may become.
+// Here both are nobody's concern.
 void tell(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (text.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")) return;
+    if (text.endsWith("does not support propagateSizeHints()")) return;
     usualHandler(type, context, text);
 }
 
