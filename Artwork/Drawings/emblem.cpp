@@ -1,3 +1,5 @@
+#include <array>
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -39,7 +41,8 @@ void drawEmblem(QPainter& painter) {
     painter.drawRoundedRect(QRectF(3, 3, 58, 58), 11, 11);
     drawScreen(painter, {10, 11, 44, 29});
     painter.setPen(QPen(QColor(12, 14, 18), 1));
-    const QColor lamps[] = {{40, 240, 80}, {40, 240, 80}, {255, 210, 60}, {240, 50, 40}};
+    const auto lamps =
+        std::to_array<QColor>({{40, 240, 80}, {40, 240, 80}, {255, 210, 60}, {240, 50, 40}});
     double x = 15;
     for (const QColor& lamp : lamps) {
         painter.setBrush(lamp);
@@ -59,8 +62,8 @@ void drawToolbox(QPainter& painter) {
     fill(1, 1, 14, 13, {0, 0, 0});
     fill(2, 2, 12, 11, {128, 128, 128});
     fill(3, 3, 10, 6, {0, 0, 0});
-    const QPoint wave[] = {{3, 6}, {4, 5}, {5, 4},  {6, 4},  {7, 5},
-                           {8, 6}, {9, 7}, {10, 7}, {11, 6}, {12, 5}};
+    const auto wave = std::to_array<QPoint>(
+        {{3, 6}, {4, 5}, {5, 4}, {6, 4}, {7, 5}, {8, 6}, {9, 7}, {10, 7}, {11, 6}, {12, 5}});
     for (const QPoint& at : wave) fill(at.x(), at.y(), 1, 1, {0, 255, 0});
     fill(3, 10, 2, 2, {0, 255, 0});
     fill(7, 10, 2, 2, {255, 255, 0});

@@ -17,7 +17,7 @@ struct Button {
     QColor bottom;
     QColor gleam;
     QColor symbol;
-    double sunk;
+    double sunk = 0;
 };
 
 constexpr Button kUp{{98, 105, 117}, {62, 68, 78}, {132, 140, 153}, {188, 195, 206}, 0};

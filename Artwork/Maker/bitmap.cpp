@@ -1,6 +1,8 @@
 #include "Artwork/Maker/bitmap.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 
 #include "Artwork/Maker/bytes.h"
 
@@ -56,9 +58,10 @@ std::uint8_t nearest(QRgb colour, const QList<QRgb>& colours) {
 
 // Few levels make bands of a gradual light, unless neighbours share what lies between two levels.
 std::uint16_t dithered(QRgb colour, int x, int y) {
-    constexpr int kThresholds[4][4] = {
-        {0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}};
-    const auto level = [threshold = kThresholds[y % 4][x % 4]](int value, int highest) {
+    constexpr auto kThresholds =
+        std::to_array<int>({0, 8, 2, 10, 12, 4, 14, 6, 3, 11, 1, 9, 15, 7, 13, 5});
+    const int threshold = kThresholds[static_cast<std::size_t>(y % 4 * 4 + x % 4)];
+    const auto level = [threshold](int value, int highest) {
         return (value * highest * 16 / 255 + threshold) / 16;
     };
     return std::uint16_t(level(qRed(colour), 31) << 11 | level(qGreen(colour), 63) << 5 |
