@@ -13,8 +13,8 @@ namespace Orvo::Window {
 namespace {
 
 struct Brought {
-    const char* named;
-    const char* family;
+    const char* named = "";
+    const char* family = "";
     std::initializer_list<const char*> files;
 };
 
