@@ -22,10 +22,10 @@ Number at(const QByteArray& bytes, qsizetype offset) {
 }
 
 struct Kind {
-    const char* file;
-    const char* format;
+    const char* file = "";
+    const char* format = "";
     QSize size;
-    int depth;  // as a bitmap's header has it; 0 for others
+    int depth = 0;  // as a bitmap's header has it; 0 for others
 };
 
 TEST(PicturesTest, AreOfTheirKindsAndSizes) {
