@@ -12,8 +12,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr Console::Grammar kGrammar{.speaker = Console::Grammar::Speaker::anyone,
-                                    .place = Console::Place::inWindow};
 // A script that never waits must not hold up the window.
 constexpr auto kLongestMoment = 15ms;
 
@@ -30,7 +28,7 @@ Replay::Replay(Window::PanelWidget& window, MarvaneAssistantInterface& calls,
     : name_(script.filename().string()),
       lines_(script),
       bench_(window, calls, std::move(renew)),
-      session_(bench_, kGrammar, [](std::string_view) {}) {}
+      session_(bench_, WindowBench::kGrammar, [](std::string_view) {}) {}
 
 void Replay::advance(std::chrono::milliseconds elapsed) {
     silence_ += elapsed;

@@ -18,8 +18,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr Console::Grammar kGrammar{.speaker = Console::Grammar::Speaker::anyone,
-                                    .place = Console::Place::inWindow};
 // Closing the window wakes nobody who waits for input.
 constexpr auto kLook = 200ms;
 
@@ -51,8 +49,8 @@ int runScript(const Options& options) {
         WindowBench bench(options.zoom / 100.0);
         const auto atComplaint =
             options.keepsGoing ? Console::AtComplaint::goOn : Console::AtComplaint::stop;
-        return Console::runScript(bench, kGrammar, QFile::encodeName(options.script).toStdString(),
-                                  atComplaint,
+        return Console::runScript(bench, WindowBench::kGrammar,
+                                  QFile::encodeName(options.script).toStdString(), atComplaint,
                                   [&bench](int descriptor) { live(bench, descriptor); });
     } catch (const WindowClosed&) {
         return Console::done;

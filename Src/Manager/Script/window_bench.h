@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 
+#include "Console/command.h"
 #include "Console/panel_bench.h"
 #include "Runtime/Qt/panel_widget.h"
 
@@ -13,6 +14,10 @@ namespace Orvo::Manager {
 /// the person's waiting alone.
 class WindowBench : public Console::PanelBench {
 public:
+    /// What scripts on a window may say.
+    static constexpr Console::Grammar kGrammar{.speaker = Console::Grammar::Speaker::anyone,
+                                               .place = Console::Place::inWindow};
+
     /// In a window of its own. The zoom as PanelWidget has it.
     explicit WindowBench(double zoom = 1);
 

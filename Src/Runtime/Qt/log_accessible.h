@@ -5,6 +5,7 @@
 #include <QAccessibleWidget>
 #include <QPointer>
 
+#include "Runtime/Qt/leaf_accessible.h"
 #include "Runtime/Qt/log_view.h"
 
 namespace Orvo::Window {
@@ -28,22 +29,16 @@ private:
 };
 
 /// The line of a number, also after the log has been emptied and filled again.
-class LineAccessible final : public QAccessibleInterface {
+class LineAccessible final : public LeafAccessible {
 public:
     LineAccessible(LogView& log, int row) : log_(&log), row_(row) {}
 
     [[nodiscard]] int row() const { return row_; }
 
     [[nodiscard]] bool isValid() const override;
-    [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QWindow* window() const override { return log_->window()->windowHandle(); }
     [[nodiscard]] QAccessibleInterface* parent() const override;
-    [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
-    [[nodiscard]] QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     [[nodiscard]] QString text(QAccessible::Text text) const override;
-    void setText(QAccessible::Text, const QString&) override {}
     [[nodiscard]] QRect rect() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ListItem; }
     [[nodiscard]] QAccessible::State state() const override;

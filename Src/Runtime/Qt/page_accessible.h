@@ -5,13 +5,14 @@
 #include <QAccessibleWidget>
 #include <QPointer>
 
+#include "Runtime/Qt/leaf_accessible.h"
 #include "Runtime/Qt/page.h"
 
 namespace Orvo::Window {
 
 /// A painted lamp, readout or text: a name, and what it says as its value and description. What can
 /// be counted is a number too.
-class PaintedAccessible final : public QAccessibleInterface, public QAccessibleValueInterface {
+class PaintedAccessible final : public LeafAccessible, public QAccessibleValueInterface {
 public:
     PaintedAccessible(Page& page, WidgetId id);
 
@@ -19,15 +20,9 @@ public:
     void announce();
 
     [[nodiscard]] bool isValid() const override { return page_ != nullptr; }
-    [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QWindow* window() const override;
     [[nodiscard]] QAccessibleInterface* parent() const override;
-    [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
-    [[nodiscard]] QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     [[nodiscard]] QString text(QAccessible::Text text) const override;
-    void setText(QAccessible::Text, const QString&) override {}
     [[nodiscard]] QRect rect() const override;
     // An indicator's role would suit a lamp, but is unknown on the X desktops.
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::StaticText; }
