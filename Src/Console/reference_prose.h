@@ -69,8 +69,8 @@ is carried out.
 constexpr std::string_view kHostIntroduction = R"(## The host's side
 
 A member that exists, but not with this kind, is the panel's error, not a `?`. `invoke` passes a
-number in the narrowest type that holds it, and `true`, `false`, a String or an array as they are; a
-16-bit number for a Boolean is passed on unchanged.
+number in the narrowest type that holds it, `0xFFFF` being 65535 there, and `true`, `false`, a
+String or an array as they are; a 16-bit number for a Boolean is passed on unchanged.
 
 A command that `on` is given has to be understood at that time. A handler that `off` or `new`
 forgets while its event is being raised doesn't run any more; one that is added then runs from the
@@ -151,8 +151,10 @@ others are answered with `?`, also where they stand in an `on`: whoever drives t
 can neither press its buttons nor answer its prompts.
 
 `new` gives a fresh panel there too, in the same window; a program that was started to be watched
-only keeps it so. What `on` has said is forgotten then, and when the link breaks. A line above 64 KiB is answered with one `?` and dropped as a whole; whoever leaves more
-than 1 MiB of answers and events unread is cut off. A pipe carries commands only.
+only keeps it so. What `on` has said is forgotten then, and when the link breaks. A line above
+260 KiB, which the longest trace stays below, is answered with one `?` and dropped as a whole;
+whoever leaves more than 1 MiB of answers and events unread is cut off. A pipe carries commands
+only.
 )";
 
 constexpr std::string_view kInterfaceIntroduction = R"(# The panel's interface

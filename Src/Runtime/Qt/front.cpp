@@ -144,7 +144,6 @@ void Front::bringTabToFront() {
     }
 }
 
-// A window that is only minimised comes back, and its question with it.
 // A window that is only minimised comes back, and the prompt with it.
 void Front::hideEvent(QHideEvent* event) {
     if (!event->spontaneous()) prompt_.withdraw();
