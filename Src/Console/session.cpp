@@ -35,6 +35,20 @@ private:
     Frame* outer_;
 };
 
+// What is done in the midst of a command, one level deeper.
+class Session::Midst {
+public:
+    explicit Midst(Session& session) : session_(session) {
+        if (session_.depth_++ == 0) session_.isExhausted_ = false;
+    }
+    ~Midst() { --session_.depth_; }
+    Midst(const Midst&) = delete;
+    Midst& operator=(const Midst&) = delete;
+
+private:
+    Session& session_;
+};
+
 Session::Session(Bench& bench, const Grammar& grammar, Output output)
     : bench_(bench), grammar_(grammar), output_(std::move(output)) {
     bench_.tell(this);
@@ -71,12 +85,10 @@ void Session::renew() {
 
 void Session::raised(const Event& event, std::span<const Value> arguments) {
     line(eventText(event, arguments));
-    if (depth_ == 0) isExhausted_ = false;
-    ++depth_;
+    const Midst midst(*this);
     handle(Handlers(handlersOf(event)));
     performQueued();
     takeQueued<Resumption>();
-    --depth_;
 }
 
 void Session::handle(const Handlers& handlers) {
@@ -102,9 +114,7 @@ void Session::failed(const Error& error) {
 }
 
 std::optional<String> Session::asked(const Widgets::Question& question) {
-    ++depth_;
     std::optional<String> answer = queuedAnswer();
-    --depth_;
     const std::string typed = answer ? textOf(StringView(*answer)) : "cancel";
     line("prompt " + textOf(StringView(question.text)) + ' ' + textOf(StringView(question.title)) +
          " -> " + typed);
@@ -113,6 +123,7 @@ std::optional<String> Session::asked(const Widgets::Question& question) {
 
 // What ends nothing but an event's part of the queue is passed over.
 std::optional<String> Session::queuedAnswer() {
+    const Midst midst(*this);
     do {
         performQueued();
     } while (takeQueued<Resumption>());

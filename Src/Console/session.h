@@ -57,6 +57,7 @@ public:
 
 private:
     class Frame;
+    class Midst;
 
     // What the host does when an event is raised, until it is forgotten.
     struct Handler {
