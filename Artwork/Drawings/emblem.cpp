@@ -2,22 +2,13 @@
 
 #include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
 
 #include "Artwork/Drawings/drawings.h"
+#include "Artwork/Drawings/materials.h"
 
 namespace Orvo::Artwork {
 
 namespace {
-
-QPainterPath waveThrough(const QRectF& screen) {
-    const double y = screen.center().y();
-    const double swing = screen.height() * 0.8;
-    QPainterPath wave(QPointF(screen.left(), y));
-    wave.quadTo(screen.left() + screen.width() / 4, y - swing, screen.center().x(), y);
-    wave.quadTo(screen.right() - screen.width() / 4, y + swing, screen.right(), y);
-    return wave;
-}
 
 void drawScreen(QPainter& painter, const QRectF& place) {
     painter.setPen(QPen(QColor(108, 118, 136), 1.5));
@@ -28,7 +19,8 @@ void drawScreen(QPainter& painter, const QRectF& place) {
                      QPointF(place.right() - 3, place.center().y()));
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(40, 240, 80), 3.2, Qt::SolidLine, Qt::RoundCap));
-    painter.drawPath(waveThrough(place.adjusted(5, 4, -5, -4)));
+    const QRectF inside = place.adjusted(5, 4, -5, -4);
+    painter.drawPath(waveThrough(inside, inside.height() * 0.8));
 }
 
 // A panel's front in small: a scope above a row of lamps.
@@ -74,15 +66,5 @@ void drawToolbox(QPainter& painter) {
 
 constinit const Drawing kEmblem{{0, 0, 64, 64}, drawEmblem};
 constinit const Drawing kToolbox{{0, 0, 16, 15}, drawToolbox};
-
-void paint(QPainter& painter, const Drawing& drawing, const QRectF& where) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(where.topLeft());
-    painter.scale(where.width() / drawing.place.width(), where.height() / drawing.place.height());
-    painter.translate(-drawing.place.topLeft());
-    drawing.draw(painter);
-    painter.restore();
-}
 
 }  // namespace Orvo::Artwork

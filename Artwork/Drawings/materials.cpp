@@ -48,6 +48,14 @@ void drawRecess(QPainter& painter, const QRectF& place, QColor fill, QColor edge
     painter.drawLine(QPointF(place.left() + kRadius, y), QPointF(place.right() - kRadius, y));
 }
 
+QPainterPath waveThrough(const QRectF& place, double swing) {
+    const double y = place.center().y();
+    QPainterPath wave(QPointF(place.left(), y));
+    wave.quadTo(place.left() + place.width() / 4, y - swing, place.center().x(), y);
+    wave.quadTo(place.right() - place.width() / 4, y + swing, place.right(), y);
+    return wave;
+}
+
 void drawRecessFor(QPainter& painter, std::string_view frame, QColor edge, QMarginsF margins) {
     const auto& style = Layout::describe(Layout::findWidget(frame).value()).style;
     drawRecess(painter, placeOf(frame).marginsAdded(margins), Window::toQt(style.back), edge);

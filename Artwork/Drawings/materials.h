@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include <QColor>
+#include <QPainterPath>
 #include <QRectF>
 
 #include "Orvo/layout/layout.h"
@@ -40,6 +41,9 @@ void drawPlate(QPainter& painter, const QRectF& place, const Finish& finish);
 
 /// A hollow in a sheet, for a display or a group of controls.
 void drawRecess(QPainter& painter, const QRectF& place, QColor fill, QColor edge);
+
+/// A period of a wave from the left to the right; it turns at half of the swing from the middle.
+QPainterPath waveThrough(const QRectF& place, double swing);
 
 /// A recess in the frame's own colour, this much larger than the frame all round.
 void drawRecessFor(QPainter& painter, std::string_view frame, QColor edge, QMarginsF margins);

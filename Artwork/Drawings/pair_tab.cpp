@@ -1,6 +1,5 @@
 #include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
 
 #include "Artwork/Drawings/drawings.h"
 #include "Artwork/Drawings/materials.h"
@@ -69,14 +68,9 @@ void drawTap(QPainter& painter, double positive, double negative, double lamp) {
 void drawWaveform(QPainter& painter, const QRectF& place) {
     drawRecess(painter, place, {22, 27, 35}, kEdge);
     const QRectF inside = place.adjusted(90, 75, -90, -75);
-    const double y = inside.center().y();
-    const double swing = inside.height();
-    QPainterPath wave(QPointF(inside.left(), y));
-    wave.quadTo(inside.left() + inside.width() / 4, y - swing, inside.center().x(), y);
-    wave.quadTo(inside.right() - inside.width() / 4, y + swing, inside.right(), y);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(158, 174, 198), 1.4 * kPixel));
-    painter.drawPath(wave);
+    painter.drawPath(waveThrough(inside, inside.height()));
 }
 
 void drawPlates(QPainter& painter) {
