@@ -4,7 +4,7 @@
 
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/layout/layout.h"
-#include "Runtime/Store/store.h"
+#include "Orvo/store/store.h"
 
 // Times mean little on a machine that others use too. Compare the rows of one run: a trace with the
 // bare loop over its samples, a log line at the end of a long log with one at its beginning, a

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "Runtime/Qt/trace.h"
+#include "Orvo/window/controls/trace.h"
 
 // Painting a trace in one pass, against painting a line for each of its segments.
 namespace Orvo::Window {

@@ -3,7 +3,7 @@
 
 #include <Orvo/core/marvane_assistant.h>
 #include <Orvo/layout/layout.h>
-#include <Runtime/Store/store.h>
+#include <Orvo/store/store.h>
 
 class Host : public Orvo::MarvaneAssistantEvents {
 public:

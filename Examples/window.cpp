@@ -1,5 +1,5 @@
 #include <Orvo/core/marvane_assistant.h>
-#include <Runtime/Qt/panel_widget.h>
+#include <Orvo/window/panel_widget.h>
 
 #include <QApplication>
 

@@ -15,8 +15,8 @@ function(orvo_warnings target)
     endif()
 endfunction()
 
-# orvo_library(target Name [EXPORT set]): the static library of the current
-# room below Src, known as Orvo::Name here and to consumers.
+# orvo_library(target Name [EXPORT set]): a static library, known as Orvo::Name here and to
+# consumers. What its rooms don't declare as public stays here.
 function(orvo_library target name)
     cmake_parse_arguments(PARSE_ARGV 2 arg "" "EXPORT" "")
     if(NOT arg_EXPORT)
@@ -25,18 +25,21 @@ function(orvo_library target name)
 
     add_library(${target} STATIC)
     add_library(Orvo::${name} ALIAS ${target})
-    set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${name}
+        VERIFY_INTERFACE_HEADER_SETS ON)
     target_compile_features(${target} PUBLIC cxx_std_20)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Src>)
+    target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/Src)
     orvo_warnings(${target})
+    install(TARGETS ${target} EXPORT ${arg_EXPORT}
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+endfunction()
 
-    # Installed headers keep their tree below include/orvo, so that a consumer
-    # writes the same #include lines as this project.
-    set(headers ${CMAKE_INSTALL_INCLUDEDIR}/orvo)
-    file(RELATIVE_PATH room ${PROJECT_SOURCE_DIR}/Src ${CMAKE_CURRENT_SOURCE_DIR})
-    install(TARGETS ${target} EXPORT ${arg_EXPORT} INCLUDES DESTINATION ${headers})
-    install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/ DESTINATION ${headers}/${room}
-        FILES_MATCHING PATTERN "*.h")
+# orvo_public_headers(target file...): headers of the current room that are installed. A consumer
+# includes them as this project does, by their path below Src.
+function(orvo_public_headers target)
+    target_sources(${target} PUBLIC FILE_SET HEADERS FILES ${ARGN})
 endfunction()
 
 # orvo_program(name): a program in <build>/bin that ./run builds.

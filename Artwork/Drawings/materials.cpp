@@ -3,7 +3,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 
-#include "Runtime/Qt/text.h"
+#include "Orvo/window/drawing/text.h"
 
 namespace Orvo::Artwork {
 

@@ -5,17 +5,18 @@
 
 #include <unistd.h>
 
-#include "Console/completion.h"
-#include "Console/help.h"
 #include "Console/options.h"
-#include "Console/script.h"
-#include "Console/store_bench.h"
 #include "Console/terminal.h"
+#include "Script/completion.h"
+#include "Script/help.h"
+#include "Script/script_runner.h"
+#include "Script/store_bench.h"
 
 // orvo-console: the panel script on the in-memory runtime.
 namespace {
 
 using namespace Orvo::Console;
+using namespace Orvo::Script;
 
 constexpr Grammar kGrammar{.speaker = Grammar::Speaker::anyone, .place = Place::inMemory};
 

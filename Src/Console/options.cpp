@@ -21,7 +21,7 @@ Options readOptions(std::span<const char* const> arguments) {
         if (isOption && argument == "--") {
             areFilesOnly = true;
         } else if (isOption && argument == "--keep-going") {
-            options.atComplaint = AtComplaint::goOn;
+            options.atComplaint = Script::AtComplaint::goOn;
         } else if (isOption && argument == "--help") {
             options.wish = Options::Wish::help;
         } else if (isOption && argument == "--version") {

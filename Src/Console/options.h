@@ -6,17 +6,16 @@
 #include <string>
 #include <string_view>
 
-namespace Orvo::Console {
+#include "Script/script_runner.h"
 
-/// What a script does after a "?".
-enum class AtComplaint : std::uint8_t { stop, goOn };
+namespace Orvo::Console {
 
 /// What the command line asks for.
 struct Options {
     enum class Wish : std::uint8_t { run, help, version };
 
     Wish wish = Wish::run;
-    AtComplaint atComplaint = AtComplaint::stop;
+    Script::AtComplaint atComplaint = Script::AtComplaint::stop;
     std::optional<std::string> file{};  ///< none: standard input
 };
 

@@ -3,12 +3,12 @@
 
 #include <QApplication>
 
-#include "Manager/Script/run_script.h"
-#include "Manager/demonstration.h"
-#include "Manager/manager_window.h"
-#include "Manager/options.h"
-#include "Manager/platform.h"
-#include "Runtime/Qt/emblem.h"
+#include "Manager/Window/demonstration.h"
+#include "Manager/Window/manager_window.h"
+#include "Manager/Window/options.h"
+#include "Manager/Window/platform.h"
+#include "Manager/Window/run_script.h"
+#include "Orvo/window/emblem.h"
 
 namespace Orvo::Manager {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/layout/layout.h"
-#include "Runtime/Store/store.h"
+#include "Orvo/store/store.h"
 
 namespace Orvo {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "Orvo/ports/port_records.h"
 #include "Orvo/values/text.h"
-#include "Runtime/Ports/port_records.h"
 
 namespace Orvo::Tests {
 

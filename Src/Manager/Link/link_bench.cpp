@@ -26,7 +26,7 @@ InvokeResult LinkBench::invoke(Long dispatchId, MemberKind kind, std::span<const
 }
 
 // The grammar of a link keeps these away.
-Console::Person& LinkBench::person() { throw notOverALink(); }
+Script::Person& LinkBench::person() { throw notOverALink(); }
 Runtime::Store& LinkBench::widgets() { throw notOverALink(); }
 void LinkBench::shoot(const String&) { throw notOverALink(); }
 

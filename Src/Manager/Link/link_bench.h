@@ -2,14 +2,14 @@
 
 #include <functional>
 
-#include "Console/bench.h"
 #include "Orvo/core/marvane_assistant.h"
+#include "Script/bench.h"
 
 namespace Orvo::Manager {
 
 /// A panel for whoever may only play its host: there is no person to command, and there are no
 /// widgets to look at.
-class LinkBench final : public Console::Bench {
+class LinkBench final : public Script::Bench {
 public:
     /// Events come from `panel`, calls go to `calls`. The panel's run-time errors that nobody waits
     /// for, and its prompts, are its owner's.
@@ -20,10 +20,10 @@ public:
     /// Hears the panel's events, from here on.
     void connect();
 
-    void tell(Console::PanelListener* listener) override { listener_ = listener; }
+    void tell(Script::PanelListener* listener) override { listener_ = listener; }
     InvokeResult invoke(Long dispatchId, MemberKind kind,
                         std::span<const Value> arguments) override;
-    Console::Person& person() override;
+    Script::Person& person() override;
     Runtime::Store& widgets() override;
     void renew() override { renew_(); }
     void shoot(const String& file) override;
@@ -32,7 +32,7 @@ private:
     MarvaneAssistant& panel_;
     MarvaneAssistantInterface& calls_;
     std::function<void()> renew_;
-    Console::PanelListener* listener_ = nullptr;
+    Script::PanelListener* listener_ = nullptr;
     Connection events_;
 };
 

@@ -11,8 +11,8 @@ namespace {
 using namespace std::chrono_literals;
 using SteadyClock = std::chrono::steady_clock;
 
-constexpr Console::Grammar kGrammar{.speaker = Console::Grammar::Speaker::device,
-                                    .place = Console::Place::inWindow};
+constexpr Script::Grammar kGrammar{.speaker = Script::Grammar::Speaker::device,
+                                   .place = Script::Place::inWindow};
 constexpr auto kLongestMoment = 8ms;
 constexpr std::size_t kPiece = 16384;  // bytes
 // Whoever is behind with reading is not asked what else there is to answer.

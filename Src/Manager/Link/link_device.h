@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-#include "Console/session.h"
 #include "Manager/Link/line_splitter.h"
 #include "Manager/Link/link_bench.h"
 #include "Manager/Link/link_port.h"
 #include "Manager/Station/device.h"
+#include "Script/session.h"
 
 namespace Orvo::Manager {
 
@@ -56,7 +56,7 @@ private:
 
     // While the link is open.
     std::unique_ptr<LinkPort> port_;
-    std::optional<Console::Session> session_;
+    std::optional<Script::Session> session_;
     LineSplitter lines_;
     std::string unsent_;
     bool isBroken_ = false;

@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <utility>
 
-#include "Console/text_of.h"
 #include "Orvo/core/event_table.h"
+#include "Script/text_of.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -37,7 +37,7 @@ std::string seconds(std::chrono::milliseconds time) {
 
 void Conversation::raised(Long dispatchId, std::span<const Value> arguments) {
     const Event& event = eventWith(dispatchId);
-    write(Console::eventText(event, arguments));
+    write(Script::eventText(event, arguments));
     ++depth_;
 }
 
@@ -50,16 +50,16 @@ void Conversation::startAnew() {
 
 void Conversation::called(const Member& member, std::span<const Value> arguments) {
     isLastCallShown_ = isWorthALine(member, arguments);
-    if (isLastCallShown_) write(Console::commandText(member, arguments));
+    if (isLastCallShown_) write(Script::commandText(member, arguments));
 }
 
 void Conversation::returned(const Member&, const Value& result) {
-    if (isLastCallShown_ && result.index() != 0) write("= " + Console::textOf(result));
+    if (isLastCallShown_ && result.index() != 0) write("= " + Script::textOf(result));
 }
 
 void Conversation::failed(const Member&, const Error& error) { failed(error); }
 
-void Conversation::failed(const Error& error) { write("! " + Console::textOf(error)); }
+void Conversation::failed(const Error& error) { write("! " + Script::textOf(error)); }
 
 bool Conversation::isWorthALine(const Member& member, std::span<const Value> arguments) {
     const bool news = isNews(member, arguments);
@@ -71,9 +71,9 @@ bool Conversation::isWorthALine(const Member& member, std::span<const Value> arg
 bool Conversation::isNews(const Member& member, std::span<const Value> arguments) {
     if (member.kind != MemberKind::let) return true;
     if (lastSaid_.size() > kMostRemembered) lastSaid_.clear();
-    const std::string value = Console::textOf(arguments.back());
+    const std::string value = Script::textOf(arguments.back());
     std::string& last =
-        lastSaid_[Console::commandText(member, arguments.first(arguments.size() - 1))];
+        lastSaid_[Script::commandText(member, arguments.first(arguments.size() - 1))];
     return std::exchange(last, value) != value;
 }
 

@@ -5,11 +5,11 @@
 #include <memory>
 #include <utility>
 
+#include "Manager/Host/simulated_device.h"
 #include "Manager/Link/link_address.h"
 #include "Manager/Station/conversation.h"
 #include "Manager/Station/event_log.h"
 #include "Manager/Station/observed_panel.h"
-#include "Manager/Station/simulated_device.h"
 #include "Manager/Station/status_text.h"
 #include "Manager/Station/traces.h"
 

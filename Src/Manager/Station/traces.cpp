@@ -6,7 +6,7 @@
 #include "Orvo/generator/grid.h"
 #include "Orvo/generator/trace.h"
 #include "Orvo/layout/layout.h"
-#include "Runtime/Store/stored_widgets.h"
+#include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
 namespace {

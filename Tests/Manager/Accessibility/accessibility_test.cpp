@@ -12,9 +12,9 @@
 #include <QRegularExpression>
 #include <QThread>
 
-#include "Runtime/Qt/names.h"
-#include "Runtime/Qt/scale.h"
-#include "Runtime/Qt/spoken.h"
+#include "Orvo/window/drawing/scale.h"
+#include "Orvo/window/spoken/names.h"
+#include "Orvo/window/spoken/spoken.h"
 #include "accessible_bus.h"
 
 // The running program, as a screen reader on the same desktop finds it.

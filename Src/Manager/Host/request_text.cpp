@@ -1,0 +1,51 @@
+#include "Manager/Host/request_text.h"
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <variant>
+
+namespace Orvo::Simulator {
+namespace {
+
+// In the order of the signals.
+constexpr std::array<std::string_view, kSignalCount> kSignalNames{"100 Hz", "1 kHz", "10 kHz",
+                                                                  "EIAJ", "Line in"};
+
+std::string numbered(std::string_view what, Integer number) {
+    return std::string(what) + ' ' + std::to_string(number) + ": ";
+}
+
+std::string text(const SwitchPower& request) { return request.isOn ? "Switch on" : "Switch off"; }
+
+std::string text(const SetMute& request) {
+    const auto channel =
+        request.channel == 0 ? "All channels: " : numbered("Channel", request.channel);
+    return channel + (request.isMuted ? "mute" : "unmute");
+}
+
+std::string text(const SetVolume& request) {
+    return numbered("Channel", request.channel) + std::to_string(request.decibels) + " dB";
+}
+
+std::string text(const StartGenerator& request) {
+    return numbered("Channel", request.channel) +
+           std::string(kSignalNames[static_cast<std::size_t>(request.signal)]) + " to the " +
+           (request.input == Input::positive ? "positive" : "negative") + " input";
+}
+
+std::string text(const SetVirtualTemperature& request) {
+    return numbered("Pair", request.pair) + std::to_string(request.degrees) + " C";
+}
+
+std::string text(const SetInformation& /*request*/) { return "Information"; }
+
+std::string text(const AskInternalData& /*request*/) { return "Internal data"; }
+
+}  // namespace
+
+std::string describe(const Command& command) {
+    return std::visit([](const auto& request) { return text(request); }, command);
+}
+
+}  // namespace Orvo::Simulator

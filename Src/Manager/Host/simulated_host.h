@@ -1,0 +1,116 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "Manager/Host/awaited_requests.h"
+#include "Manager/Host/host_log.h"
+#include "Manager/Host/panel_mirror.h"
+#include "Manager/Host/quick_test_run.h"
+#include "Manager/Host/volume_sliders.h"
+#include "Orvo/core/marvane_assistant.h"
+#include "Simulator/fault.h"
+#include "Simulator/message.h"
+#include "Simulator/simulated_link.h"
+
+namespace Orvo::Simulator {
+
+/// A host with a simulated amplifier at the other end of its link.
+///
+/// It knows the panel's public interface and nothing else, and may serve as the example of how a
+/// host treats it:
+/// - what a person asks for goes to the amplifier, and the panel changes when the amplifier has
+///   confirmed it, as does what the log says of it;
+/// - only what changed is shown, and everything once more after a reconnect;
+/// - a slider isn't written while a person holds it, nor while a later move is unanswered;
+/// - a control that changes by itself when it is worked is put back if nothing comes of it;
+/// - nothing is waited for for ever: in the end a question is asked again, but an order is given
+///   up, and the log says so.
+///
+/// The same seed, panel and calls give the same life. It ends before the panel does, and is used
+/// on the panel's thread.
+class SimulatedHost final : private MarvaneAssistantEvents {
+public:
+    explicit SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed = 1,
+                           PowerAtStart power = PowerAtStart::on);
+    /// Hears the events of `panel`, but calls the members of `members`: something that notes down
+    /// what it hands on to the panel.
+    SimulatedHost(MarvaneAssistant& panel, MarvaneAssistantInterface& members,
+                  std::uint32_t seed = 1, PowerAtStart power = PowerAtStart::on);
+
+    /// Lets time pass, ten minutes at most; what is longer is skipped. How it is divided among
+    /// calls makes no difference.
+    void advance(Milliseconds elapsed);
+
+    void set(Fault fault, bool isOn) { link_.set(fault, isOn); }
+    [[nodiscard]] bool has(Fault fault) const { return link_.has(fault); }
+
+    /// Begins the quick test, or begins it again: a row every 400 ms, by what the amplifier last
+    /// reported. Without a connection there is only a line in the log, and one when the connection
+    /// is lost before the last row.
+    void runQuickTest();
+
+    [[nodiscard]] bool isConnected() const { return isConnected_; }
+    /// Since the last word from the amplifier that could be understood; since the beginning when
+    /// there was none yet. A few tenths of a second at most when all is well.
+    [[nodiscard]] Milliseconds sinceLastWord() const { return now_ - lastWord_; }
+    /// The id of the amplifier at the other end.
+    [[nodiscard]] Integer amplifierId() const { return link_.amplifierId(); }
+    /// How long the host has lived.
+    [[nodiscard]] Milliseconds now() const { return now_; }
+
+private:
+    // What a person asks for.
+    void OnOff() override;
+    void Mute(Integer& intChannel) override;
+    void DownLoad() override;
+    void VolumeChange(Integer& intChannel, Integer& intVolume) override;
+    void SetTemp(Integer& intChannel, Integer& intValue) override;
+    void WaveForm(Integer& intNChannel, Integer& intTypeWaveForm, Integer& intPosNeg) override;
+    void GeneralInformations(Integer& intIdDevice, String& strInformations, String& strSnAmp,
+                             String& strSnCard) override;
+    void ChangeAmpId(Integer& intIdDevice) override;
+
+    void step();
+    /// Whether the request is on its way; not without a connection.
+    bool ask(const Command& command);
+    void hearAnswer(std::uint32_t number);
+    void confirm(const Command& command);
+    void giveUp(const std::vector<Request>& lost);
+    void giveUp(const Command& command);
+
+    void receive(const Message& message);
+    void take(const Status& status);
+    void showStatus();
+    void show(const Reading& reading);
+    void take(const Trace& trace) { mirror_.show(trace); }
+    void take(const Page& page);
+    void understand(bool isIntact);
+
+    void connect();
+    void disconnect();
+    void noticeSilence();
+    void tell(std::string_view text) { log_.tell(now_, text); }
+
+    MarvaneAssistantInterface& panel_;
+    SimulatedLink link_;
+    Milliseconds now_{0};
+    Milliseconds unspent_{0};
+
+    bool isConnected_ = false;
+    bool isUnderstood_ = true;
+    Milliseconds lastSound_{0};
+    Milliseconds lastWord_{0};
+
+    AwaitedRequests awaited_;
+    Status status_;
+    PanelMirror mirror_;
+    VolumeSliders sliders_;
+    QuickTestRun quickTest_;
+    HostLog log_;
+
+    // Ends first, so that no event finds half a host.
+    Connection connection_;
+};
+
+}  // namespace Orvo::Simulator

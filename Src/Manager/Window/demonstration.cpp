@@ -1,0 +1,146 @@
+#include "Manager/Window/demonstration.h"
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+
+#include "Manager/Window/manager_window.h"
+#include "Manager/Window/pictures.h"
+#include "Orvo/core/marvane_assistant.h"
+#include "Orvo/store/store.h"
+
+namespace Orvo::Manager {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 10s;
+constexpr auto kPlays = 1500ms;
+constexpr auto kPictures =
+    std::to_array({"marvane-common.png", "marvane-ch1-ch2.png", "marvane-ch3-ch4.png"});
+
+constexpr auto kLinkLamp = Layout::shapeRef("shpConnected");
+constexpr auto kMainsLamp = Layout::shapeRef("shpMainPresence12");
+constexpr auto kReadyLamps =
+    std::to_array({Layout::shapeRef("Shape17"), Layout::shapeRef("Shape12")});
+constexpr auto kPowerButton = Layout::buttonRef("cmdOnOff");
+constexpr auto kStartButtons =
+    std::to_array({Layout::buttonRef("cmdGo12"), Layout::buttonRef("cmdGo34")});
+
+void say(const QString& line) {
+    std::puts(qPrintable(line));
+    std::fflush(stdout);
+}
+
+// Where whoever built the program finds them, else where nobody has to clean up.
+QDir pictureDirectory() {
+    QDir directory("build");
+    if (directory.exists()) return directory;
+    directory = QDir(QDir::tempPath() + "/marvane-manager");
+    directory.mkpath(".");
+    return directory;
+}
+
+class Demonstration {
+public:
+    explicit Demonstration(const Options& options) : window_(options) {}
+
+    void run();
+
+private:
+    void comeUp();
+    void switchOn();
+    void play();
+    void savePictures();
+
+    void waitFor(const char* what, const std::function<bool()>& isDone);
+    void letPass(std::chrono::milliseconds time);
+    [[nodiscard]] bool isLit(Widgets::ShapeRef lamp);
+    void click(Widgets::ButtonRef button) { store().input().click(button.id); }
+    Runtime::Store& store() { return window_.panelWidget().store(); }
+
+    ManagerWindow window_;
+};
+
+void Demonstration::run() {
+    const bool isOperated = !window_.isReadOnly();
+    window_.connectSimulator(isOperated ? Simulator::PowerAtStart::off
+                                        : Simulator::PowerAtStart::on);
+    window_.open();
+    comeUp();
+    if (isOperated) switchOn();
+    if (isOperated) play();
+    letPass(kPlays);
+    savePictures();
+}
+
+void Demonstration::comeUp() {
+    waitFor("the link", [this] { return isLit(kLinkLamp); });
+    waitFor("the mains", [this] { return isLit(kMainsLamp); });
+}
+
+void Demonstration::switchOn() {
+    click(kPowerButton);
+    waitFor("the power", [this] { return bool(window_.panelWidget().panel().PowerOn()); });
+    for (const auto lamp : kReadyLamps) {
+        waitFor("both pairs to be ready", [this, lamp] { return isLit(lamp); });
+    }
+}
+
+void Demonstration::play() {
+    for (const auto button : kStartButtons) click(button);
+    waitFor("the traces", [this] {
+        return window_.station().traces().has(1) && window_.station().traces().has(3);
+    });
+}
+
+void Demonstration::savePictures() {
+    const QDir directory = pictureDirectory();
+    for (std::size_t tab = 0; tab < kPictures.size(); ++tab) {
+        window_.selectTab(int(tab) + 1);
+        const QString path = directory.absoluteFilePath(kPictures[tab]);
+        const QString error = write(path, toPng(pictureOf(window_.panelWidget())));
+        if (!error.isEmpty()) throw std::runtime_error((path + ": " + error).toStdString());
+        say(path);
+    }
+}
+
+void Demonstration::waitFor(const char* what, const std::function<bool()>& isDone) {
+    const QDeadlineTimer deadline(kPatience);
+    while (!isDone()) {
+        if (deadline.hasExpired())
+            throw std::runtime_error(std::string("waited in vain for ") + what);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
+void Demonstration::letPass(std::chrono::milliseconds time) {
+    const QDeadlineTimer end(time);
+    waitFor("the time to pass", [&] { return end.hasExpired(); });
+}
+
+bool Demonstration::isLit(Widgets::ShapeRef lamp) {
+    return store().get<Runtime::StoredShape>(lamp.id).fillStyle() == Widgets::FillStyle::solid;
+}
+
+}  // namespace
+
+int demonstrate(const Options& options) {
+    say("marvane-manager: no display here, so a short demonstration runs offscreen. Pictures:");
+    try {
+        Demonstration(options).run();
+        return 0;
+    } catch (const std::runtime_error& error) {
+        std::fprintf(stderr, "marvane-manager: %s\n", error.what());
+        return 1;
+    }
+}
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,91 @@
+#include "Manager/Window/event_dock.h"
+
+#include <algorithm>
+
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace Orvo::Manager {
+namespace {
+
+constexpr int kWidth = 46;  // characters
+
+QWidget* rowOf(const QList<QAction*>& actions) {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QAction* action : actions) {
+        auto* button = new QToolButton;
+        button->setDefaultAction(action);
+        layout->addWidget(button);
+    }
+    layout->addStretch();
+    return row;
+}
+
+QPlainTextEdit* makeLines() {
+    auto* lines = new QPlainTextEdit;
+    lines->setAccessibleName("Events");
+    lines->setReadOnly(true);
+    lines->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    lines->setLineWrapMode(QPlainTextEdit::NoWrap);
+    lines->setUndoRedoEnabled(false);
+    lines->setTabChangesFocus(true);
+    lines->setMaximumBlockCount(int(EventLog::kMostLines));
+    lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    lines->setMinimumWidth(lines->fontMetrics().horizontalAdvance(QString(kWidth, '0')));
+    return lines;
+}
+
+}  // namespace
+
+EventDock::EventDock(const EventLog& log, const QList<QAction*>& actions, QWidget* parent)
+    : QDockWidget("Events", parent), log_(log), lines_(makeLines()) {
+    auto* contents = new QWidget;
+    auto* layout = new QVBoxLayout(contents);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addWidget(rowOf(actions));
+    layout->addWidget(lines_);
+    setWidget(contents);
+    setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+}
+
+void EventDock::refresh() {
+    if (clears_ != log_.clears()) {
+        lines_->clear();
+        clears_ = log_.clears();
+    }
+    if (shown_ != log_.added()) append();
+}
+
+void EventDock::showEvent(QShowEvent* event) {
+    QDockWidget::showEvent(event);
+    showNewest();
+}
+
+bool EventDock::showsNewest() const {
+    return lines_->verticalScrollBar()->value() == lines_->verticalScrollBar()->maximum();
+}
+
+void EventDock::showNewest() {
+    lines_->verticalScrollBar()->setValue(lines_->verticalScrollBar()->maximum());
+    lines_->horizontalScrollBar()->setValue(0);
+}
+
+void EventDock::append() {
+    const auto& lines = log_.lines();
+    const auto fresh = std::min<std::uint64_t>(log_.added() - shown_, lines.size());
+    QStringList texts;
+    for (auto line = lines.end() - std::ptrdiff_t(fresh); line != lines.end(); ++line) {
+        texts += QString::fromStdString(*line);
+    }
+    const bool wasNewestShown = showsNewest();
+    if (!texts.isEmpty()) lines_->appendPlainText(texts.join('\n'));
+    if (wasNewestShown) showNewest();
+    shown_ = log_.added();
+}
+
+}  // namespace Orvo::Manager

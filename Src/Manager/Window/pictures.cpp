@@ -1,0 +1,55 @@
+#include "Manager/Window/pictures.h"
+
+#include <algorithm>
+
+#include <QBuffer>
+#include <QPixmap>
+
+namespace Orvo::Manager {
+namespace {
+
+constexpr double kScopeZoom = 4;
+
+// The panel at another size, unseen, as long as this is.
+class Enlarged {
+public:
+    explicit Enlarged(Window::PanelWidget& panel) : panel_(panel), zoom_(panel.zoom()) {
+        panel_.setUpdatesEnabled(false);
+        panel_.setZoom(std::max(zoom_, kScopeZoom));
+    }
+    ~Enlarged() {
+        panel_.setZoom(zoom_);
+        panel_.setUpdatesEnabled(true);
+    }
+    Enlarged(const Enlarged&) = delete;
+    Enlarged& operator=(const Enlarged&) = delete;
+
+private:
+    Window::PanelWidget& panel_;
+    double zoom_;
+};
+
+}  // namespace
+
+QImage pictureOf(Window::PanelWidget& panel) {
+    panel.flush();
+    const QSize spare = (panel.size() - panel.sizeHint()).expandedTo({0, 0}) / 2;
+    return panel.grab({{spare.width(), spare.height()}, panel.sizeHint()}).toImage();
+}
+
+QImage pictureOfScope(Window::PanelWidget& panel, int channel) {
+    panel.flush();
+    auto* scope = panel.findChild<QWidget*>("Picture" + QString::number(channel));
+    const Enlarged enlarged(panel);
+    return scope->grab().toImage();
+}
+
+QByteArray toPng(const QImage& image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+}  // namespace Orvo::Manager

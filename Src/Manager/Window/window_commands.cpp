@@ -1,0 +1,129 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QMenuBar>
+#include <QMessageBox>
+
+#include "Manager/Window/manager_window.h"
+#include "Manager/Window/pictures.h"
+#include "Manager/Window/shortcuts.h"
+#include "Manager/Window/zoom.h"
+#include "Orvo/core/marvane_assistant.h"
+#include "Orvo/store/store.h"
+
+// What the menus command.
+namespace Orvo::Manager {
+namespace {
+
+constexpr auto kFullScreenHint = "F11 leaves full screen";
+constexpr auto kMessageLog = Layout::listRef("List1");
+
+QString channelName(Integer channel) { return "channel-" + QString::number(channel); }
+
+}  // namespace
+
+void ManagerWindow::runQuickTest() {
+    if (auto* simulator = station_.simulator()) simulator->runQuickTest();
+}
+
+void ManagerWindow::setFault(Simulator::Fault fault, bool isOn) {
+    if (auto* simulator = station_.simulator()) simulator->set(fault, isOn);
+}
+
+void ManagerWindow::setReadOnly(bool isReadOnly) { station_.panel().ReadOnly(isReadOnly); }
+
+bool ManagerWindow::isReadOnly() const { return panel_->panel().ReadOnly() == Boolean(true); }
+
+void ManagerWindow::savePicture() {
+    saver_->ask(
+        {"picture of the panel", "PNG pictures", "marvane-panel.png", toPng(pictureOf(*panel_))});
+}
+
+void ManagerWindow::saveScopePicture(Integer channel) {
+    saver_->ask({"picture of the scope", "PNG pictures",
+                 "marvane-scope-" + channelName(channel) + ".png",
+                 toPng(pictureOfScope(*panel_, channel))});
+}
+
+void ManagerWindow::saveTrace(Integer channel) {
+    if (!station_.traces().has(channel)) {
+        return statusLine_->say("There is no trace on channel " + QString::number(channel));
+    }
+    const std::string csv = traceCsv(station_.traces().samples(channel));
+    saver_->ask({"samples of the trace", "Comma-separated values",
+                 "marvane-trace-" + channelName(channel) + ".csv", QByteArray::fromStdString(csv)});
+}
+
+QString ManagerWindow::messageLog() const {
+    QStringList lines;
+    for (const String& line :
+         panel_->store().get<Runtime::StoredList>(kMessageLog.id).state().items) {
+        lines += QString::fromUtf16(line.data(), qsizetype(line.size()));
+    }
+    return lines.join('\n');
+}
+
+void ManagerWindow::copyMessageLog() {
+    QApplication::clipboard()->setText(messageLog());
+    statusLine_->say("The message log is on the clipboard");
+}
+
+void ManagerWindow::saveMessageLog() {
+    saver_->ask({"message log", "Texts", "marvane-log.txt", messageLog().toUtf8() + '\n'});
+}
+
+void ManagerWindow::selectTab(int tab) {
+    panel_->store().input().selectTab(Layout::kTabs.id, tab - 1);
+}
+
+int ManagerWindow::tab() const {
+    return panel_->store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current + 1;
+}
+
+void ManagerWindow::setZoom(int percent) {
+    zoomArea_->setZoom(percent);
+    adaptSize();
+}
+
+void ManagerWindow::zoomIn() { setZoom(nextLarger(zoomArea_->zoom())); }
+void ManagerWindow::zoomOut() { setZoom(nextSmaller(zoomArea_->zoom())); }
+
+void ManagerWindow::setFullScreen(bool isFullScreen) {
+    if (isFullScreen == this->isFullScreen()) return;
+    if (isFullScreen) zoomBefore_ = zoomArea_->zoom();
+    menuBar()->setVisible(!isFullScreen);
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+    if (isFullScreen) {
+        zoomArea_->setFitting(true);
+        statusLine_->say(kFullScreenHint);
+    } else {
+        setZoom(zoomBefore_);
+        statusLine_->unsay(kFullScreenHint);
+    }
+}
+
+void ManagerWindow::showEvents(bool isShown) {
+    events_->setVisible(isShown);
+    adaptSize();
+}
+
+void ManagerWindow::copyEvents() {
+    QApplication::clipboard()->setText(events_->text());
+    statusLine_->say("The events are on the clipboard");
+}
+
+void ManagerWindow::showShortcuts() { openShortcutsDialog(*this, *panel_); }
+
+void ManagerWindow::showAbout() {
+    auto* box =
+        new QMessageBox(QMessageBox::Information, "About Marvane Manager",
+                        "<h3>Marvane Manager " + QApplication::applicationVersion() + "</h3>",
+                        QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(
+        "The front panel of a four-channel power amplifier, for service and monitoring, with a "
+        "simulated amplifier behind it.\n\nUses Qt " +
+        QString(qVersion()) + ".");
+    box->open();
+}
+
+}  // namespace Orvo::Manager

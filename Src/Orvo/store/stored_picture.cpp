@@ -1,0 +1,105 @@
+#include <cstddef>
+#include <utility>
+
+#include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
+
+namespace Orvo::Runtime {
+
+using Widgets::Point;
+
+void StoredPicture::clear() {
+    observe({.verb = Verb::clear});
+    state_.current = {};
+    if (state_.drawing.empty()) return;
+    state_.drawing.clear();
+    changed();
+}
+
+void StoredPicture::setDrawWidth(Integer pixels) {
+    observe({.verb = Verb::setDrawWidth, .value = pixels});
+    state_.drawWidth = pixels;
+}
+
+void StoredPicture::setScaleMode(Widgets::ScaleMode mode) {
+    observe({.verb = Verb::setScaleMode, .value = static_cast<Integer>(mode)});
+}
+
+float StoredPicture::scaleWidth() const {
+    observe({.verb = Verb::readScaleWidth});
+    return static_cast<float>(width());
+}
+
+float StoredPicture::scaleHeight() const {
+    observe({.verb = Verb::readScaleHeight});
+    return static_cast<float>(height());
+}
+
+void StoredPicture::line(Point from, Point to, Colour colour) {
+    const LineSegment segment{from, to, colour};
+    observe({.verb = Verb::line, .value = segment});
+    draw(segment);
+}
+
+void StoredPicture::setCurrentX(float x) {
+    observe({.verb = Verb::setCurrentX, .value = x});
+    state_.current.x = x;
+}
+
+void StoredPicture::setCurrentY(float y) {
+    observe({.verb = Verb::setCurrentY, .value = y});
+    state_.current.y = y;
+}
+
+void StoredPicture::setForeColour(Colour text) {
+    observe({.verb = Verb::setForeColour, .value = text});
+    state_.foreColour = text;
+}
+
+void StoredPicture::setFontSize(float points) {
+    observe({.verb = Verb::setFontSize, .value = points});
+    state_.fontSize = points;
+}
+
+void StoredPicture::print(const String& text) {
+    observe({.verb = Verb::print, .value = text});
+    draw(DrawnText{state_.current, text, state_.foreColour, state_.fontSize});
+}
+
+void StoredPicture::polyline(std::vector<Point> points, Colour colour) {
+    std::size_t reached = store().isObserved() ? 0 : points.size();
+    const auto keep = [&] {
+        points.resize(reached);
+        if (reached > 1) draw(DrawnPolyline{std::move(points), colour});
+    };
+    try {
+        for (; reached < points.size(); ++reached) observePoint(points, reached, colour);
+    } catch (...) {
+        keep();
+        throw;
+    }
+    keep();
+}
+
+// What an observer sees of a block: the operations that it stands for.
+void StoredPicture::observePoint(std::span<const Point> points, std::size_t i, Colour colour) {
+    if (i == 0) return;
+    if (i > 1) observe({.verb = Verb::readScaleWidth});
+    if (i > 1) observe({.verb = Verb::readScaleHeight});
+    observe({.verb = Verb::line, .value = LineSegment{points[i - 1], points[i], colour}});
+}
+
+int StoredPicture::width() const {
+    return description().place.width / Layout::kTwipsPerPixel - 2 * kPictureBorder;
+}
+
+int StoredPicture::height() const {
+    return description().place.height / Layout::kTwipsPerPixel - 2 * kPictureBorder;
+}
+
+void StoredPicture::draw(Drawn drawn) {
+    state_.drawing.push_back(std::move(drawn));
+    changed();
+}
+
+}  // namespace Orvo::Runtime

@@ -1,0 +1,58 @@
+#include "Orvo/window/accessible/accessibility.h"
+
+#include <algorithm>
+#include <array>
+
+#include "Orvo/window/accessible/control_accessible.h"
+#include "Orvo/window/accessible/log_accessible.h"
+#include "Orvo/window/accessible/page_accessible.h"
+#include "Orvo/window/controls/scope.h"
+#include "Orvo/window/spoken/spoken.h"
+
+namespace Orvo::Window {
+
+namespace {
+
+template <class Widget, class Accessible>
+QAccessibleInterface* makeFor(QObject* object) {
+    auto* widget = dynamic_cast<Widget*>(object);
+    return widget != nullptr ? new Accessible(*widget) : nullptr;
+}
+
+class ScopeAccessible final : public QAccessibleWidget {
+public:
+    explicit ScopeAccessible(Scope& scope) : QAccessibleWidget(&scope, QAccessible::Chart) {}
+};
+
+constexpr auto kMakers = std::to_array<QAccessibleInterface* (*)(QObject*)>({
+    makeFor<Page, PageAccessible>,
+    makeFor<Slider, SliderAccessible>,
+    makeFor<OptionButton, CheckableAccessible>,
+    makeFor<PowerButton, CheckableAccessible>,
+    makeFor<ComboBox, ComboAccessible>,
+    makeFor<LogView, LogAccessible>,
+    makeFor<Scope, ScopeAccessible>,
+});
+
+// The name of the class would be a base's: these have none that the toolkit knows.
+QAccessibleInterface* make(const QString&, QObject* object) {
+    for (const auto maker : kMakers) {
+        if (QAccessibleInterface* made = maker(object)) return made;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void installAccessibility() { QAccessible::installFactory(make); }
+
+void announce(Page& page, WidgetId painted) {
+    if (!QAccessible::isActive()) return;
+    const WidgetId speaker = speakerOf(painted);
+    const auto& all = page.speakers();
+    if (!std::binary_search(all.begin(), all.end(), speaker)) return;
+    auto* known = dynamic_cast<PageAccessible*>(QAccessible::queryAccessibleInterface(&page));
+    if (known != nullptr) known->announce(speaker);
+}
+
+}  // namespace Orvo::Window

@@ -1,0 +1,127 @@
+#include "Orvo/window/controls/buttons.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "Artwork/Drawings/drawings.h"
+#include "Orvo/window/drawing/chrome.h"
+
+namespace Orvo::Window {
+
+CommandButton::CommandButton(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : PressButton(store, id, parent) {}
+
+// The caption isn't Qt's text, which would replace the shortcut by its own.
+void CommandButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor back = toQt(looks().back);
+    if (!isEnabled()) back = QColor::fromHsv(back.hue(), back.saturation() / 4, 140);
+    if (isEnabled() && underMouse() && !isDown()) back = back.lighter(108);
+    drawFace(painter, rect(), back, isDown() ? Face::sunken : Face::raised, zoom());
+
+    const int sunk = isDown() ? qRound(zoom()) : 0;
+    painter.setPen(isEnabled() ? toQt(looks().text) : QColor(84, 84, 84));
+    painter.drawText(rect().translated(sunk, sunk), Qt::AlignCenter | Qt::TextWordWrap,
+                     toQt(description().caption));
+    drawFocus(painter, *this, zoom());
+}
+
+OptionButton::OptionButton(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : PressButton(store, id, parent) {
+    setCheckable(true);
+}
+
+void OptionButton::refresh() {
+    PressButton::refresh();
+    setChecked(stored<Runtime::StoredOption>().value);
+    setFocusPolicy(isTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+bool OptionButton::isTabStop() const {
+    if (stored<Runtime::StoredOption>().value) return true;
+    for (WidgetId other = 0; other < Layout::kWidgetCount; ++other) {
+        const auto& widget = Layout::describe(other);
+        if (widget.container != description().container || widget.style.kind != looks().kind)
+            continue;
+        if (store().get<Runtime::StoredOption>(other).state().value) return false;
+    }
+    return true;
+}
+
+void OptionButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPointF centre = QRectF(rect()).center();
+    const double radius = 5.2 * zoom();
+    const QColor ring = isEnabled() ? QColor(225, 230, 238) : QColor(125, 130, 138);
+    painter.setPen(QPen(ring, 1.2 * zoom()));
+    painter.setBrush(isDown() || (isEnabled() && underMouse()) ? QColor(52, 60, 76)
+                                                               : QColor(20, 24, 32));
+    painter.drawEllipse(centre, radius, radius);
+    if (isChecked()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isEnabled() ? toQt(looks().text) : ring);
+        painter.drawEllipse(centre, radius / 2, radius / 2);
+    }
+    drawRoundFocus(painter, *this, zoom());
+}
+
+void OptionButton::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            return selectNext(-1);
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            return selectNext(+1);
+        default:
+            return PressButton::keyPressEvent(event);
+    }
+}
+
+// The focus goes first: selecting may be the end of all this.
+void OptionButton::selectNext(int step) {
+    constexpr int kCount = int(Layout::kWidgetCount);
+    for (int i = 1; i < kCount; ++i) {
+        const auto next = WidgetId((id() + kCount + step * i) % kCount);
+        const auto& widget = Layout::describe(next);
+        if (widget.container != description().container || widget.style.kind != looks().kind)
+            continue;
+        if (!store().acceptsInput(next)) continue;
+        const auto name = QLatin1StringView(widget.name.data(), qsizetype(widget.name.size()));
+        if (auto* button = parentWidget()->findChild<QWidget*>(name))
+            button->setFocus(Qt::TabFocusReason);
+        return input().activate(next);
+    }
+}
+
+PowerButton::PowerButton(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : PressButton(store, id, parent) {
+    setCheckable(true);
+}
+
+void PowerButton::refresh() {
+    PressButton::refresh();
+    setChecked(stored<Runtime::StoredCheck>().value == Widgets::CheckValue::checked);
+}
+
+void PowerButton::drawVeil(QPainter& painter, QColor colour) const {
+    const double radius = 3 * zoom();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawRoundedRect(rect(), radius, radius);
+}
+
+// Pressed in and let out again by turns; what the picture shows is also where it will go.
+void PowerButton::paintEvent(QPaintEvent*) {
+    const bool isSunken = isChecked() != isDown();
+    QPainter painter(this);
+    Artwork::paint(painter, isSunken ? Artwork::kPowerDown : Artwork::kPowerUp, rect());
+    if (!isEnabled()) drawVeil(painter, QColor(40, 46, 58, 170));
+    if (isEnabled() && underMouse()) drawVeil(painter, QColor(255, 255, 255, 20));
+    drawFocus(painter, *this, zoom());
+}
+
+}  // namespace Orvo::Window

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Orvo/window/controls/press_button.h"
+
+namespace Orvo::Window {
+
+class CommandButton final : public PressButton {
+public:
+    CommandButton(Runtime::Store& store, WidgetId id, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// One of the exclusive options of a container. The keyboard's tab stops at the selected one alone,
+/// the arrows go round the others.
+class OptionButton final : public PressButton {
+public:
+    OptionButton(Runtime::Store& store, WidgetId id, QWidget* parent);
+    void refresh() override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    [[nodiscard]] bool isTabStop() const;
+    void selectNext(int step);
+};
+
+/// A check box that looks like a power switch: up for off, down and lit for on.
+class PowerButton final : public PressButton {
+public:
+    PowerButton(Runtime::Store& store, WidgetId id, QWidget* parent);
+    void refresh() override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void drawVeil(QPainter& painter, QColor colour) const;
+};
+
+}  // namespace Orvo::Window

@@ -1,0 +1,70 @@
+#include "Orvo/window/controls/combo_box.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QSignalBlocker>
+
+#include "Orvo/window/drawing/chrome.h"
+
+namespace Orvo::Window {
+
+ComboBox::ComboBox(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : QComboBox(parent), Control(*this, store, id) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMaxVisibleItems(15);
+    // Qt goes on working with the box after it has told a pick; a handler may delete it only later.
+    connect(this, &QComboBox::textActivated, this, &ComboBox::pick, Qt::QueuedConnection);
+}
+
+void ComboBox::pick(const QString& text) {
+    const QPointer<QWidget> self = this;
+    input().pick(id(), fromQt(text));
+    if (self != nullptr) refresh();
+}
+
+void ComboBox::refresh() {
+    Control::refresh();
+    const auto& [text, items] = stored<Runtime::StoredCombo>();
+    const QSignalBlocker silence(this);
+    for (auto i = std::size_t(count()); i < items.size(); ++i) addItem(toQt(items[i]));
+    setCurrentIndex(findText(toQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    update();
+}
+
+void ComboBox::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF body = QRectF(rect()).adjusted(zoom() / 2, zoom() / 2, -zoom() / 2, -zoom() / 2);
+    const QColor ink = isEnabled() ? toQt(looks().text) : QColor(105, 105, 110);
+    painter.setPen(QPen(QColor(130, 134, 144), zoom()));
+    painter.setBrush(toQt(looks().back));
+    painter.drawRoundedRect(body, 2 * zoom(), 2 * zoom());
+
+    const double arrow = 3 * zoom();
+    const double right = width() - 4 * zoom();
+    const double middle = height() / 2.0;
+    painter.setPen(QPen(ink, 1.3 * zoom()));
+    painter.drawPolyline(QPolygonF({{right - 2 * arrow, middle - arrow / 2},
+                                    {right - arrow, middle + arrow / 2},
+                                    {right, middle - arrow / 2}}));
+    painter.setPen(ink);
+    painter.drawText(QRectF(5 * zoom(), 0, right - 2 * arrow - 6 * zoom(), height()),
+                     Qt::AlignLeft | Qt::AlignVCenter, toQt(stored<Runtime::StoredCombo>().text));
+    drawFocus(painter, *this, zoom());
+}
+
+void ComboBox::keyPressEvent(QKeyEvent* event) {
+    const String typed = typedBy(*event);
+    if (typed.empty()) return QComboBox::keyPressEvent(event);
+    const QPointer<QObject> self = this;
+    for (const char16_t character : typed) {
+        if (self) input().type(id(), Integer(character));
+    }
+}
+
+// It would change the amplifier in passing.
+void ComboBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+}  // namespace Orvo::Window

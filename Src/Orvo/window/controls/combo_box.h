@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "Orvo/window/controls/control.h"
+
+namespace Orvo::Window {
+
+/// Shows the store's text, which need not be one of the items. Characters go to the store, which
+/// edits the text or not; the list opens and picks as Qt has it.
+class ComboBox final : public QComboBox, public Control {
+public:
+    ComboBox(Runtime::Store& store, WidgetId id, QWidget* parent);
+    void refresh() override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void pick(const QString& text);
+};
+
+}  // namespace Orvo::Window

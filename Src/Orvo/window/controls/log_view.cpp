@@ -1,0 +1,190 @@
+#include "Orvo/window/controls/log_view.h"
+
+#include <algorithm>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QScrollBar>
+
+#include "Orvo/service/information_entry.h"
+#include "Orvo/window/controls/log_scroll_bar.h"
+#include "Orvo/window/drawing/chrome.h"
+
+namespace Orvo::Window {
+
+namespace {
+
+constexpr double kMargin = 4;  // left of the text, in pixels
+
+}  // namespace
+
+LogView::LogView(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : QAbstractItemView(parent), Control(*this, store, id), model_(stored<Runtime::StoredList>()) {
+    setModel(&model_);
+    setFrameShape(QFrame::NoFrame);
+    setVerticalScrollBar(new LogScrollBar);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSelectionMode(ExtendedSelection);
+    setFocusPolicy(Qt::StrongFocus);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+// The model ends before the view that Qt still keeps: let go of it in time.
+LogView::~LogView() { setModel(nullptr); }
+
+void LogView::layOut(const Scale& scale) {
+    Control::layOut(scale);
+    rowHeight_ = QFontMetrics(font()).height();
+    verticalScrollBar()->setFixedWidth(scale.thickness(11));
+    updateGeometries();
+}
+
+void LogView::refresh() {
+    Control::refresh();
+    const bool isAtEnd = top() == verticalScrollBar()->maximum();
+    model_.keepUp();
+    updateGeometries();
+    if (isAtEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+int LogView::top() const { return verticalScrollBar()->value(); }
+int LogView::visibleRows() const { return std::max(1, viewport()->height() / rowHeight_); }
+int LogView::verticalOffset() const { return top() * rowHeight_; }
+
+void LogView::updateGeometries() {
+    verticalScrollBar()->setPageStep(visibleRows());
+    verticalScrollBar()->setRange(0, std::max(0, rowCount() - visibleRows()));
+    QAbstractItemView::updateGeometries();
+}
+
+void LogView::scrollContentsBy(int, int) { viewport()->update(); }
+
+QRect LogView::visualRect(const QModelIndex& index) const {
+    return {0, (index.row() - top()) * rowHeight_, viewport()->width(), rowHeight_};
+}
+
+QModelIndex LogView::indexAt(const QPoint& point) const {
+    return point.y() < 0 ? QModelIndex() : model_.index(top() + point.y() / rowHeight_);
+}
+
+void LogView::scrollTo(const QModelIndex& index, ScrollHint) {
+    const int last = index.row() - visibleRows() + 1;
+    verticalScrollBar()->setValue(std::max(last, std::min(top(), index.row())));
+}
+
+QModelIndex LogView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
+    // Without a current line the first key starts where the person looks.
+    const int row = currentIndex().isValid() ? currentIndex().row() : top() - 1;
+    const auto rowAt = [this](int wanted) {
+        return model_.index(std::clamp(wanted, 0, std::max(0, rowCount() - 1)));
+    };
+    switch (action) {
+        case MoveUp:
+        case MovePrevious:
+            return rowAt(row - 1);
+        case MoveDown:
+        case MoveNext:
+            return rowAt(row + 1);
+        case MovePageUp:
+            return rowAt(row - visibleRows());
+        case MovePageDown:
+            return rowAt(row + visibleRows());
+        case MoveHome:
+            return rowAt(0);
+        case MoveEnd:
+            return rowAt(rowCount() - 1);
+        default:
+            return rowAt(row);
+    }
+}
+
+void LogView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
+    const auto rowAt = [this](int y) { return top() + qFloor(double(y) / rowHeight_); };
+    const int first = std::max(0, rowAt(rect.top()));
+    const int last = std::min(rowCount() - 1, rowAt(rect.bottom()));
+    if (first > last) return;
+    selectionModel()->select({model_.index(first), model_.index(last)}, command);
+}
+
+QRegion LogView::visualRegionForSelection(const QItemSelection& selection) const {
+    QRegion region;
+    for (const QItemSelectionRange& range : selection) {
+        region += visualRect(range.topLeft()).united(visualRect(range.bottomRight()));
+    }
+    return region & viewport()->rect();
+}
+
+void LogView::rowsInserted(const QModelIndex&, int start, int end) {
+    updateGeometries();
+    viewport()->update(visualRect(model_.index(start)).united(visualRect(model_.index(end))));
+}
+
+void LogView::currentChanged(const QModelIndex& current, const QModelIndex& before) {
+    QAbstractItemView::currentChanged(current, before);
+    if (!hasFocus() || !current.isValid()) return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(current.row());
+    QAccessible::updateAccessibility(&event);
+}
+
+// The one key that the panel waits for here is not left to a shortcut of the host's.
+bool LogView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const String typed = typedBy(static_cast<QKeyEvent&>(*event));
+        if (typed == String(1, InformationEntry::kStartKey)) event->accept();
+    }
+    return QAbstractItemView::event(event);
+}
+
+void LogView::keyPressEvent(QKeyEvent* event) {
+    const QPointer<QObject> self = this;
+    const String typed = typedBy(*event);
+    bool isTaken = typed.empty();
+    for (const char16_t character : typed) {
+        isTaken |= input().type(id(), Integer(character)) != 0;
+        if (!self) return;
+    }
+    if (!isTaken) return;
+    if (event->matches(QKeySequence::Copy)) return copy();
+    QAbstractItemView::keyPressEvent(event);
+}
+
+void LogView::copy() const {
+    QModelIndexList lines = selectionModel()->selectedIndexes();
+    std::sort(lines.begin(), lines.end());
+    QStringList texts;
+    for (const QModelIndex& line : lines) texts += line.data().toString();
+    QGuiApplication::clipboard()->setText(texts.join('\n'));
+}
+
+void LogView::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    const QRect dirty = event->rect();
+    painter.fillRect(dirty, toQt(looks().back));
+    const int last = std::min(rowCount() - 1, top() + dirty.bottom() / rowHeight_);
+    for (int row = top() + dirty.top() / rowHeight_; row <= last; ++row) drawRow(painter, row);
+    if (!hasFocus()) return;
+    painter.setPen(QPen(QColor(64, 156, 255), 2 * qRound(zoom())));
+    painter.drawRect(viewport()->rect());
+}
+
+void LogView::drawRow(QPainter& painter, int row) const {
+    const QModelIndex index = model_.index(row);
+    const QRect place = visualRect(index);
+    if (selectionModel()->isSelected(index)) painter.fillRect(place, QColor(0, 78, 22));
+    painter.setPen(isEnabled() ? toQt(looks().text) : toQt(looks().text).darker(160));
+    const int margin = qRound(kMargin * zoom());
+    const QRect line = place.adjusted(margin, 0, -margin, 0);
+    const QString text = index.data().toString();
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     painter.fontMetrics().elidedText(text, Qt::ElideRight, line.width()));
+}
+
+}  // namespace Orvo::Window

@@ -1,0 +1,85 @@
+#include "Orvo/window/controls/scope.h"
+
+#include <QFontMetricsF>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "Orvo/window/controls/trace.h"
+
+namespace Orvo::Window {
+
+Scope::Scope(Runtime::Store& store, WidgetId id, QWidget* parent)
+    : QWidget(parent), Control(*this, store, id) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void Scope::layOut(const Scale& scale) {
+    Control::layOut(scale);
+    picture_ = {};
+}
+
+void Scope::refresh() {
+    Control::refresh();
+    picture_ = {};
+    update();
+}
+
+QRect Scope::screen() const {
+    const int border = qRound(Runtime::kPictureBorder * zoom());
+    return rect().adjusted(border, border, -border, -border);
+}
+
+void Scope::paintEvent(QPaintEvent*) {
+    if (picture_.isNull() || picture_.devicePixelRatio() != devicePixelRatioF()) draw();
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(96, 104, 116));
+    painter.fillRect(rect().adjusted(0, 0, -qRound(zoom()), -qRound(zoom())), QColor(10, 12, 16));
+    painter.drawPixmap(screen().topLeft(), picture_);
+}
+
+void Scope::draw() {
+    const double ratio = devicePixelRatioF();
+    const auto& surface = store().get<Runtime::StoredPicture>(id());
+    picture_ = QPixmap(screen().size() * ratio);
+    across_ = picture_.width() / double(surface.width());
+    down_ = picture_.height() / double(surface.height());
+    picture_.fill(toQt(looks().back));
+    QPainter painter(&picture_);
+    for (const Runtime::Drawn& drawn : surface.state().drawing) {
+        std::visit([&](const auto& figure) { draw(painter, figure); }, drawn);
+    }
+    // Only now: until here one unit of the painter is one device pixel.
+    painter.end();
+    picture_.setDevicePixelRatio(ratio);
+}
+
+// A unit of the surface is a pixel, so a line runs along the middle of its row.
+void Scope::draw(QPainter& painter, const Runtime::LineSegment& line) const {
+    const bool isStraight = line.from.x == line.to.x || line.from.y == line.to.y;
+    painter.setRenderHint(QPainter::Antialiasing, !isStraight);
+    painter.setPen(QPen(toQt(line.colour), qMax(1, qRound(down_))));
+    painter.drawLine(QPointF((line.from.x + 0.5) * across_, (line.from.y + 0.5) * down_),
+                     QPointF((line.to.x + 0.5) * across_, (line.to.y + 0.5) * down_));
+}
+
+void Scope::draw(QPainter& painter, const Runtime::DrawnText& text) const {
+    Layout::Font font = looks().font;
+    if (text.points > 0) font.points = double(text.points);
+    painter.setFont(toQt(font, down_));
+    painter.setPen(toQt(text.colour));
+    const double baseline = text.at.y * down_ + QFontMetricsF(painter.font()).ascent();
+    painter.drawText(QPointF(text.at.x * across_, baseline), toQt(text.text));
+}
+
+// A beam, and the phosphor around it that it also makes shine.
+void Scope::draw(QPainter& painter, const Runtime::DrawnPolyline& polyline) const {
+    constexpr int kDimmer = 320;  // percent
+    const QList<QLine> lines = traceLines(polyline.points, across_, down_);
+    const int beam = qMax(1, qRound(down_));
+    painter.setPen(toQt(polyline.colour).darker(kDimmer));
+    drawHalo(painter, lines, beam, qMax(1, beam / 2));
+    painter.setPen(toQt(polyline.colour));
+    drawLines(painter, lines, beam);
+}
+
+}  // namespace Orvo::Window

@@ -1,0 +1,97 @@
+#include "Orvo/window/controls/tab_strip.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+namespace Orvo::Window {
+
+namespace {
+
+constexpr WidgetId kTabs = Layout::kTabs.id;
+
+struct TabColours {
+    QColor face;
+    QColor text;
+};
+
+TabColours coloursOf(int tab) {
+    if (tab == 0) return {{233, 235, 239}, toQt(Layout::kCommonText)};
+    return {{36, 43, 55}, toQt(Layout::kPairText)};
+}
+
+}  // namespace
+
+TabStrip::TabStrip(Runtime::Store& store, QWidget* parent)
+    : QTabBar(parent), Control(*this, store, kTabs) {
+    setDrawBase(false);
+    setExpanding(false);
+    setUsesScrollButtons(false);
+    setFocusPolicy(Qt::StrongFocus);
+    for (const auto caption : Layout::kTabCaptions) addTab(toQt(StringView(caption)));
+    connect(this, &QTabBar::currentChanged, this, &TabStrip::select);
+}
+
+void TabStrip::layOut(const Scale& scale) {
+    Control::layOut(scale);
+    const auto& place = description().place;
+    setGeometry(0, 0, scale.panelSize().width(), scale.pixels(place.top + Layout::kTabStripHeight));
+}
+
+void TabStrip::refresh() {
+    const auto& [current, enabled] = stored<Runtime::StoredTabs>();
+    const QSignalBlocker silence(this);
+    for (int tab = 0; tab < count(); ++tab) setTabEnabled(tab, enabled[std::size_t(tab)]);
+    setCurrentIndex(current);
+    setEnabled(store().acceptsInput(kTabs));
+    update();
+}
+
+void TabStrip::select(int tab) {
+    input().selectTab(kTabs, tab);
+    refresh();
+}
+
+void TabStrip::step(int direction) {
+    const int from = currentIndex();
+    for (int i = 1; i < count(); ++i) {
+        const int tab = (from + count() + direction * i) % count();
+        if (isTabEnabled(tab)) return select(tab);
+    }
+}
+
+QSize TabStrip::tabSizeHint(int index) const {
+    return {qCeil(widthOf(tabText(index), font())) + qRound(28 * zoom()), height()};
+}
+
+void TabStrip::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(70, 77, 90));
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int tab = 0; tab < count(); ++tab) drawTab(painter, tab);
+}
+
+void TabStrip::drawTab(QPainter& painter, int tab) const {
+    const bool isInFront = tab == currentIndex();
+    const QRectF place = QRectF(tabRect(tab)).adjusted(zoom(), 2 * zoom(), -zoom(), 0);
+    const TabColours colours =
+        isInFront ? coloursOf(tab) : TabColours{{92, 100, 115}, {222, 226, 233}};
+    painter.save();
+    painter.setClipRect(place);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isTabEnabled(tab) ? colours.face : QColor(78, 85, 98));
+    painter.drawRoundedRect(place.adjusted(0, 0, 0, 8 * zoom()), 4 * zoom(), 4 * zoom());
+    painter.restore();
+    painter.setPen(isTabEnabled(tab) ? colours.text : QColor(130, 137, 150));
+    painter.drawText(place, Qt::AlignCenter, tabText(tab));
+    if (!isInFront || !hasFocus()) return;
+    painter.setPen(QPen(QColor(64, 156, 255), 1.5 * zoom()));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(place.adjusted(2 * zoom(), 2 * zoom(), -2 * zoom(), -2 * zoom()),
+                            2 * zoom(), 2 * zoom());
+}
+
+void TabStrip::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+}  // namespace Orvo::Window

@@ -1,0 +1,58 @@
+#include "Orvo/window/drawing/fonts.h"
+
+#include <initializer_list>
+
+#include <QFontDatabase>
+
+// A static library's resources are its user's to register; this does it for them. The macro
+// doesn't work within a namespace.
+static void registerFiles() { Q_INIT_RESOURCE(orvo_fonts); }
+
+namespace Orvo::Window {
+
+namespace {
+
+struct Brought {
+    const char* named = "";
+    const char* family = "";
+    std::initializer_list<const char*> files;
+};
+
+// As wide as Arial and MS Serif to a fraction of a pixel; the extended face is close.
+const Brought kArial{"Arial",
+                     "Liberation Sans",
+                     {"LiberationSans-Regular", "LiberationSans-Bold", "LiberationSans-Italic"}};
+const Brought kSerif{"MS Serif", "Liberation Serif", {"LiberationSerif-Regular"}};
+const Brought kMicrogramma{"MicrogrammaDMedExt", "Michroma", {"Michroma-Regular"}};
+
+const Brought& broughtFor(Layout::Face face) {
+    switch (face) {
+        case Layout::Face::microgramma:
+            return kMicrogramma;
+        case Layout::Face::serif:
+            return kSerif;
+        case Layout::Face::arial:
+        case Layout::Face::standard:
+            break;
+    }
+    return kArial;
+}
+
+}  // namespace
+
+QStringList familiesOf(Layout::Face face) {
+    const Brought& brought = broughtFor(face);
+    return {brought.named, brought.family};
+}
+
+void provideFonts() {
+    registerFiles();
+    const QStringList installed = QFontDatabase::families();
+    for (const Brought* brought : {&kArial, &kSerif, &kMicrogramma}) {
+        if (installed.contains(brought->named) || installed.contains(brought->family)) continue;
+        for (const char* file : brought->files)
+            QFontDatabase::addApplicationFont(QString(":/orvo/fonts/%1.ttf").arg(file));
+    }
+}
+
+}  // namespace Orvo::Window

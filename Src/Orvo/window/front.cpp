@@ -1,0 +1,153 @@
+#include "Orvo/window/front.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QHideEvent>
+#include <QShortcut>
+
+#include "Orvo/window/accessible/accessibility.h"
+#include "Orvo/window/drawing/fonts.h"
+#include "Orvo/window/spoken/hints.h"
+
+namespace Orvo::Window {
+
+namespace {
+
+constexpr WidgetId kTabs = Layout::kTabs.id;
+constexpr int kFrameTime = 16;  // milliseconds
+
+bool isWithin(WidgetId widget, WidgetId container) {
+    while (widget != container && widget != Layout::kNoWidget) {
+        widget = Layout::describe(widget).container;
+    }
+    return widget == container;
+}
+
+}  // namespace
+
+Front::Front(std::shared_ptr<Runtime::Store> store, QWidget* parent, Clock clock)
+    : QWidget(parent), store_(std::move(store)) {
+    if (clock == Clock::real) ticker_.emplace(*store_);
+    frame_.setSingleShot(true);
+    frame_.setTimerType(Qt::PreciseTimer);
+    connect(&frame_, &QTimer::timeout, this, &Front::flush);
+    provideFonts();
+    installAccessibility();
+    setAccessibleName("Amplifier panel");
+    build();
+    layOut();
+    dirty_.set();
+    flush();
+    store_->showOn(this);
+    store_->promptWith(&prompt_);
+}
+
+// The children first, while there is a store that they can look at.
+Front::~Front() {
+    store_->showOn(nullptr);
+    store_->promptWith(nullptr);
+    qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+void Front::build() {
+    tabs_ = new TabStrip(*store_, this);
+    for (int tab = 0; tab < tabs_->count(); ++tab) pages_.push_back(new Page(*store_, tab, this));
+    for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
+        controls_[id] = makeControl(*store_, id, pages_[std::size_t(pageOf(id))]);
+    }
+    describeTo(*tabs_, kTabs);
+    tabs_->raise();
+    addTabShortcut(QKeySequence("Ctrl+Tab"), +1);
+    addTabShortcut(QKeySequence("Ctrl+Shift+Tab"), -1);
+}
+
+void Front::addTabShortcut(const QKeySequence& keys, int direction) {
+    auto* shortcut = new QShortcut(keys, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, tabs_, [this, direction] { tabs_->step(direction); });
+}
+
+void Front::setZoom(double zoom) {
+    scale_ = Scale(zoom);
+    layOut();
+}
+
+void Front::layOut() {
+    setFixedSize(scale_.panelSize());
+    tabs_->layOut(scale_);
+    for (Page* page : pages_) page->layOut(scale_);
+    for (Control* control : controls_) {
+        if (control != nullptr) control->layOut(scale_);
+    }
+}
+
+void Front::changed(WidgetId widget) {
+    if (widget == Layout::kNoWidget) {
+        const bool isBusy = store_->pointer() == Widgets::Pointer::hourglass;
+        return isBusy ? setCursor(Qt::WaitCursor) : unsetCursor();
+    }
+    if (Layout::describe(widget).style.kind == Layout::Kind::timer) {
+        if (ticker_) ticker_->arm();
+        return;
+    }
+    dirty_.set(widget);
+    scheduleFrame();
+}
+
+void Front::scheduleFrame() {
+    if (frame_.isActive()) return;
+    const qint64 since = sinceFrame_.isValid() ? sinceFrame_.elapsed() : kFrameTime;
+    frame_.start(int(qMax<qint64>(0, kFrameTime - since)));
+}
+
+void Front::flush() {
+    frame_.stop();
+    sinceFrame_.start();
+    for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
+        if (dirty_.test(id)) noteWithContents(id);
+    }
+    // What changes while this goes on is for the next frame.
+    const auto due = std::exchange(dirty_, {});
+    for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
+        if (due.test(id)) bringToScreen(id);
+    }
+}
+
+// What a container allows holds for all that it contains, and an option's fellows share the
+// keyboard's stop.
+void Front::noteWithContents(WidgetId widget) {
+    const Layout::Kind kind = Layout::describe(widget).style.kind;
+    const bool isOption = kind == Layout::Kind::option;
+    if (!isOption && kind != Layout::Kind::frame && kind != Layout::Kind::tabs) return;
+    const WidgetId container = isOption ? Layout::describe(widget).container : widget;
+    for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
+        if (isWithin(id, container) && (!isOption || Layout::describe(id).style.kind == kind)) {
+            dirty_.set(id);
+        }
+    }
+}
+
+void Front::bringToScreen(WidgetId widget) {
+    if (widget == kTabs) return bringTabToFront();
+    if (controls_[widget] != nullptr) return controls_[widget]->refresh();
+    Page& page = *pages_[std::size_t(pageOf(widget))];
+    if (page.repaintWidget(widget)) announce(page, widget);
+}
+
+// The focus that a page takes with it would go to whatever comes next in the host's window.
+void Front::bringTabToFront() {
+    tabs_->refresh();
+    for (Page* page : pages_) {
+        const bool isInFront = page->tab() == tabs_->currentIndex();
+        if (!isInFront && page->isAncestorOf(QApplication::focusWidget())) tabs_->setFocus();
+        page->setVisible(isInFront);
+    }
+}
+
+// A window that is only minimised comes back, and the prompt with it.
+void Front::hideEvent(QHideEvent* event) {
+    if (!event->spontaneous()) prompt_.withdraw();
+}
+
+}  // namespace Orvo::Window

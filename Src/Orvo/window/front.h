@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <bitset>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include "Orvo/window/clock.h"
+#include "Orvo/window/controls/control.h"
+#include "Orvo/window/controls/tab_strip.h"
+#include "Orvo/window/painted/page.h"
+#include "Orvo/window/prompt_dialog.h"
+#include "Orvo/window/ticker.h"
+
+namespace Orvo::Window {
+
+/// The screen of a store: the tab strip, the three pages and the controls on them. What the store
+/// reports as changed is noted and brought to the screen once per frame.
+class Front final : public QWidget, public Runtime::View {
+public:
+    explicit Front(std::shared_ptr<Runtime::Store> store, QWidget* parent = nullptr,
+                   Clock clock = Clock::real);
+    ~Front() override;
+
+    [[nodiscard]] double zoom() const { return scale_.zoom(); }
+    void setZoom(double zoom);
+
+    /// Brings what has changed to the screen now.
+    void flush();
+    void changed(WidgetId widget) override;
+
+protected:
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void build();
+    void layOut();
+    void addTabShortcut(const QKeySequence& keys, int direction);
+    void noteWithContents(WidgetId widget);
+    void scheduleFrame();
+    void bringToScreen(WidgetId widget);
+    void bringTabToFront();
+
+    const std::shared_ptr<Runtime::Store> store_;
+    Scale scale_{1.0};
+    TabStrip* tabs_ = nullptr;
+    std::vector<Page*> pages_;
+    std::array<Control*, Layout::kWidgetCount> controls_{};
+    std::bitset<Layout::kWidgetCount> dirty_;
+    QTimer frame_;
+    QElapsedTimer sinceFrame_;
+    std::optional<Ticker> ticker_;  // none when the clock is run by hand
+    PromptDialog prompt_{*this};
+};
+
+}  // namespace Orvo::Window

@@ -1,0 +1,132 @@
+#include "Orvo/window/painted/painted_kinds.h"
+
+#include <QPaintDevice>
+#include <QPainter>
+
+#include "Artwork/Drawings/drawings.h"
+#include "Orvo/window/drawing/text.h"
+
+namespace Orvo::Window {
+
+void PaintedLine::layOut(const Scale& scale) {
+    const auto& [x1, y1, x2, y2] = description().place;
+    const Corner corner = cornerOf(description().container);
+    line_ = {scale.point(corner.left + x1, corner.top + y1),
+             scale.point(corner.left + x2, corner.top + y2)};
+    thickness_ = scale.thickness(1.4);
+}
+
+QRect PaintedLine::bounds() const {
+    const QRect ends = QRect(line_.p1(), line_.p2()).normalized();
+    return ends.adjusted(-thickness_, -thickness_, thickness_, thickness_);
+}
+
+void PaintedLine::paint(QPainter& painter) const {
+    painter.setRenderHint(QPainter::Antialiasing, !isStraight());
+    painter.setPen(
+        QPen(toQt(stored<Runtime::StoredLine>().colour), thickness_, Qt::SolidLine, Qt::SquareCap));
+    painter.drawLine(line_);
+}
+
+void PaintedFrame::layOut(const Scale& scale) { place_ = scale.rect(id()); }
+
+QRect PaintedFrame::bounds() const { return place_; }
+
+void PaintedFrame::paint(QPainter& painter) const { painter.fillRect(place_, toQt(looks().back)); }
+
+void PaintedDigit::layOut(const Scale& scale) {
+    place_ = scale.rect(id());
+    zoom_ = scale.zoom();
+    QTransform cell;
+    cell.translate(place_.left(), place_.top());
+    cell.scale(scale.zoom(), scale.zoom());
+    for (int segment = 0; segment < kSegmentCount; ++segment) {
+        QPainterPath outline;
+        outline.addPolygon(segmentOutline(segment));
+        outline.closeSubpath();
+        segments_[std::size_t(segment)] = cell.map(outline);
+    }
+}
+
+QRect PaintedDigit::bounds() const { return place_; }
+
+// The unlit ones first, so that the light falls on them.
+void PaintedDigit::paint(QPainter& painter) const {
+    const auto digit = stored<Runtime::StoredDigit>().digit;
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const bool lit : {false, true}) {
+        for (int segment = 0; segment < kSegmentCount; ++segment) {
+            if ((digit && isLit(*digit, segment)) != lit) continue;
+            const QPainterPath& outline = segments_[std::size_t(segment)];
+            lit ? paintLit(painter, outline) : paintUnlit(painter, outline);
+        }
+    }
+}
+
+void PaintedDigit::paintLit(QPainter& painter, const QPainterPath& segment) const {
+    constexpr double kGlow = 1.5;  // pixels, half of it within the segment
+    QColor glow = toQt(looks().text);
+    glow.setAlpha(60);
+    painter.strokePath(segment, QPen(glow, kGlow * zoom_));
+    painter.fillPath(segment, toQt(looks().text));
+}
+
+// Some are as grey as the frame they are on: it is their engraved edge that shows.
+void PaintedDigit::paintUnlit(QPainter& painter, const QPainterPath& segment) const {
+    constexpr double kEdge = 0.6;  // pixels
+    painter.fillPath(segment, toQt(looks().back));
+    painter.strokePath(segment, QPen(toQt(looks().back).darker(125), kEdge * zoom_));
+}
+
+void PaintedScopeHeader::layOut(const Scale& scale) {
+    const auto& place = description().place;
+    const Corner corner = cornerOf(description().container);
+    place_ = scale.rect(corner.left + place.left, corner.top + place.top, place.width,
+                        Layout::kScopeTabHeight);
+    font_ = toQt(looks().font, scale.zoom());
+}
+
+QRect PaintedScopeHeader::bounds() const { return place_; }
+
+void PaintedScopeHeader::paint(QPainter& painter) const {
+    const QString text = toQt(description().caption);
+    const int margin = place_.height() / 2;
+    const int width = qCeil(widthOf(text, font_)) + 2 * margin;
+    const QRect tab(place_.topLeft(), QSize(width, place_.height()));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(tab);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(toQt(looks().back));
+    const double radius = place_.height() / 4.0;
+    painter.drawRoundedRect(QRectF(tab).adjusted(0, 0, 0, radius), radius, radius);
+    painter.setClipping(false);
+    painter.setFont(font_);
+    painter.setPen(toQt(looks().text));
+    // In the middle, and where the stems of small letters stand on whole pixels.
+    painter.drawText(QRectF(tab).adjusted(margin + 0.5, 0, 0, 0),
+                     Qt::AlignVCenter | Qt::TextDontClip, text);
+}
+
+void PaintedImage::layOut(const Scale& scale) {
+    place_ = scale.rect(id());
+    artwork_ = {};
+}
+
+QRect PaintedImage::bounds() const { return place_; }
+
+void PaintedImage::paint(QPainter& painter) const {
+    const double ratio = painter.device()->devicePixelRatioF();
+    if (artwork_.isNull() || artwork_.devicePixelRatio() != ratio) draw(ratio);
+    painter.drawPixmap(place_.topLeft(), artwork_);
+}
+
+void PaintedImage::draw(double devicePixelRatio) const {
+    artwork_ = QPixmap(place_.size() * devicePixelRatio);
+    artwork_.setDevicePixelRatio(devicePixelRatio);
+    QPainter painter(&artwork_);
+    const bool isCommon = looks().image == Layout::Image::commonTab;
+    Artwork::paint(painter, isCommon ? Artwork::kCommonTab : Artwork::kPairTab,
+                   QRectF(QPointF(), QSizeF(place_.size())));
+}
+
+}  // namespace Orvo::Window

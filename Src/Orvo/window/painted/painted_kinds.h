@@ -1,0 +1,129 @@
+#pragma once
+
+#include <array>
+
+#include <QFont>
+#include <QLine>
+#include <QPainterPath>
+#include <QPixmap>
+
+#include "Orvo/window/painted/painted.h"
+#include "Orvo/window/painted/segments.h"
+
+namespace Orvo::Window {
+
+/// One line of text may run over its place to the right, as the layout's places for results are as
+/// wide as the first text. The text that the layout gives is narrowed where it needs more.
+class PaintedLabel final : public Painted {
+public:
+    using Painted::Painted;
+    void layOut(const Scale& scale) override;
+    [[nodiscard]] QRect bounds() const override;
+    void paint(QPainter& painter) const override;
+
+private:
+    [[nodiscard]] QString text() const;
+    [[nodiscard]] QFont fontOfFirst() const;
+    [[nodiscard]] QFont font() const;
+    [[nodiscard]] QRect textPlace() const;
+    [[nodiscard]] int baseline() const;
+    void paintEdge(QPainter& painter, QColor colour) const;
+    void paintText(QPainter& painter) const;
+
+    QRect place_;
+    int edge_ = 1;  // pixels
+    QFont font_;
+    QFont firstFont_;
+};
+
+/// A lamp, a dot or an outline.
+class PaintedShape final : public Painted {
+public:
+    using Painted::Painted;
+    void layOut(const Scale& scale) override;
+    [[nodiscard]] QRect bounds() const override;
+    void paint(QPainter& painter) const override;
+
+private:
+    [[nodiscard]] bool isLamp() const;
+    [[nodiscard]] QRectF circle() const;
+    void paintOutline(QPainter& painter) const;
+    void paintLamp(QPainter& painter) const;
+    void paintGlow(QPainter& painter) const;
+
+    QRect place_;
+    double pen_ = 1;
+    double glow_ = 0;
+};
+
+class PaintedLine final : public Painted {
+public:
+    using Painted::Painted;
+    void layOut(const Scale& scale) override;
+    [[nodiscard]] QRect bounds() const override;
+    void paint(QPainter& painter) const override;
+
+private:
+    [[nodiscard]] bool isStraight() const { return line_.dx() == 0 || line_.dy() == 0; }
+
+    QLine line_;
+    int thickness_ = 1;
+};
+
+class PaintedFrame final : public Painted {
+public:
+    using Painted::Painted;
+    void layOut(const Scale& scale) override;
+    [[nodiscard]] QRect bounds() const override;
+    void paint(QPainter& painter) const override;
+
+private:
+    QRect place_;
+};
+
+/// Seven segments.
+class PaintedDigit final : public Painted {
+public:
+    using Painted::Painted;
+    void layOut(const Scale& scale) override;
+    [[nodiscard]] QRect bounds() const override;
+    void paint(QPainter& painter) const override;
+
+private:
+    void paintLit(QPainter& painter, const QPainterPath& segment) const;
+    void paintUnlit(QPainter& painter, const QPainterPath& segment) const;
+
+    QRect place_;
+    double zoom_ = 1;
+    std::array<QPainterPath, kSegmentCount> segments_;
+};
+
+/// The header with the one tab above a scope; the scope's surface is a control of its own.
+class PaintedScopeHeader final : public Painted {
+public:
+    using Painted::Painted;
+    void layOut(const Scale& scale) override;
+    [[nodiscard]] QRect bounds() const override;
+    void paint(QPainter& painter) const override;
+
+private:
+    QRect place_;
+    QFont font_;
+};
+
+/// The artwork behind everything, drawn once for each zoom and kept.
+class PaintedImage final : public Painted {
+public:
+    using Painted::Painted;
+    void layOut(const Scale& scale) override;
+    [[nodiscard]] QRect bounds() const override;
+    void paint(QPainter& painter) const override;
+
+private:
+    void draw(double devicePixelRatio) const;
+
+    QRect place_;
+    mutable QPixmap artwork_;
+};
+
+}  // namespace Orvo::Window

@@ -1,0 +1,89 @@
+#include <QPainter>
+#include <QRadialGradient>
+
+#include "Orvo/window/drawing/text.h"
+#include "Orvo/window/painted/painted_kinds.h"
+
+namespace Orvo::Window {
+
+namespace {
+
+constexpr double kGlow = 5;  // pixels around a lit lamp
+
+QColor withAlpha(QColor colour, int alpha) {
+    colour.setAlpha(alpha);
+    return colour;
+}
+
+}  // namespace
+
+void PaintedShape::layOut(const Scale& scale) {
+    place_ = scale.rect(id());
+    pen_ = scale.measure(1);
+    glow_ = isLamp() ? scale.measure(kGlow) : 0;
+}
+
+bool PaintedShape::isLamp() const {
+    return looks().outline == Layout::Outline::circle && looks().fill != looks().back;
+}
+
+QRectF PaintedShape::circle() const {
+    const double diameter = qMin(place_.width(), place_.height());
+    QRectF circle(0, 0, diameter, diameter);
+    circle.moveCenter(QRectF(place_).center());
+    return circle;
+}
+
+QRect PaintedShape::bounds() const {
+    const int margin = qCeil(glow_) + 1;
+    return place_.adjusted(-margin, -margin, margin, margin);
+}
+
+void PaintedShape::paint(QPainter& painter) const {
+    if (looks().outline == Layout::Outline::rectangle) return paintOutline(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isLamp()) return paintLamp(painter);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(toQt(looks().border));
+    painter.drawEllipse(circle());
+}
+
+void PaintedShape::paintOutline(QPainter& painter) const {
+    const double half = pen_ / 2;
+    painter.setPen(QPen(withAlpha(toQt(looks().border), 150), pen_));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(place_).adjusted(half, half, -half, -half));
+}
+
+void PaintedShape::paintLamp(QPainter& painter) const {
+    const bool isLit = stored<Runtime::StoredShape>().fillStyle == Widgets::FillStyle::solid;
+    const QColor colour = toQt(isLit ? looks().fill : looks().back);
+    const QRectF lamp = circle().adjusted(pen_ / 2, pen_ / 2, -pen_ / 2, -pen_ / 2);
+    if (isLit) paintGlow(painter);
+
+    painter.setPen(QPen(QColor(136, 144, 158, 150), pen_));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(circle().adjusted(-pen_ / 2, -pen_ / 2, pen_ / 2, pen_ / 2));
+
+    const double radius = lamp.width() / 2;
+    QRadialGradient glass(lamp.center(), radius, lamp.center() - QPointF(radius, radius) * 0.4);
+    glass.setColorAt(0, isLit ? colour.lighter(175) : colour.lighter(165));
+    glass.setColorAt(isLit ? 0.55 : 0.4, colour);
+    glass.setColorAt(1, isLit ? colour.darker(112) : colour.darker(130));
+    painter.setPen(QPen(toQt(looks().border), pen_));
+    painter.setBrush(glass);
+    painter.drawEllipse(lamp);
+}
+
+void PaintedShape::paintGlow(QPainter& painter) const {
+    const QRectF lamp = circle();
+    const double outer = lamp.width() / 2 + glow_;
+    QRadialGradient halo(lamp.center(), outer);
+    halo.setColorAt(lamp.width() / 2 / outer, withAlpha(toQt(looks().fill), 130));
+    halo.setColorAt(1, withAlpha(toQt(looks().fill), 0));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(halo);
+    painter.drawEllipse(lamp.center(), outer, outer);
+}
+
+}  // namespace Orvo::Window

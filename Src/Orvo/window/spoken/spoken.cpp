@@ -1,0 +1,128 @@
+#include "Orvo/window/spoken/spoken.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Orvo/monitor/volume.h"
+#include "Orvo/window/drawing/slider_track.h"
+#include "Orvo/window/drawing/text.h"
+#include "Orvo/window/spoken/names.h"
+
+namespace Orvo::Window {
+
+namespace {
+
+using Layout::Kind;
+
+Kind kindOf(WidgetId id) { return Layout::describe(id).style.kind; }
+
+QString captionOf(const Runtime::Store& store, WidgetId label) {
+    return toQt(store.get<Runtime::StoredLabel>(label).state().caption).trimmed();
+}
+
+bool isLit(const Runtime::Store& store, WidgetId lamp) {
+    return store.get<Runtime::StoredShape>(lamp).state().fillStyle == Widgets::FillStyle::solid;
+}
+
+bool isOn(const Runtime::Store& store, WidgetId check) {
+    return store.get<Runtime::StoredCheck>(check).state().value == Widgets::CheckValue::checked;
+}
+
+// A readout's sign, if it has one, is the label in front of it.
+bool isNegative(const Runtime::Store& store, WidgetId firstDigit) {
+    const auto before = WidgetId(firstDigit - 1);
+    return kindOf(before) == Kind::label && captionOf(store, before) == "-";
+}
+
+std::optional<int> numberOnReadout(const Runtime::Store& store, WidgetId firstDigit) {
+    int number = 0;
+    for (const WidgetId id : readoutOf(firstDigit)) {
+        const auto digit = store.get<Runtime::StoredDigit>(id).state().digit;
+        if (!digit) return std::nullopt;
+        number = 10 * number + *digit;
+    }
+    return isNegative(store, firstDigit) ? -number : number;
+}
+
+QString traceOn(const Runtime::Store& store, WidgetId picture) {
+    for (const auto& drawn : store.get<Runtime::StoredPicture>(picture).state().drawing) {
+        const auto* trace = std::get_if<Runtime::DrawnPolyline>(&drawn);
+        if (trace != nullptr) return QString("trace of %1 samples").arg(trace->points.size());
+    }
+    return "no trace";
+}
+
+QString textOf(const Runtime::Store& store, WidgetId label) {
+    const QString text = captionOf(store, label);
+    return text.isEmpty() || text == "-" ? "no result" : text;
+}
+
+}  // namespace
+
+std::vector<WidgetId> readoutOf(WidgetId digit) {
+    std::vector<WidgetId> digits;
+    for (WidgetId id = speakerOf(digit); kindOf(id) == Kind::digit; ++id) digits.push_back(id);
+    return digits;
+}
+
+// A label stands in front of every readout.
+WidgetId speakerOf(WidgetId id) {
+    if (kindOf(id) == Kind::label && kindOf(WidgetId(id + 1)) == Kind::digit) ++id;
+    if (kindOf(id) != Kind::digit) return id;
+    while (kindOf(WidgetId(id - 1)) == Kind::digit) --id;
+    return id;
+}
+
+int measureAt(WidgetId slider, int position) {
+    return zeroOf(slider) == ZeroAt::top ? volumeAt(Integer(position)) : position;
+}
+
+int positionAt(const Runtime::Store& store, WidgetId slider, double measure) {
+    const auto& state = store.get<Runtime::StoredSlider>(slider).state();
+    const auto [least, most] = std::minmax(
+        {measureAt(slider, Runtime::SliderState::kMinimum), measureAt(slider, state.maximum)});
+    const auto within = Integer(std::lround(std::clamp<double>(measure, least, most)));
+    return zeroOf(slider) == ZeroAt::top ? sliderPosition(within) : within;
+}
+
+std::optional<int> numberOf(const Runtime::Store& store, WidgetId id) {
+    switch (kindOf(id)) {
+        case Kind::shape:
+            return int(isLit(store, id));
+        case Kind::digit:
+            return numberOnReadout(store, speakerOf(id));
+        case Kind::slider:
+            return measureAt(id, store.get<Runtime::StoredSlider>(id).state().shown());
+        default:
+            return std::nullopt;
+    }
+}
+
+QString valueOf(const Runtime::Store& store, WidgetId id) {
+    switch (kindOf(id)) {
+        case Kind::shape:
+            return isLit(store, id) ? "lit" : "dark";
+        case Kind::label:
+            return textOf(store, id);
+        case Kind::picture:
+            return traceOn(store, id);
+        case Kind::combo:
+            return toQt(store.get<Runtime::StoredCombo>(id).state().text);
+        case Kind::check:
+            return isOn(store, id) ? "on" : "off";
+        case Kind::digit:
+        case Kind::slider:
+            break;
+        default:
+            return {};
+    }
+    const auto number = numberOf(store, id);
+    return number ? QString("%1 %2").arg(*number).arg(unitOf(speakerOf(id))) : "no value";
+}
+
+QString sentenceOf(const Runtime::Store& store, WidgetId id) {
+    const QString value = valueOf(store, id);
+    return value.isEmpty() ? nameOf(id) : nameOf(id) + ": " + value;
+}
+
+}  // namespace Orvo::Window

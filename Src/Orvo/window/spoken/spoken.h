@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include <QString>
+
+#include "Orvo/store/store.h"
+
+// What the named widgets say, in words. A lamp says "lit" or "dark", a readout "-42 V", a result
+// "PASS", a slider "-10 dB", a scope "trace of 240 samples".
+namespace Orvo::Window {
+
+using Widgets::WidgetId;
+
+/// Empty for widgets that have no state to tell, such as buttons.
+QString valueOf(const Runtime::Store& store, WidgetId id);
+
+/// A lamp's 0 or 1, the number on a readout and what a slider's position stands for.
+std::optional<int> numberOf(const Runtime::Store& store, WidgetId id);
+
+/// "Protection channel 1: lit"; the name alone where there is no value.
+QString sentenceOf(const Runtime::Store& store, WidgetId id);
+
+/// The digits of the readout that a digit belongs to, the highest first.
+std::vector<WidgetId> readoutOf(WidgetId digit);
+
+/// The widget that speaks for this one: for a readout's sign and digits the first digit, else the
+/// widget itself.
+WidgetId speakerOf(WidgetId id);
+
+/// What a slider's position stands for: a volume in dB, or a temperature.
+int measureAt(WidgetId slider, int position);
+/// The position, within the slider's bounds, that is nearest to a measure.
+int positionAt(const Runtime::Store& store, WidgetId slider, double measure);
+
+}  // namespace Orvo::Window

@@ -1,0 +1,122 @@
+#include "Reference/reference.h"
+
+#include <span>
+
+#include "Reference/reference_prose.h"
+#include "Reference/reference_texts.h"
+#include "Script/help.h"
+#include "Script/text_of.h"
+
+namespace Orvo::Script {
+namespace {
+
+std::string cells(std::initializer_list<std::string_view> texts) {
+    std::string row = "|";
+    for (const std::string_view text : texts) {
+        row += ' ';
+        // A bar would end the cell.
+        for (const char letter : text) row += letter == '|' ? "\\|" : std::string(1, letter);
+        row += " |";
+    }
+    return row + '\n';
+}
+
+std::string heading(std::initializer_list<std::string_view> titles) {
+    std::string rule = "|";
+    for (std::size_t i = 0; i < titles.size(); ++i) rule += " --- |";
+    return cells(titles) + rule + '\n';
+}
+
+std::string code(std::string_view text) { return '`' + std::string(text) + '`'; }
+
+std::string_view placeText(Place place) {
+    switch (place) {
+        case Place::inMemory:
+            return " (Without a window only.)";
+        case Place::inWindow:
+            return " (With a window only.)";
+        default:
+            return "";
+    }
+}
+
+std::string commandsOf(Side side) {
+    std::string text = heading({"command", "effect"});
+    for (const Command& command : allCommands()) {
+        if (command.side != side) continue;
+        text += cells(
+            {code(usage(command)), std::string(command.help).append(placeText(command.place))});
+    }
+    return text + '\n';
+}
+
+std::string parameterText(const Parameter& parameter) {
+    return code(parameter.name) + ' ' + std::string(nameOf(parameter.type)) +
+           (parameter.passing == Passing::byValue ? " by value" : "");
+}
+
+std::string parametersText(std::span<const Parameter> parameters) {
+    std::string text;
+    for (const Parameter& parameter : parameters) {
+        text += (text.empty() ? "" : ", ") + parameterText(parameter);
+    }
+    return text;
+}
+
+std::string memberRow(const Member& member) {
+    const bool hasResult = member.result != ValueType::none;
+    return cells({std::to_string(member.number), code(member.name), nameOf(member.kind),
+                  code(dispatchIdText(member.dispatchId)), parametersText(member.parameters()),
+                  hasResult ? nameOf(member.result) : ""});
+}
+
+std::string eventRow(const Event& event) {
+    return cells(
+        {std::to_string(event.dispatchId), code(event.name), parametersText(event.parameters())});
+}
+
+std::string memberTable() {
+    std::string text = heading({"number", "member", "kind", "dispatch id", "parameters", "result"});
+    for (const Member& member : kMembers) text += memberRow(member);
+    return text + '\n';
+}
+
+std::string memberTexts() {
+    std::string text = heading({"member", "effect", "units and ranges", "errors"});
+    for (const MemberText& row : kMemberTexts) {
+        text += cells({code(row.name), row.text, row.values, row.errors});
+    }
+    return text + '\n';
+}
+
+std::string eventTable() {
+    std::string text = heading({"dispatch id", "event", "arguments"});
+    for (const Event& event : kEvents) text += eventRow(event);
+    return text + '\n';
+}
+
+std::string eventTexts() {
+    std::string text = heading({"event", "raised when", "units and ranges"});
+    for (const EventText& row : kEventTexts) {
+        text += cells({code(row.name), row.text, row.values});
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string scriptReference() {
+    std::string text(kScriptIntroduction);
+    text.append(kHostIntroduction).append(commandsOf(Side::host));
+    text.append(kPersonIntroduction).append(commandsOf(Side::person));
+    text.append(kLookingIntroduction).append(commandsOf(Side::looking));
+    return text.append(kScriptEnd);
+}
+
+std::string interfaceReference() {
+    std::string text(kInterfaceIntroduction);
+    text.append(memberTable()).append(memberTexts());
+    return text.append(kEventsIntroduction).append(eventTable()).append(eventTexts());
+}
+
+}  // namespace Orvo::Script

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Script/command.h"
+
+namespace Orvo::Script {
+
+/// The word that asks for help at a terminal; it is no command of the language.
+constexpr std::string_view kHelp = "help";
+
+/// The command as it is written: its name and what follows it.
+std::string usage(const Command& command);
+
+/// The answer to "help" and "help COMMAND", on one or more lines, of what may be said where the
+/// line comes from; none when the line asks for no help.
+std::optional<std::string> help(std::string_view line, const Grammar& grammar);
+
+}  // namespace Orvo::Script

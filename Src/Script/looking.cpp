@@ -1,0 +1,237 @@
+#include "Script/looking.h"
+
+#include <concepts>
+#include <cstddef>
+
+#include "Script/answers.h"
+#include "Script/session.h"
+
+namespace Orvo::Script::Looking {
+namespace {
+
+using namespace Runtime;
+
+// "name=value" behind a blank.
+std::string property(std::string_view name, std::string_view value) {
+    return ' ' + std::string(name) + '=' + std::string(value);
+}
+
+template <std::integral Number>
+std::string property(std::string_view name, Number value) {
+    return property(name, std::to_string(value));
+}
+
+std::string property(std::string_view name, bool value) { return property(name, textOf(value)); }
+std::string property(std::string_view name, const String& value) {
+    return property(name, textOf(StringView(value)));
+}
+std::string property(std::string_view name, Colour value) { return property(name, textOf(value)); }
+
+std::string enabled(const StoredWidget& widget) { return property("enabled", widget.isEnabled()); }
+
+std::string properties(const StoredLabel& label) {
+    return property("caption", label.state().caption) + property("color", label.state().colour);
+}
+
+std::string properties(const StoredShape& shape) {
+    const bool isSolid = shape.state().fillStyle == Widgets::FillStyle::solid;
+    return property("fill", std::string_view(isSolid ? "solid" : "transparent"));
+}
+
+std::string properties(const StoredLine& line) { return property("color", line.state().colour); }
+
+std::string properties(const StoredOption& option) {
+    return property("value", option.state().value) + enabled(option);
+}
+
+std::string properties(const StoredCheck& check) {
+    return property("value", static_cast<int>(check.state().value)) + enabled(check);
+}
+
+std::string properties(const StoredButton& button) { return enabled(button); }
+
+std::string properties(const StoredCombo& combo) {
+    return property("text", combo.state().text) + property("items", combo.state().items.size()) +
+           enabled(combo);
+}
+
+std::string properties(const StoredList& list) {
+    return property("items", list.state().items.size());
+}
+
+std::string properties(const StoredTimer& timer) {
+    return enabled(timer) + property("interval", timer.state().interval.count());
+}
+
+std::string properties(const StoredPicture& picture) {
+    return property("width", picture.width()) + property("height", picture.height());
+}
+
+std::string properties(const StoredTabs& tabs) {
+    std::string list;
+    for (const bool isEnabled : tabs.state().enabled) {
+        list.append(list.empty() ? "" : ",").append(textOf(isEnabled));
+    }
+    return property("tab", tabs.state().current) + property("enabled", std::string_view(list));
+}
+
+std::string properties(const StoredDigit& digit) {
+    const auto shown = digit.state().digit;
+    return property("value", shown ? std::string_view(std::to_string(*shown)) : "none");
+}
+
+std::string properties(const StoredSlider& slider) {
+    const SliderState& state = slider.state();
+    return property("position", state.position) + property("maximum", state.maximum) +
+           enabled(slider) + property("held", state.isHeld);
+}
+
+std::string propertiesOf(const Store& widgets, WidgetId id) {
+    switch (Layout::describe(id).style.kind) {
+        case Kind::label:
+            return properties(widgets.get<StoredLabel>(id));
+        case Kind::shape:
+            return properties(widgets.get<StoredShape>(id));
+        case Kind::line:
+            return properties(widgets.get<StoredLine>(id));
+        case Kind::button:
+            return properties(widgets.get<StoredButton>(id));
+        case Kind::option:
+            return properties(widgets.get<StoredOption>(id));
+        case Kind::check:
+            return properties(widgets.get<StoredCheck>(id));
+        case Kind::combo:
+            return properties(widgets.get<StoredCombo>(id));
+        case Kind::list:
+            return properties(widgets.get<StoredList>(id));
+        case Kind::picture:
+            return properties(widgets.get<StoredPicture>(id));
+        case Kind::timer:
+            return properties(widgets.get<StoredTimer>(id));
+        case Kind::tabs:
+            return properties(widgets.get<StoredTabs>(id));
+        case Kind::digit:
+            return properties(widgets.get<StoredDigit>(id));
+        case Kind::slider:
+            return properties(widgets.get<StoredSlider>(id));
+        case Kind::frame:
+        case Kind::image:
+            break;
+    }
+    return {};
+}
+
+template <class Items>
+std::string listed(Session& session, const Items& items) {
+    for (const String& item : items) session.row(textOf(StringView(item)));
+    return resultIs(std::to_string(items.size()));
+}
+
+// Lists what is drawn, and counts the rows.
+class DrawingList {
+public:
+    explicit DrawingList(Session& session) : session_(session) {}
+
+    void operator()(const LineSegment& line) {
+        row("line " + textOf(line.from) + ' ' + textOf(line.to) + ' ' + textOf(line.colour));
+    }
+
+    void operator()(const DrawnPolyline& polyline) {
+        for (std::size_t i = 1; i < polyline.points.size(); ++i) {
+            (*this)(LineSegment{polyline.points[i - 1], polyline.points[i], polyline.colour});
+        }
+    }
+
+    void operator()(const DrawnText& text) {
+        row("text " + textOf(text.at) + ' ' + textOf(StringView(text.text)) + ' ' +
+            textOf(text.colour) + ' ' + textOf(text.points));
+    }
+
+    [[nodiscard]] std::size_t count() const { return count_; }
+
+private:
+    void row(const std::string& text) {
+        session_.row(text);
+        ++count_;
+    }
+
+    Session& session_;
+    std::size_t count_ = 0;
+};
+
+std::string_view containerOf(const Layout::Widget& widget) {
+    if (widget.container == Layout::kNoWidget) return "MarvaneAssistant";
+    return Layout::describe(widget.container).name;
+}
+
+}  // namespace
+
+std::string describe(const Store& widgets, WidgetId widget) {
+    const Kind kind = Layout::describe(widget).style.kind;
+    const bool showsItself = kind != Kind::timer;
+    return std::string(nameOf(kind)) +
+           (showsItself ? property("visible", widgets.widget(widget).isVisible()) : "") +
+           propertiesOf(widgets, widget);
+}
+
+std::string show(Session& session, const Shown& widget) {
+    const Store& widgets = session.bench().widgets();
+    if (widget.id != Layout::kNoWidget) return resultIs(describe(widgets, widget.id));
+    return resultIs("screen" + property("pointer", static_cast<int>(widgets.pointer())));
+}
+
+std::string items(Session& session, const ItemHolder& widget) {
+    const Store& widgets = session.bench().widgets();
+    if (Layout::describe(widget.id).style.kind == Kind::combo) {
+        return listed(session, widgets.get<StoredCombo>(widget.id).state().items);
+    }
+    return listed(session, widgets.get<StoredList>(widget.id).state().items);
+}
+
+std::string drawing(Session& session, const Picture& picture) {
+    DrawingList list(session);
+    const auto& widgets = session.bench().widgets();
+    for (const Drawn& drawn : widgets.get<StoredPicture>(picture.id).state().drawing) {
+        std::visit(list, drawn);
+    }
+    return resultIs(std::to_string(list.count()));
+}
+
+std::string widgets(Session& session) {
+    for (const Layout::Widget& widget : Layout::kWidgets) {
+        session.row(std::string(widget.name)
+                        .append(" ")
+                        .append(nameOf(widget.style.kind))
+                        .append(" ")
+                        .append(containerOf(widget)));
+    }
+    return resultIs(std::to_string(Layout::kWidgetCount));
+}
+
+std::string pointer(Session& session, const PointerNumber& number) {
+    session.bench().widgets().screen().setPointer(number.pointer);
+    return ok();
+}
+
+std::string set(Session& session, const AnyWidget& widget, const LayoutProperty& property,
+                const Truth& value) {
+    Store& widgets = session.bench().widgets();
+    if (property.property == LayoutProperty::enabled) {
+        widgets.enable(widget.id, value.value);
+    } else {
+        widgets.show(widget.id, value.value);
+    }
+    return ok();
+}
+
+std::string shot(Session& session, const File& file) {
+    session.bench().shoot(file.name);
+    return ok();
+}
+
+std::string quit(Session& session) {
+    session.quit();
+    return ok();
+}
+
+}  // namespace Orvo::Script::Looking

@@ -1,0 +1,168 @@
+#include "Script/session.h"
+
+#include <utility>
+
+#include "Script/text_of.h"
+
+namespace Orvo::Script {
+namespace {
+
+// How deep handlers may start one another before the script runs out of stack space.
+constexpr std::size_t kDeepest = 64;
+
+// For each event: a link that never ends must not fill the memory.
+constexpr std::size_t kMostHandlers = 100;
+
+Error outOfStackSpace() { return {28, "Out of stack space"}; }
+
+std::string failure(const Error& error) { return "! " + textOf(error); }
+
+}  // namespace
+
+// A command while it runs, with the first error that it left to nobody.
+class Session::Frame {
+public:
+    explicit Frame(Session& session)
+        : session_(session), outer_(std::exchange(session.frame_, this)) {}
+    ~Frame() { session_.frame_ = outer_; }
+    Frame(const Frame&) = delete;
+    Frame& operator=(const Frame&) = delete;
+
+    std::optional<Error> error;  // NOLINT(*-non-private-member-variables-in-classes)
+
+private:
+    Session& session_;
+    Frame* outer_;
+};
+
+// What is done in the midst of a command, one level deeper.
+class Session::Midst {
+public:
+    explicit Midst(Session& session) : session_(session) {
+        if (session_.depth_++ == 0) session_.isExhausted_ = false;
+    }
+    ~Midst() { --session_.depth_; }
+    Midst(const Midst&) = delete;
+    Midst& operator=(const Midst&) = delete;
+
+private:
+    Session& session_;
+};
+
+Session::Session(Bench& bench, const Grammar& grammar, Output output)
+    : bench_(bench), grammar_(grammar), output_(std::move(output)) {
+    bench_.tell(this);
+}
+
+std::optional<Misunderstood> Session::run(std::string_view text) {
+    firstComplaint_.reset();
+    try {
+        const std::vector<Word> words = split(text);
+        if (!words.empty()) perform(parse(words, grammar_));
+    } catch (const Misunderstood& misunderstood) {
+        line(complaint(misunderstood));
+    }
+    return std::exchange(firstComplaint_, std::nullopt);
+}
+
+void Session::row(std::string_view text) { line("- " + std::string(text)); }
+
+void Session::remember(const Event& event, Action action) {
+    if (handlersOf(event).size() == kMostHandlers) throw Errors::outOfMemory();
+    handlersOf(event).push_back(std::make_shared<Handler>(Handler{std::move(action)}));
+}
+
+void Session::forget(const Event& event) {
+    for (const auto& handler : handlersOf(event)) handler->isForgotten = true;
+    handlersOf(event).clear();
+}
+
+void Session::renew() {
+    for (const Event& event : kEvents) forget(event);
+    queue_.clear();
+    bench_.renew();
+}
+
+void Session::raised(const Event& event, std::span<const Value> arguments) {
+    line(eventText(event, arguments));
+    const Midst midst(*this);
+    handle(Handlers(handlersOf(event)));
+    performQueued();
+    takeQueued<Resumption>();
+}
+
+void Session::handle(const Handlers& handlers) {
+    for (const auto& handler : handlers) {
+        if (!handler->isForgotten && !isExhausted_) perform(handler->action);
+    }
+}
+
+template <class What>
+std::optional<What> Session::takeQueued() {
+    if (queue_.empty() || !std::holds_alternative<What>(queue_.front())) return std::nullopt;
+    auto taken = std::get<What>(std::move(queue_.front()));
+    queue_.pop_front();
+    return taken;
+}
+
+void Session::performQueued() {
+    while (const auto action = takeQueued<Action>()) perform(*action);
+}
+
+void Session::failed(const Error& error) {
+    if (frame_ != nullptr && !frame_->error) frame_->error = error;
+}
+
+std::optional<String> Session::asked(const Widgets::Question& question) {
+    std::optional<String> answer = queuedAnswer();
+    const std::string typed = answer ? textOf(StringView(*answer)) : "cancel";
+    line("prompt " + textOf(StringView(question.text)) + ' ' + textOf(StringView(question.title)) +
+         " -> " + typed);
+    return answer;
+}
+
+// What ends nothing but an event's part of the queue is passed over.
+std::optional<String> Session::queuedAnswer() {
+    const Midst midst(*this);
+    do {
+        performQueued();
+    } while (takeQueued<Resumption>());
+    const auto answer = takeQueued<Answer>();
+    return answer ? answer->text : std::nullopt;
+}
+
+void Session::perform(const Action& action) {
+    if (depth_ > kDeepest) {
+        isExhausted_ = true;
+        return line(failure(outOfStackSpace()));
+    }
+    line(closingLine(action));
+}
+
+std::string Session::closingLine(const Action& action) {
+    Frame frame(*this);
+    try {
+        std::string closing = action(*this);
+        return frame.error ? failure(*frame.error) : closing;
+    } catch (const Error& error) {
+        return failure(error);
+    } catch (const Misunderstood& misunderstood) {
+        return complaint(misunderstood);
+    }
+}
+
+std::string Session::complaint(const Misunderstood& misunderstood) {
+    if (!firstComplaint_) firstComplaint_ = misunderstood;
+    return "? " + misunderstood.text;
+}
+
+void Session::line(std::string_view text) {
+    if (depth_ == 0) return output_(text);
+    output_(std::string(2 * depth_, ' ').append(text));
+}
+
+Session::Handlers& Session::handlersOf(const Event& event) {
+    return handlers_[static_cast<std::size_t>(&event - kEvents.data())];
+}
+
+}  // namespace Orvo::Script

@@ -1,0 +1,111 @@
+#include "Orvo/store/store.h"
+
+#include <functional>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "Support/recorder.h"
+
+namespace Orvo::Tests {
+namespace {
+
+using namespace std::chrono_literals;
+using Runtime::Store;
+using Widgets::Notification;
+
+// A store without a panel, and what it notifies: "click optP1".
+class StoreTest : public testing::Test, Widgets::NotificationSink {
+protected:
+    StoreTest() { store_.notifyTo(this); }
+
+    void notify(Notification& notification) override {
+        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
+        heard_.push_back(std::string(kNames[static_cast<int>(notification.kind)]) + ' ' +
+                         std::string(Layout::describe(notification.widget).name));
+        if (answer_) answer_(notification);
+    }
+
+    std::vector<std::string> takeHeard() { return std::exchange(heard_, {}); }
+
+    std::shared_ptr<Store> shared_ = Store::create();
+    Store& store_ = *shared_;
+    Runtime::UserInput& person_ = store_.input();
+    std::vector<std::string> heard_;
+    std::function<void(Notification&)> answer_;
+};
+
+using Heard = std::vector<std::string>;
+
+TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
+    constexpr auto kP1 = Layout::optionRef("optP1");
+    constexpr auto kN1 = Layout::optionRef("optN1");
+    constexpr auto kP3 = Layout::optionRef("optP3");
+    store_[kP3].setValue(true);
+    store_[kP1].setValue(true);
+    person_.click(kN1.id);
+    EXPECT_FALSE(store_[kP1].value());
+    EXPECT_TRUE(store_[kN1].value());
+    EXPECT_TRUE(store_[kP3].value());
+    EXPECT_EQ(takeHeard(), (Heard{"click optP3", "click optP1", "click optN1", "release optN1"}));
+}
+
+TEST_F(StoreTest, TicksOnceForAllTheTimeThatItMissed) {
+    store_[Layout::timerRef("tmrVirtualTemp34")].setEnabled(false);
+    store_.catchUp(10s);
+    EXPECT_EQ(takeHeard(), Heard{"tick tmrVirtualTemp12"});
+    EXPECT_EQ(store_.untilNextTick(), 500ms);
+}
+
+TEST_F(StoreTest, LetsATickPassTimeItself) {
+    answer_ = [&, isFirst = true](Notification&) mutable {
+        if (std::exchange(isFirst, false)) store_.advance(3000ms);
+    };
+    store_.advance(2000ms);
+    EXPECT_EQ(store_.now(), 4500ms);
+    EXPECT_EQ(takeHeard().size(), 6U);
+}
+
+TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
+    constexpr auto kSlider = Layout::sliderRef("ZelvinSlider1");
+    const auto& state = store_.get<Runtime::StoredSlider>(kSlider.id).state();
+    store_[kSlider].setPosition(-40);
+    EXPECT_EQ(store_[kSlider].position(), -40);
+    EXPECT_EQ(state.shown(), 0);
+    person_.press(kSlider.id);
+    EXPECT_TRUE(bool(store_[kSlider].buttonDown()));
+    person_.move(kSlider.id, 35);
+    EXPECT_EQ(store_[kSlider].position(), 30);
+    store_[kSlider].setEnabled(false);
+    EXPECT_FALSE(bool(store_[kSlider].buttonDown()));
+    person_.slide(kSlider.id, 3);
+    EXPECT_EQ(store_[kSlider].position(), 30);
+    EXPECT_EQ(takeHeard(), Heard{"change ZelvinSlider1"});
+}
+
+TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
+    auto& tabs = store_[Layout::kTabs];
+    const auto& state = store_.get<Runtime::StoredTabs>(Layout::kTabs.id).state();
+    person_.selectTab(Layout::kTabs.id, 2);
+    tabs.setTabEnabled(1, false);
+    EXPECT_EQ(state.current, 2);
+    tabs.setTabEnabled(2, false);
+    EXPECT_EQ(state.current, 0);
+    person_.selectTab(Layout::kTabs.id, 2);
+    EXPECT_EQ(state.current, 0);
+    EXPECT_EQ(errorOf([&] { tabs.setTabEnabled(3, true); }), 5);
+}
+
+TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
+    constexpr auto kPicture = Layout::pictureRef("Picture1");
+    const std::vector<Widgets::Point> points{{0, 0}, {1, 1}, {2, 0}, {3, 1}};
+    Recorder thirdLine(6);
+    store_.observeWith(&thirdLine);
+    EXPECT_EQ(errorOf([&] { store_[kPicture].polyline(points, Layout::kGreen); }), 7);
+    const auto& drawing = store_.get<Runtime::StoredPicture>(kPicture.id).state().drawing;
+    ASSERT_EQ(drawing.size(), 1U);
+    EXPECT_EQ(std::get<Runtime::DrawnPolyline>(drawing[0]).points.size(), 3U);
+}
+
+}  // namespace
+}  // namespace Orvo::Tests

@@ -1,0 +1,238 @@
+#include <algorithm>
+#include <set>
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QPushButton>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include "Orvo/window/panel_widget.h"
+#include "Orvo/window/spoken/names.h"
+#include "Orvo/window/spoken/spoken.h"
+#include "window_fixture.h"
+
+namespace Orvo::Window {
+namespace {
+
+using Layout::Kind;
+
+class AccessibilityTest : public WindowTest {
+protected:
+    Page& page(int tab) {
+        for (QObject* child : front_.children()) {
+            auto* page = dynamic_cast<Page*>(child);
+            if (page != nullptr && page->tab() == tab) return *page;
+        }
+        throw std::logic_error("no such page");
+    }
+
+    QAccessibleInterface* known(WidgetId id) {
+        const auto* all = QAccessible::queryAccessibleInterface(&page(pageOf(id)));
+        for (int i = 0; i < all->childCount(); ++i) {
+            if (all->child(i)->text(QAccessible::Name) == nameOf(speakerOf(id)))
+                return all->child(i);
+        }
+        return nullptr;
+    }
+    QAccessibleInterface* known(const char* name) { return known(idOf(name)); }
+    std::string words(const char* name) {
+        const auto* thing = known(name);
+        return (thing->text(QAccessible::Name) + ": " + thing->text(QAccessible::Value))
+            .toStdString();
+    }
+
+    void light(const char* lamp) {
+        store_[Widgets::ShapeRef{idOf(lamp)}].setFillStyle(Widgets::FillStyle::solid);
+    }
+    void showDigits(std::initializer_list<const char*> names, Integer digit) {
+        for (const char* name : names) store_[Widgets::DigitRef{idOf(name)}].setDigit(digit++);
+    }
+};
+
+bool isLamp(const Layout::Style& style) {
+    return style.kind == Kind::shape && style.outline == Layout::Outline::circle && !style.isSolid;
+}
+
+bool isToBeKnown(const Layout::Style& style) {
+    const auto silent = {Kind::label, Kind::line, Kind::frame, Kind::image,
+                         Kind::timer, Kind::tabs, Kind::shape};
+    return isLamp(style) || std::ranges::find(silent, style.kind) == silent.end();
+}
+
+TEST_F(AccessibilityTest, EveryWidgetThatTellsOrTakesSomethingIsKnownByName) {
+    for (int tab = 0; tab < 3; ++tab) {
+        std::set<QString> names;
+        const auto* all = QAccessible::queryAccessibleInterface(&page(tab));
+        for (int i = 0; i < all->childCount(); ++i) {
+            const QString name = all->child(i)->text(QAccessible::Name);
+            EXPECT_FALSE(name.isEmpty());
+            EXPECT_TRUE(names.insert(name).second) << name.toStdString() << " stands twice";
+            EXPECT_EQ(all->indexOfChild(all->child(i)), i) << name.toStdString();
+        }
+    }
+    for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
+        const auto& widget = Layout::describe(id);
+        if (!isToBeKnown(widget.style) || !store_.isShown(id)) continue;
+        const auto* found = known(id);
+        ASSERT_TRUE(found) << widget.name;
+        EXPECT_NE(found->role(), QAccessible::Client) << widget.name;
+        const bool isSilent = widget.style.kind == Kind::button ||
+                              widget.style.kind == Kind::option || widget.style.kind == Kind::list;
+        EXPECT_NE(valueOf(store_, id).isEmpty(), !isSilent) << widget.name;
+    }
+}
+
+TEST_F(AccessibilityTest, WhatIsReadOutIsWhatIsShown) {
+    light("Shape18");
+    showDigits({"LED3", "LED4", "LED26"}, 0);
+    showDigits({"LED18", "LED17"}, 1);
+    showDigits({"LED11", "LED12"}, 1);
+    showDigits({"ledTemp12(0)"}, 1);
+    store_[Widgets::LabelRef{idOf("Label10")}].setCaption(u"");
+    store_[Widgets::LabelRef{idOf("lblTestResult(3)")}].setCaption(u"FAIL");
+    store_[Widgets::SliderRef{idOf("ZelvinSlider2")}].setPosition(20);
+    store_[Widgets::SliderRef{idOf("ZelvinSlider6")}].setPosition(20);
+    settle();
+    EXPECT_EQ(words("Shape18"), "Protection channel 1: lit");
+    EXPECT_EQ(words("Shape21"), "Protection channel 2: dark");
+    EXPECT_EQ(words("LED26"), "Negative power bus channels 1 and 2: -12 V");
+    EXPECT_EQ(words("LED17"), "Volume readout channel 2: -12 dB");
+    EXPECT_EQ(words("LED12"), "Volume readout channel 4: 12 dB") << "its sign is gone";
+    EXPECT_EQ(words("ledTemp12(0)"), "Temperature channels 1 and 2: no value");
+    EXPECT_EQ(words("lblTestResult(3)"), "Positive aux bus test: FAIL");
+    EXPECT_EQ(words("lblTestResult(4)"), "Negative aux bus test: no result");
+    EXPECT_EQ(words("ZelvinSlider2"), "Volume channel 2: -10 dB");
+    EXPECT_EQ(words("ZelvinSlider6"), "Test temperature channels 3 and 4: 20 °C");
+    EXPECT_EQ(control("ZelvinSlider2").toolTip(), "Volume channel 2: -10 dB");
+}
+
+TEST_F(AccessibilityTest, AssistiveTechnologyMovesASliderAsAPersonDoes) {
+    toTab(1);
+    auto* volume = known("ZelvinSlider1")->valueInterface();
+    EXPECT_EQ(volume->maximumValue(), 30);
+    EXPECT_EQ(volume->minimumValue(), -30);
+    volume->setCurrentValue(-8.0);
+    settle();
+    EXPECT_EQ(volume->currentValue(), -8);
+    EXPECT_EQ(store_[Widgets::SliderRef{idOf("ZelvinSlider1")}].position(), 19);
+    volume->setCurrentValue(1e9);
+    settle();
+    EXPECT_EQ(volume->currentValue(), 30);
+    store_[Widgets::SliderRef{idOf("ZelvinSlider1")}].setEnabled(false);
+    volume->setCurrentValue(0);
+    settle();
+    EXPECT_EQ(panel_.heard, "ZelvinSlider1 change, ZelvinSlider1 change") << "and no third time";
+}
+
+TEST_F(AccessibilityTest, AssistiveTechnologyPressesWhatCanBePressed) {
+    toTab(1);
+    for (const char* name : {"Command12", "optP2", "chkOnOff12"}) {
+        known(name)->actionInterface()->doAction(known(name)->actionInterface()->actionNames()[0]);
+    }
+    for (const char* click : {"Command12 click", "optP2 click", "chkOnOff12 click"}) {
+        const auto isHeard = [&] { return panel_.heard.find(click) != std::string::npos; };
+        EXPECT_TRUE(QTest::qWaitFor(isHeard)) << click;
+    }
+    settle();
+    EXPECT_TRUE(known("optP2")->state().checked);
+}
+
+TEST_F(AccessibilityTest, TheLogIsAListOfItsLines) {
+    auto& list = store_[Widgets::ListRef{idOf("List1")}];
+    list.addItem(u"first");
+    list.addItem(u"second");
+    settle();
+    control("List1").setFocus();
+    QTest::keyClick(&control("List1"), Qt::Key_End);
+    const auto* log = known("List1");
+    ASSERT_EQ(log->childCount(), 2);
+    EXPECT_EQ(log->focusChild()->text(QAccessible::Name), "second");
+    EXPECT_TRUE(log->child(1)->state().selected);
+    EXPECT_EQ(log->indexOfChild(log->childAt(log->child(0)->rect().x(), log->child(0)->rect().y())),
+              0);
+    list.clear();
+    settle();
+    EXPECT_EQ(log->childCount(), 0);
+}
+
+TEST_F(AccessibilityTest, ALampSaysInItsTooltipWhetherItIsLit) {
+    light("shpConnected");
+    settle();
+    const QPoint at = page(0).placeOf(idOf("shpConnected")).center();
+    QHelpEvent help(QEvent::ToolTip, at, page(0).mapToGlobal(at));
+    QApplication::sendEvent(&page(0), &help);
+    EXPECT_EQ(QToolTip::text(), "Link: lit");
+}
+
+TEST_F(AccessibilityTest, TheTabKeyReachesEveryControlAndShowsIt) {
+    store_.enable(idOf("Combo1"), true);
+    for (int tab = 0; tab < 3; ++tab) {
+        toTab(tab);
+        std::set<std::string> reached;
+        QWidget* strip = &control("SSTab1");
+        strip->setFocus();
+        WidgetId last = 0;
+        for (QWidget* focused = nullptr; focused != strip;) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            focused = QApplication::focusWidget();
+            const WidgetId next = idOf(focused->objectName().toStdString());
+            EXPECT_TRUE(next > last || focused == strip) << "not in the layout's order";
+            last = next;
+            ASSERT_TRUE(reached.insert(focused->objectName().toStdString()).second);
+            const QImage shown = focused->grab().toImage();
+            focused->clearFocus();
+            EXPECT_NE(focused->grab().toImage(), shown) << *reached.rbegin() << " shows no focus";
+            focused->setFocus();
+        }
+        for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
+            const auto& widget = Layout::describe(id);
+            const Kind kind = widget.style.kind;
+            const bool isOnlyRead =
+                kind == Kind::picture || kind == Kind::digit || kind == Kind::shape;
+            if (pageOf(id) != tab || !isToBeKnown(widget.style) || isOnlyRead) continue;
+            // The arrows reach the options beside the selected one.
+            const bool isReached = reached.contains(std::string(widget.name));
+            const bool isBeside = kind == Kind::option && !widget.style.isSelected;
+            EXPECT_TRUE(isReached || isBeside || !store_.acceptsInput(id)) << widget.name;
+        }
+    }
+}
+
+QStringList namesBelow(const QAccessibleInterface& top) {
+    QStringList names;
+    for (int i = 0; i < top.childCount(); ++i) {
+        names += top.child(i)->text(QAccessible::Name);
+        names += namesBelow(*top.child(i));
+    }
+    return names;
+}
+
+TEST(AccessibilityOfAPanelTest, AFreshPanelIsKnownAfresh) {
+    PanelWidget panel;
+    const auto known = [&] { return namesBelow(*QAccessible::queryAccessibleInterface(&panel)); };
+    const QStringList before = known();
+    EXPECT_TRUE(before.contains("Protection channel 4"));
+    panel.renew();
+    EXPECT_EQ(known(), before);
+}
+
+TEST(AccessibilityOfAPanelTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
+    QWidget host;
+    QVBoxLayout layout(&host);
+    PanelWidget panel;
+    QPushButton neighbour;
+    layout.addWidget(&panel);
+    layout.addWidget(&neighbour);
+    host.show();
+    host.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
+    panel.findChild<QWidget*>("cmdOnOff")->setFocus();
+    panel.store().input().selectTab(0, 1);
+    panel.flush();
+    EXPECT_TRUE(panel.findChild<QWidget*>("SSTab1")->hasFocus());
+}
+
+}  // namespace
+}  // namespace Orvo::Window

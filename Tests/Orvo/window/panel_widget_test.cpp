@@ -1,0 +1,206 @@
+#include "Orvo/window/panel_widget.h"
+
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QInputDialog>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include "Orvo/core/marvane_assistant.h"
+#include "Orvo/store/store.h"
+#include "Orvo/window/drawing/scale.h"
+
+namespace Orvo::Window {
+namespace {
+
+/// A host that does one thing at whatever event comes.
+class Host final : public MarvaneAssistantEvents {
+public:
+    void OnOff() override { act(); }
+    void VolumeChange(Integer&, Integer&) override { act(); }
+    void SetTemp(Integer&, Integer&) override { act(); }
+    void ChangeAmpId(Integer&) override { act(); }
+
+    std::function<void()> act = [] {};
+};
+
+class PanelWidgetTest : public testing::Test {
+protected:
+    PanelWidgetTest() {
+        widget_->show();
+        QApplication::processEvents();
+    }
+    void TearDown() override { delete widget_; }
+
+    QWidget& control(const char* name) { return *widget_->findChild<QWidget*>(name); }
+    /// As the window system tells it, from where Qt goes on after a handler.
+    void press(const char* name) { tell(name, QTest::mousePress); }
+    void click(const char* name) {
+        press(name);
+        tell(name, QTest::mouseRelease);
+    }
+    void toTab(int tab) {
+        widget_->store().input().selectTab(0, tab);
+        widget_->flush();
+    }
+
+    QPointer<PanelWidget> widget_ = new PanelWidget;
+    Host host_;
+    Connection connection_ = widget_->panel().connect(host_);
+
+private:
+    using Action = void (*)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int);
+
+    void tell(const char* name, Action action) {
+        const int tab = pageOf(Layout::findWidget(name).value());
+        if (widget_->store().get<Runtime::StoredTabs>(0).state().current != tab) toTab(tab);
+        const QPoint place = control(name).mapTo(widget_, control(name).rect().center());
+        action(widget_->windowHandle(), Qt::LeftButton, {}, place, -1);
+    }
+};
+
+TEST_F(PanelWidgetTest, TheRoundTripIsOnTheScreenAFrameLater) {
+    host_.act = [&] { widget_->panel().PowerOn(true); };
+    QTest::mouseClick(&control("cmdOnOff"), Qt::LeftButton);
+    auto& power = dynamic_cast<QAbstractButton&>(control("chkOnOff12"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return power.isChecked(); }));
+}
+
+TEST_F(PanelWidgetTest, TimersRunByTheRealClock) {
+    int ticks = 0;
+    widget_->panel().TimerVirtualTemp34(false);
+    widget_->store().input().slide(Layout::sliderRef("ZelvinSlider3").id, 50);
+    host_.act = [&] { ++ticks; };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }, 10'000));
+}
+
+TEST_F(PanelWidgetTest, ATimerThatIsStartedLateWaitsItsWholeInterval) {
+    auto& panel = widget_->panel();
+    panel.TimerVirtualTemp12(false);
+    panel.TimerVirtualTemp34(false);
+    const std::chrono::milliseconds late(300);
+    QTest::qWait(int(late.count()));
+    panel.TimerVirtualTemp12(true);
+    EXPECT_GT(widget_->store().untilNextTick(), std::chrono::milliseconds(1500) - late);
+}
+
+TEST_F(PanelWidgetTest, ItsParentMayDeleteIt) {
+    auto* parent = new QWidget;
+    widget_->setParent(parent);
+    delete parent;
+    EXPECT_FALSE(widget_);
+    EXPECT_FALSE(connection_.isConnected());
+}
+
+TEST_F(PanelWidgetTest, AHandlerMayDeleteIt) {
+    struct {
+        const char* label;
+        std::function<void()> gesture;
+    } rows[] = {
+        {"click", [&] { click("cmdOnOff"); }},
+        {"screen reader", [&] { dynamic_cast<QAbstractButton&>(control("cmdOnOff")).click(); }},
+        {"release", [&] { click("chkOnOff12"); }},
+        {"key", [&] { QTest::keyClick(&control("cmdOnOff"), Qt::Key_Return); }},
+        {"shortcut", [&] { QTest::keyClick(widget_, Qt::Key_P, Qt::AltModifier); }},
+        {"slider key", [&] { QTest::keyClick(&control("ZelvinSlider1"), Qt::Key_Down); }},
+        {"slider", [&] { press("ZelvinSlider1"); }},
+        {"tick",
+         [&] {
+             widget_->store().input().slide(Layout::sliderRef("ZelvinSlider3").id, 50);
+             host_.act = [&] { delete widget_; };
+             QTest::qWait(1700);
+         }},
+        {"pick",
+         [&] {
+             widget_->store().enable(Layout::find<Layout::Kind::combo>("Combo1").id, true);
+             widget_->flush();
+             QTest::keyClick(&control("Combo1"), Qt::Key_Down);
+             QApplication::processEvents();
+         }},
+    };
+    for (const bool isDeferred : {false, true}) {
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.label);
+            delete widget_;
+            widget_ = new PanelWidget;
+            widget_->show();
+            widget_->activateWindow();
+            QApplication::processEvents();
+            connection_ = widget_->panel().connect(host_);
+            const bool isTick = row.label == std::string("tick");
+            host_.act = [&] { isDeferred ? widget_->deleteLater() : delete widget_; };
+            if (isTick) host_.act = [] {};
+            row.gesture();
+            QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            EXPECT_FALSE(widget_);
+        }
+    }
+}
+
+class PromptTest : public PanelWidgetTest {
+protected:
+    /// Does this as soon as a dialog is open.
+    template <class Action>
+    void whenAsked(Action action) {
+        QTimer::singleShot(0, qApp, [=] {
+            auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            action(*dialog);
+        });
+    }
+    String ask() { return store_->inputPrompt().ask({u"Who?", u"", Widgets::Echo::hidden}); }
+
+    std::shared_ptr<Runtime::Store> store_ = widget_->store().shared_from_this();
+};
+
+TEST_F(PromptTest, TheAnswerIsWhatWasTypedOrNothingWhenCancelled) {
+    for (const bool isCancelled : {false, true}) {
+        whenAsked([=](QInputDialog& dialog) {
+            EXPECT_EQ(dialog.textEchoMode(), QLineEdit::Password);
+            EXPECT_EQ(dialog.labelText(), "Who?");
+            EXPECT_FALSE(dialog.windowTitle().isEmpty());
+            dialog.setTextValue("me");
+            isCancelled ? dialog.reject() : dialog.accept();
+        });
+        EXPECT_EQ(ask(), isCancelled ? u"" : u"me");
+    }
+}
+
+TEST_F(PromptTest, DeletingThePanelWithdrawsIt) {
+    whenAsked([this](QInputDialog&) { delete widget_; });
+    EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
+}
+
+// The password, the two serial numbers, the information: a window that closes leaves none half
+// done.
+TEST_F(PromptTest, ClosingTheWindowEndsTheEntryAtWhicheverPrompt) {
+    for (int closedAt = 1; closedAt <= 4; ++closedAt) {
+        int asked = 0;
+        int raised = 0;
+        const auto connection = widget_->panel().connect([&](Long, std::span<Value>) { ++raised; });
+        QTimer answering;
+        QObject::connect(&answering, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            if (++asked == closedAt) return void(widget_->close());
+            dialog->setTextValue("530284");
+            dialog->accept();
+        });
+        answering.start(1);
+        widget_->show();
+        store_->input().type(Layout::listRef("List1").id, 18);
+        EXPECT_EQ(asked, closedAt);
+        EXPECT_EQ(raised, 0);
+        EXPECT_TRUE(store_->widget(Layout::buttonRef("Command1").id).isEnabled());
+        EXPECT_EQ(store_->pointer(), Widgets::Pointer::standard);
+    }
+}
+
+}  // namespace
+}  // namespace Orvo::Window

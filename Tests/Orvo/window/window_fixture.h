@@ -1,0 +1,65 @@
+#pragma once
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+
+#include "Orvo/window/front.h"
+
+namespace Orvo::Window {
+
+/// Writes down what a panel would be told.
+class Recorder final : public Widgets::NotificationSink {
+public:
+    void notify(Widgets::Notification& notification) override {
+        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
+        if (!heard.empty()) heard += ", ";
+        heard += std::string(Layout::describe(notification.widget).name) + " " +
+                 kNames[static_cast<int>(notification.kind)];
+        if (notification.keyCode != 0) heard += std::to_string(notification.keyCode);
+        if (discardsKeys) notification.keyCode = 0;
+    }
+
+    std::string heard;
+    bool discardsKeys = false;
+};
+
+/// A shown screen over a bare store: what the panel would write, the test writes.
+class WindowTest : public testing::Test {
+protected:
+    WindowTest() {
+        store_.notifyTo(&panel_);
+        front_.show();
+        front_.activateWindow();
+        if (!QTest::qWaitForWindowActive(&front_)) ADD_FAILURE() << "the window stays inactive";
+        settle();
+    }
+
+    static WidgetId idOf(std::string_view name) { return Layout::findWidget(name).value(); }
+
+    template <class Widget = QWidget>
+    Widget& control(const char* name) {
+        return dynamic_cast<Widget&>(*front_.findChild<QWidget*>(name));
+    }
+
+    void toTab(int tab) {
+        store_.input().selectTab(0, tab);
+        settle();
+    }
+
+    /// Lets the window catch up with everything.
+    void settle() {
+        front_.flush();
+        QApplication::processEvents();
+    }
+
+    std::shared_ptr<Runtime::Store> owner_ = Runtime::Store::create();
+    Runtime::Store& store_ = *owner_;
+    Recorder panel_;
+    Front front_{owner_};
+};
+
+}  // namespace Orvo::Window

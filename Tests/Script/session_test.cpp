@@ -1,0 +1,92 @@
+#include "Script/session.h"
+
+#include <gtest/gtest.h>
+
+#include "Script/store_bench.h"
+#include "Script/text_of.h"
+
+namespace {
+
+using namespace Orvo;
+using namespace Orvo::Script;
+
+using Lines = std::vector<std::string>;
+
+struct SessionTest : testing::Test {
+    Lines answersTo(std::string_view line, Grammar::Speaker speaker = Grammar::Speaker::anyone) {
+        Lines answers;
+        const auto keep = [&](std::string_view answer) { answers.emplace_back(answer); };
+        Session(bench, {.speaker = speaker}, keep).run(line);
+        return answers;
+    }
+
+    StoreBench bench;
+};
+
+TEST_F(SessionTest, aDeviceMaySendTheHostsCommandsOnly) {
+    for (const Command& command : allCommands()) {
+        if (command.side == Side::host) continue;
+        for (const std::string before : {"", "on Mute ", "on Mute on OnOff "}) {
+            const auto answers =
+                answersTo(before + std::string(command.name), Grammar::Speaker::device);
+            EXPECT_EQ(answers, Lines{"? " + std::string(command.name) + " is not for here"});
+        }
+    }
+    EXPECT_EQ(answersTo("on Mute let Mute 1 true", Grammar::Speaker::device), Lines{"ok"});
+}
+
+TEST_F(SessionTest, eventsThatNoCommandCausedAreAnsweredToo) {
+    Lines answers;
+    Session session(bench, {}, [&](std::string_view line) { answers.emplace_back(line); });
+    session.run("on Mute get PowerOn");
+    bench.person().click(*Layout::findWidget("Command12"), Runtime::MouseButton::left);
+    EXPECT_EQ(answers, (Lines{"ok", "event Mute 1", "  = 0"}));
+}
+
+// Fails every reading of a slider, each time with another number.
+struct Saboteur final : Runtime::OperationObserver {
+    void before(const Runtime::Operation& operation) override {
+        if (operation.verb == Runtime::Verb::readPosition) throw Error(++number, "Sabotage");
+    }
+    Long number = 1000;
+};
+
+TEST_F(SessionTest, theFirstOfSeveralErrorsOfHandlersClosesTheCommand) {
+    Saboteur saboteur;
+    bench.widgets().observeWith(&saboteur);
+    EXPECT_EQ(answersTo("wait 3000"), Lines{"! 1001 Sabotage"});
+    EXPECT_EQ(saboteur.number, 1004);
+    EXPECT_EQ(answersTo("get PowerOn"), Lines{"= 0"});
+}
+
+TEST_F(SessionTest, commandsMayBeNestedButNotWithoutEnd) {
+    const auto nested = [](int depth) {
+        std::string line;
+        for (int i = 0; i < depth; ++i) line += "on Mute ";
+        return line + "new";
+    };
+    EXPECT_EQ(answersTo(nested(64)), Lines{"ok"});
+    EXPECT_EQ(answersTo(nested(65)), Lines{"? this is nested too deeply"});
+    EXPECT_EQ(answersTo(nested(100000)), Lines{"? this is nested too deeply"});
+}
+
+TEST_F(SessionTest, aLineThatIsNotUtf8IsRefused) {
+    for (const std::string_view line : {"get Mute 1\xFF", "call TrimStr \"\xC0\x80\"",
+                                        "call TrimStr \"\xED\xA0\x80\"", "\xE2\x82"}) {
+        EXPECT_EQ(answersTo(line), Lines{"? the line is not UTF-8"}) << line;
+    }
+    EXPECT_EQ(answersTo("# caf\xE9"), Lines{});
+    EXPECT_EQ(answersTo("get PowerOn\r"), Lines{"= 0"});
+}
+
+TEST(Text, isReadBackAsItWasPrinted) {
+    EXPECT_EQ(textOf(IntegerArray()), "[]");
+    EXPECT_EQ(textOf(IntegerArray(1, {})), "1:[]");
+    EXPECT_EQ(textOf(IntegerArray(1, {7, -8})), "[7 -8]");
+    EXPECT_EQ(textOf(IntegerArray(-2, {7})), "-2:[7]");
+    EXPECT_EQ(textOf(1e10F), "10000000000");
+    EXPECT_EQ(textOf(0.1F), "0.1");
+    EXPECT_EQ(textOf(16777216.0F), "16777216");
+}
+
+}  // namespace
