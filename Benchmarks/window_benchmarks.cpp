@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "Orvo/window/controls/trace.h"
+#include "Orvo/window/controls/trace_lines.h"
 
 // Painting a trace in one pass, against painting a line for each of its segments.
 namespace Orvo::Window {

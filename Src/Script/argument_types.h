@@ -14,7 +14,7 @@
 #include "Orvo/core/late_binding.h"
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/user_input.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 #include "Script/command.h"
 #include "Script/literals.h"
 #include "Script/text_of.h"

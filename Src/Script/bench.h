@@ -7,7 +7,7 @@
 #include "Orvo/core/event_table.h"
 #include "Orvo/core/late_binding.h"
 #include "Orvo/store/store.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 // What the panel script needs of a program that has a panel: one with a window or one without.
 namespace Orvo::Script {

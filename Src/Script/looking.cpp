@@ -209,7 +209,7 @@ std::string widgets(Session& session) {
 }
 
 std::string pointer(Session& session, const PointerNumber& number) {
-    session.bench().widgets().screen().setPointer(number.pointer);
+    session.bench().widgets().mousePointer().setPointer(number.pointer);
     return ok();
 }
 

@@ -107,7 +107,7 @@ void ManagerWindow::endHourglass(std::chrono::milliseconds time) {
     const auto silence = station_.situation().silence.value_or(hourglass_);
     const bool isAwaited = station_.isConnected() && silence >= hourglass_ && silence < kStaleAfter;
     if (isAwaited || isReplaying()) return;
-    store.screen().setPointer(Widgets::Pointer::standard);
+    store.mousePointer().setPointer(Widgets::Pointer::standard);
     if (isRecording()) recorder_->pointerIsSet();
 }
 

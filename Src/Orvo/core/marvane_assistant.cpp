@@ -6,7 +6,7 @@
 
 namespace Orvo {
 
-MarvaneAssistant::MarvaneAssistant(std::shared_ptr<Widgets::Runtime> runtime, Platform platform)
+MarvaneAssistant::MarvaneAssistant(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform)
     : panel_(std::make_shared<Panel>(std::move(runtime), std::move(platform))) {
     try {
         panel_->create();

@@ -9,7 +9,7 @@
 #include "Orvo/core/interface.h"
 #include "Orvo/core/late_binding.h"
 #include "Orvo/service/platform.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -25,7 +25,7 @@ class MarvaneAssistant final : public MarvaneAssistantInterface {
 public:
     /// Creates the panel over a fresh set of widgets and runs its start-up. An error of the
     /// start-up reaches the caller. The panel and the caller share the widgets.
-    explicit MarvaneAssistant(std::shared_ptr<Widgets::Runtime> runtime, Platform platform = {});
+    explicit MarvaneAssistant(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform = {});
     ~MarvaneAssistant() override;
     MarvaneAssistant(const MarvaneAssistant&) = delete;
     MarvaneAssistant& operator=(const MarvaneAssistant&) = delete;

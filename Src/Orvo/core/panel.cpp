@@ -48,7 +48,7 @@ private:
     bool isReleased_ = false;
 };
 
-Panel::Panel(std::shared_ptr<Runtime> runtime, Platform platform)
+Panel::Panel(std::shared_ptr<WidgetTree> runtime, Platform platform)
     : runtime_(std::move(runtime)),
       errorHandler_(writeToStandardError),
       prompt_(std::make_unique<Prompt>(runtime_->inputPrompt())),
@@ -65,7 +65,7 @@ void Panel::create() {
 }
 
 void Panel::start() {
-    Runtime& widgets = *runtime_;
+    WidgetTree& widgets = *runtime_;
     widgets[kTabs].setCurrentTab(kCommonTab);
     for (Integer channel = 1; channel <= kScopes; ++channel) oscilloscope.drawAxes(channel);
     for (const OptionRef first : kFirstDestinations) widgets[first].setValue(true);

@@ -19,7 +19,7 @@
 #include "Orvo/service/message_log.h"
 #include "Orvo/service/port_discovery.h"
 #include "Orvo/service/quick_test.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -27,7 +27,7 @@ namespace Orvo {
 /// them. It outlives its owner for as long as a call is under way.
 class Panel final : public Widgets::NotificationSink, public std::enable_shared_from_this<Panel> {
 public:
-    Panel(std::shared_ptr<Widgets::Runtime> runtime, Platform platform);
+    Panel(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform);
     ~Panel() override;
 
     /// Takes the widgets' notifications from here on, its own creation being the first.
@@ -52,7 +52,7 @@ private:
 
     void report(const Error& error) const;
 
-    std::shared_ptr<Widgets::Runtime> runtime_;
+    std::shared_ptr<Widgets::WidgetTree> runtime_;
     std::thread::id thread_ = std::this_thread::get_id();
     ErrorHandler errorHandler_;
     ErrorHandler onError_ = [this](const Error& error) { report(error); };

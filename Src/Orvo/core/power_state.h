@@ -2,7 +2,7 @@
 
 #include "Orvo/core/events.h"
 #include "Orvo/values/boolean.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -10,7 +10,7 @@ namespace Orvo {
 /// power lamp shows. The three power controls only ask the host; it answers with `setPower`.
 class PowerState {
 public:
-    PowerState(Widgets::Runtime& widgets, MarvaneAssistantEvents& host)
+    PowerState(Widgets::WidgetTree& widgets, MarvaneAssistantEvents& host)
         : widgets_(widgets), host_(host) {}
 
     void setConnected(Boolean value);
@@ -22,7 +22,7 @@ public:
     void request() { host_.OnOff(); }
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
     MarvaneAssistantEvents& host_;
 };
 

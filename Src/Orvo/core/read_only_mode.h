@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Orvo/values/boolean.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -9,13 +9,13 @@ namespace Orvo {
 /// widgets. The displays follow the host in both modes.
 class ReadOnlyMode {
 public:
-    explicit ReadOnlyMode(Widgets::Runtime& widgets) : widgets_(widgets) {}
+    explicit ReadOnlyMode(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
     void set(Boolean value);
     [[nodiscard]] Boolean get() const { return blnReadOnly; }
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
     Boolean blnReadOnly;
 };
 

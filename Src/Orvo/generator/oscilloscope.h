@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Orvo/values/integer_array.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -9,7 +9,7 @@ namespace Orvo {
 /// kept but the picture.
 class Oscilloscope {
 public:
-    explicit Oscilloscope(Widgets::Runtime& widgets) : widgets_(widgets) {}
+    explicit Oscilloscope(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
     /// Clears the channel's surface and draws its grid; channel 1's for any other channel.
     void drawAxes(Integer channel);
@@ -19,7 +19,7 @@ public:
     void drawTrace(Integer channel, const IntegerArray& samples);
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
 };
 
 }  // namespace Orvo

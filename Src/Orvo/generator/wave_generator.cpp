@@ -54,14 +54,14 @@ constexpr std::array<Pair, 2> kPairs{{
       lineRef("Lin4")}},
 }};
 
-void showRoute(Runtime& widgets, const Route& route, bool isChosen) {
+void showRoute(WidgetTree& widgets, const Route& route, bool isChosen) {
     for (Integer i = 0; i < kSegments; ++i) {
         widgets[route.segments.at(i)].setColour(isChosen ? kHighlight : kDim);
     }
     widgets[route.selector].setVisible(isChosen);
 }
 
-void showChannelLine(Runtime& widgets, const Channel& channel, bool isChosen) {
+void showChannelLine(WidgetTree& widgets, const Channel& channel, bool isChosen) {
     widgets[channel.line].setColour(isChosen ? kHighlight : kDim);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Orvo/core/events.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -12,7 +12,7 @@ enum class Polarity : Integer { positive = 1, negative = 2 };
 /// The option buttons are the state; Start reads them and tells the host.
 class WaveGenerator {
 public:
-    WaveGenerator(Widgets::Runtime& widgets, MarvaneAssistantEvents& host)
+    WaveGenerator(Widgets::WidgetTree& widgets, MarvaneAssistantEvents& host)
         : widgets_(widgets), host_(host) {}
 
     /// Redraws the pair's diagram for a channel (1 to 4) and one of its inputs.
@@ -26,7 +26,7 @@ private:
     void route(Integer channel, Polarity polarity);
     [[nodiscard]] Integer waveType(Integer pair) const;
 
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
     MarvaneAssistantEvents& host_;
 };
 

@@ -5,7 +5,7 @@
 
 #include "Orvo/values/arithmetic.h"
 #include "Orvo/values/text.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -23,7 +23,7 @@ inline Integer digitOf(StringView text, std::size_t position) {
 
 /// Shows the first characters of a text, one on each digit widget from left to right.
 /// Error 13 at a character that is no digit; the digits before it are shown.
-inline void showDigits(Widgets::Runtime& widgets, std::span<const Widgets::DigitRef> digits,
+inline void showDigits(Widgets::WidgetTree& widgets, std::span<const Widgets::DigitRef> digits,
                        StringView text) {
     for (std::size_t i = 0; i < digits.size(); ++i) widgets[digits[i]].setDigit(digitOf(text, i));
 }

@@ -25,7 +25,7 @@ constexpr std::array kInOrder{shapeRef("Shape10"), shapeRef("Shape11"), shapeRef
                               shapeRef("Shape15")};
 
 // Reads every lamp, also once the answer is known.
-bool allAre(Runtime& widgets, std::span<const ShapeRef> lamps, FillStyle style) {
+bool allAre(WidgetTree& widgets, std::span<const ShapeRef> lamps, FillStyle style) {
     std::size_t agreeing = 0;
     for (const ShapeRef lamp : lamps) {
         if (widgets[lamp].fillStyle() == style) ++agreeing;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Orvo/values/boolean.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -9,7 +9,7 @@ namespace Orvo {
 /// channels that the amplifier has, which are all four while the second pair's tab is enabled.
 class MuteState {
 public:
-    explicit MuteState(Widgets::Runtime& widgets) : widgets_(widgets) {}
+    explicit MuteState(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
     /// Channel 1 to 4, or 0 for all lamps; any other index sets none, but sums up.
     void set(Integer channel, Boolean value);
@@ -18,7 +18,7 @@ public:
 private:
     void summarise();
 
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
 };
 
 }  // namespace Orvo

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "Orvo/values/types.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -13,13 +13,13 @@ enum class Rail : std::uint8_t { positivePower, positiveAux, negativePower, nega
 /// fixed captions.
 class RailReadouts {
 public:
-    explicit RailReadouts(Widgets::Runtime& widgets) : widgets_(widgets) {}
+    explicit RailReadouts(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
     /// Another pair than 1 and 2 is passed over. Error 13 for a negative value.
     void set(Rail rail, Integer pair, Integer volts);
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
 };
 
 }  // namespace Orvo

@@ -19,7 +19,7 @@ constexpr std::array kSignalLamps{shapeRef("Shape22"), shapeRef("Shape23"), shap
 constexpr std::array kClockLamps{shapeRef("Shape6"), shapeRef("Shape4")};
 constexpr std::array kReadyLamps{shapeRef("Shape17"), shapeRef("Shape12")};
 
-void lightAny(Runtime& widgets, const ShapeRef* lamp, Boolean value) {
+void lightAny(WidgetTree& widgets, const ShapeRef* lamp, Boolean value) {
     if (lamp != nullptr) light(widgets[*lamp], value);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Orvo/values/boolean.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -9,7 +9,7 @@ namespace Orvo {
 /// of a pair. An index without a lamp is passed over.
 class StatusLamps {
 public:
-    explicit StatusLamps(Widgets::Runtime& widgets) : widgets_(widgets) {}
+    explicit StatusLamps(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
     /// Channel 1 to 4, or 0 for the whole amplifier.
     void setProtection(Integer channel, Boolean value);
@@ -18,7 +18,7 @@ public:
     void setReady(Integer pair, Boolean value);
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
 };
 
 }  // namespace Orvo

@@ -2,7 +2,7 @@
 
 #include "Orvo/core/events.h"
 #include "Orvo/values/boolean.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -10,7 +10,7 @@ namespace Orvo {
 /// temperature in degrees Celsius, and a timer repeats it to the host while it is not 0.
 class Temperature {
 public:
-    Temperature(Widgets::Runtime& widgets, MarvaneAssistantEvents& host)
+    Temperature(Widgets::WidgetTree& widgets, MarvaneAssistantEvents& host)
         : widgets_(widgets), host_(host) {}
 
     /// Another pair than 1 and 2 is passed over. Error 13 for a negative value.
@@ -23,7 +23,7 @@ public:
 private:
     [[nodiscard]] Integer testTemperature(Integer pair) const;
 
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
     MarvaneAssistantEvents& host_;
 };
 

@@ -2,7 +2,7 @@
 
 #include "Orvo/core/events.h"
 #include "Orvo/values/boolean.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -17,7 +17,7 @@ Integer volumeAt(Integer position);
 /// A slider that a person moves reports the volume and changes nothing else.
 class Volume {
 public:
-    Volume(Widgets::Runtime& widgets, MarvaneAssistantEvents& host)
+    Volume(Widgets::WidgetTree& widgets, MarvaneAssistantEvents& host)
         : widgets_(widgets), host_(host) {}
 
     /// Another channel than 1 to 4 is passed over, but the errors come first.
@@ -28,7 +28,7 @@ public:
     void sliderMoved(Integer channel);
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
     MarvaneAssistantEvents& host_;
 };
 

@@ -2,7 +2,7 @@
 
 #include "Orvo/core/events.h"
 #include "Orvo/service/message_log.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -10,7 +10,7 @@ namespace Orvo {
 /// empties the log; a value that the host writes is only shown.
 class AmplifierId {
 public:
-    AmplifierId(Widgets::Runtime& widgets, MessageLog& log, MarvaneAssistantEvents& host)
+    AmplifierId(Widgets::WidgetTree& widgets, MessageLog& log, MarvaneAssistantEvents& host)
         : widgets_(widgets), log_(log), host_(host) {}
 
     /// Fills the list with 1 to 99 and takes the id from the text that is laid out.
@@ -25,7 +25,7 @@ public:
     void keyPressed(Integer& keyCode);
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
     MessageLog& log_;
     MarvaneAssistantEvents& host_;
     Integer intIdDevice = 0;

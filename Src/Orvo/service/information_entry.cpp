@@ -51,7 +51,7 @@ void InformationEntry::askAndRaise() {
     if (strSnCard.empty()) return;
     String strInformations =
         prompt_.ask({.text = u"General Informations of Amplifier", .title = u"New Informations"});
-    widgets_.screen().setPointer(Pointer::hourglass);
+    widgets_.mousePointer().setPointer(Pointer::hourglass);
     Integer intIdDevice = id_.get();
     host_.GeneralInformations(intIdDevice, strInformations, strSnAmp, strSnCard);
 }

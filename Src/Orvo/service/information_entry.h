@@ -2,7 +2,7 @@
 
 #include "Orvo/core/events.h"
 #include "Orvo/service/amplifier_id.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
@@ -10,7 +10,7 @@ namespace Orvo {
 /// hands them to the host. Nothing of it is kept.
 class InformationEntry {
 public:
-    InformationEntry(Widgets::Runtime& widgets, Widgets::InputPrompt& prompt, AmplifierId& id,
+    InformationEntry(Widgets::WidgetTree& widgets, Widgets::InputPrompt& prompt, AmplifierId& id,
                      MarvaneAssistantEvents& host)
         : widgets_(widgets), prompt_(prompt), id_(id), host_(host) {}
 
@@ -25,7 +25,7 @@ private:
     [[nodiscard]] bool knowsPassword();
     void askAndRaise();
 
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
     Widgets::InputPrompt& prompt_;
     AmplifierId& id_;
     MarvaneAssistantEvents& host_;

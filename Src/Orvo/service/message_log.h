@@ -1,19 +1,19 @@
 #pragma once
 
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
 /// The message log: lines that the host writes, kept by the list alone.
 class MessageLog {
 public:
-    explicit MessageLog(Widgets::Runtime& widgets) : widgets_(widgets) {}
+    explicit MessageLog(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
     void add(const String& line);
     void clear();
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
 };
 
 }  // namespace Orvo

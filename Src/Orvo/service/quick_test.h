@@ -1,14 +1,14 @@
 #pragma once
 
 #include "Orvo/values/boolean.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
 /// The quick test's result lines, 0 to 5: what a line shows is its state. Error 340 for any other.
 class QuickTest {
 public:
-    explicit QuickTest(Widgets::Runtime& widgets) : widgets_(widgets) {}
+    explicit QuickTest(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
     void setPassed(Integer row, Boolean value);
     [[nodiscard]] Boolean hasPassed(Integer row) const;
@@ -19,7 +19,7 @@ public:
     void clearMains();
 
 private:
-    Widgets::Runtime& widgets_;
+    Widgets::WidgetTree& widgets_;
 };
 
 }  // namespace Orvo

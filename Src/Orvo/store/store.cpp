@@ -9,9 +9,9 @@ using Layout::Kind;
 using Widgets::Notification;
 using Widgets::NotificationKind;
 
-class Store::StoredScreen final : public Widgets::Screen {
+class Store::StoredMousePointer final : public Widgets::MousePointer {
 public:
-    explicit StoredScreen(Store& store) : store_(store) {}
+    explicit StoredMousePointer(Store& store) : store_(store) {}
 
     void setPointer(Widgets::Pointer pointer) override {
         store_.observe({.verb = Verb::setPointer, .value = static_cast<Integer>(pointer)});
@@ -43,7 +43,7 @@ private:
 std::shared_ptr<Store> Store::create() { return std::shared_ptr<Store>(new Store); }
 
 Store::Store()
-    : screen_(std::make_unique<StoredScreen>(*this)),
+    : mousePointer_(std::make_unique<StoredMousePointer>(*this)),
       prompt_(std::make_unique<StoredPrompt>(*this)) {
     for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) widgets_[id] = make(id);
 }
@@ -94,7 +94,7 @@ std::unique_ptr<StoredWidget> Store::make(WidgetId id) {
     return std::make_unique<StoredStill>(*this, id);
 }
 
-Widgets::Screen& Store::screen() { return *screen_; }
+Widgets::MousePointer& Store::mousePointer() { return *mousePointer_; }
 Widgets::InputPrompt& Store::inputPrompt() { return *prompt_; }
 
 bool Store::isShown(WidgetId id) const {

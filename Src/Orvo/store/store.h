@@ -11,14 +11,14 @@
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/stored_widgets.h"
 #include "Orvo/store/user_input.h"
-#include "Orvo/widgets/runtime.h"
+#include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo::Runtime {
 
 /// A screen that shows the store.
-class View {
+class Screen {
 public:
-    virtual ~View() = default;
+    virtual ~Screen() = default;
     /// What this widget shows may have changed; `Layout::kNoWidget` stands for the pointer. Called
     /// from within the panel's writes: note it and paint later.
     virtual void changed(WidgetId widget) = 0;
@@ -33,11 +33,11 @@ public:
     virtual std::optional<String> ask(const Widgets::Question& question) = 0;
 };
 
-/// The widgets of one panel in memory: their state, and every rule about it. Without a view it is
+/// The widgets of one panel in memory: their state, and every rule about it. Without a screen it is
 /// the headless runtime, with a clock that only `advance` moves.
 ///
 /// All calls from one thread, the panel's.
-class Store final : public Widgets::Runtime, public std::enable_shared_from_this<Store> {
+class Store final : public Widgets::WidgetTree, public std::enable_shared_from_this<Store> {
 public:
     using Milliseconds = std::chrono::milliseconds;
 
@@ -65,12 +65,12 @@ public:
     Widgets::Slider& operator[](Widgets::SliderRef ref) override {
         return at<StoredSlider>(ref.id);
     }
-    Widgets::Screen& screen() override;
+    Widgets::MousePointer& mousePointer() override;
     Widgets::InputPrompt& inputPrompt() override;
     void notifyTo(Widgets::NotificationSink* sink) override { sink_ = sink; }
 
     /// What a screen and a person's input work with; null takes them away again.
-    void showOn(View* view) { view_ = view; }
+    void showOn(Screen* screen) { screen_ = screen; }
     void promptWith(Prompter* prompter) { prompter_ = prompter; }
     [[nodiscard]] Prompter* prompter() const { return prompter_; }
     void observeWith(OperationObserver* observer) { observer_ = observer; }
@@ -116,7 +116,7 @@ private:
     friend class StoredTabs;
     friend class StoredTimer;
     friend class UserInput;
-    class StoredScreen;
+    class StoredMousePointer;
     class StoredPrompt;
 
     Store();
@@ -132,7 +132,7 @@ private:
         if (observer_ != nullptr) observer_->before(operation);
     }
     void changed(WidgetId widget) {
-        if (view_ != nullptr) view_->changed(widget);
+        if (screen_ != nullptr) screen_->changed(widget);
     }
     /// The notification as its handler left it.
     Widgets::Notification notify(Widgets::Notification notification);
@@ -146,11 +146,11 @@ private:
     std::vector<StoredTimer*> timers_;
     std::vector<StoredSlider*> sliders_;
     std::array<std::vector<StoredOption*>, Layout::kWidgetCount> options_;
-    std::unique_ptr<StoredScreen> screen_;
+    std::unique_ptr<StoredMousePointer> mousePointer_;
     std::unique_ptr<StoredPrompt> prompt_;
     UserInput input_{*this};
     Widgets::NotificationSink* sink_ = nullptr;
-    View* view_ = nullptr;
+    Screen* screen_ = nullptr;
     Prompter* prompter_ = nullptr;
     OperationObserver* observer_ = nullptr;
     Widgets::Pointer pointer_ = Widgets::Pointer::standard;

@@ -4,7 +4,7 @@
 
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/store/store.h"
-#include "Orvo/window/front.h"
+#include "Orvo/window/panel_screen.h"
 
 namespace Orvo::Window {
 
@@ -12,14 +12,14 @@ struct PanelWidget::Parts {
     // In this order: the screen sees start-up.
     void make(QWidget* parent) {
         store = Runtime::Store::create();
-        front = std::make_unique<Front>(store, parent, clock);
+        screen = std::make_unique<PanelScreen>(store, parent, clock);
         panel.emplace(store, platform);
     }
 
     const Platform platform;
     const Clock clock;
     std::shared_ptr<Runtime::Store> store{};
-    std::unique_ptr<Front> front{};
+    std::unique_ptr<PanelScreen> screen{};
     std::optional<MarvaneAssistant> panel{};
 };
 
@@ -28,7 +28,7 @@ PanelWidget::PanelWidget(QWidget* parent) : PanelWidget(Platform{}, parent) {}
 PanelWidget::PanelWidget(const Platform& platform, QWidget* parent, Clock clock)
     : QWidget(parent), parts_(new Parts{platform, clock}) {
     parts_->make(this);
-    setMinimumSize(parts_->front->size());
+    setMinimumSize(parts_->screen->size());
     flush();
 }
 
@@ -36,37 +36,37 @@ PanelWidget::~PanelWidget() = default;
 
 MarvaneAssistant& PanelWidget::panel() const { return *parts_->panel; }
 Runtime::Store& PanelWidget::store() const { return *parts_->store; }
-double PanelWidget::zoom() const { return parts_->front->zoom(); }
+double PanelWidget::zoom() const { return parts_->screen->zoom(); }
 
 void PanelWidget::setZoom(double zoom) {
     constexpr double kSmallest = 0.5;
     constexpr double kLargest = 8;
-    parts_->front->setZoom(qBound(kSmallest, zoom, kLargest));
-    setMinimumSize(parts_->front->size());
+    parts_->screen->setZoom(qBound(kSmallest, zoom, kLargest));
+    setMinimumSize(parts_->screen->size());
     updateGeometry();
     centre();
 }
 
-QSize PanelWidget::sizeHint() const { return parts_->front->size(); }
+QSize PanelWidget::sizeHint() const { return parts_->screen->size(); }
 QSize PanelWidget::minimumSizeHint() const { return sizeHint(); }
 
 void PanelWidget::renew() {
     const double before = zoom();
     parts_->panel.reset();
-    parts_->front.reset();
+    parts_->screen.reset();
     parts_->make(this);
     setZoom(before);
-    parts_->front->show();
+    parts_->screen->show();
     flush();
 }
 
-void PanelWidget::flush() { parts_->front->flush(); }
+void PanelWidget::flush() { parts_->screen->flush(); }
 
 void PanelWidget::resizeEvent(QResizeEvent*) { centre(); }
 
 void PanelWidget::centre() {
-    const QSize spare = (size() - parts_->front->size()).expandedTo({0, 0}) / 2;
-    parts_->front->move(spare.width(), spare.height());
+    const QSize spare = (size() - parts_->screen->size()).expandedTo({0, 0}) / 2;
+    parts_->screen->move(spare.width(), spare.height());
 }
 
 }  // namespace Orvo::Window

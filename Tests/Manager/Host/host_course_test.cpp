@@ -1,5 +1,5 @@
 #include "Manager/Host/host_bench.h"
-#include "Support/recorder.h"
+#include "Support/operation_log.h"
 
 namespace Orvo::Tests {
 namespace {
@@ -7,7 +7,7 @@ namespace {
 TEST_F(HostTest, LivesTheSameLifeForTheSameSeedHoweverItsTimeIsDivided) {
     const auto record = [](std::uint32_t seed, int pace) {
         const auto bench = makeBench();
-        Recorder recorder;
+        OperationLog recorder;
         bench->store().observeWith(&recorder);
         SimulatedHost host(bench->panel(), seed);
         for (int now = 0; now < 6000; now += pace) {
@@ -28,7 +28,7 @@ TEST_F(HostTest, SendsOnlyWhatChanged) {
     run();
     person_.click(id("Command17"));
     pass(1000);
-    Recorder recorder;
+    OperationLog recorder;
     store_.observeWith(&recorder);
     pass(5000);
     store_.observeWith(nullptr);

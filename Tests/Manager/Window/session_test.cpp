@@ -169,7 +169,7 @@ TEST_F(SessionTest, AnErrorThatNoCallerWaitsForIsAmongTheEvents) {
 
 TEST_F(SessionTest, TheHourglassEndsWhenTheAmplifierHasSpokenOrWillNot) {
     const auto isBusy = [this] { return store().pointer() == Widgets::Pointer::hourglass; };
-    const auto beBusy = [this] { store().screen().setPointer(Widgets::Pointer::hourglass); };
+    const auto beBusy = [this] { store().mousePointer().setPointer(Widgets::Pointer::hourglass); };
     window_.connectSimulator();
     window_.letPass(2s);
     beBusy();

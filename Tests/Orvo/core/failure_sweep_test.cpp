@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "Orvo/core/notification_table.h"
-#include "Support/recorder.h"
+#include "Support/operation_log.h"
 
 // Every member and every handler, with each of its widget operations failing in turn.
 namespace Orvo::Tests {
@@ -17,16 +17,16 @@ public:
 };
 
 // Runs an action on a fresh panel under a recorder, and says what number its error had.
-using Act = std::function<Long(Bench& bench, Recorder& recorder)>;
+using Act = std::function<Long(Bench& bench, OperationLog& recorder)>;
 
-Long recorded(Bench& bench, Recorder& recorder, const std::function<void()>& call) {
+Long recorded(Bench& bench, OperationLog& recorder, const std::function<void()>& call) {
     bench.store().observeWith(&recorder);
     const Long error = errorOf(call);
     bench.store().observeWith(nullptr);
     return error;
 }
 
-Operations run(const Act& act, Recorder& recorder, Long expectedError) {
+Operations run(const Act& act, OperationLog& recorder, Long expectedError) {
     const auto bench = makeBench();
     EXPECT_EQ(act(*bench, recorder), expectedError);
     return recorder.seen;
@@ -34,12 +34,12 @@ Operations run(const Act& act, Recorder& recorder, Long expectedError) {
 
 void sweep(const std::string& label, const Act& act) {
     SCOPED_TRACE(label);
-    Recorder undisturbed;
+    OperationLog undisturbed;
     const Operations whole = run(act, undisturbed, 0);
     EXPECT_FALSE(whole.empty());
     for (std::size_t k = 0; k < whole.size(); ++k) {
         SCOPED_TRACE(k);
-        Recorder failing(k);
+        OperationLog failing(k);
         const auto upTo = whole.begin() + static_cast<std::ptrdiff_t>(k) + 1;
         ASSERT_EQ(run(act, failing, 7), Operations(whole.begin(), upTo));
     }
@@ -63,7 +63,7 @@ Value argumentFor(ValueType type, std::size_t position, Integer index, Boolean t
 }
 
 Act callOf(const Member& member, Integer index, Boolean truth) {
-    return [&member, index, truth](Bench& bench, Recorder& recorder) {
+    return [&member, index, truth](Bench& bench, OperationLog& recorder) {
         std::vector<Value> arguments;
         for (const Parameter& parameter : member.parameters()) {
             arguments.push_back(argumentFor(parameter.type, arguments.size(), index, truth));
@@ -136,7 +136,7 @@ TEST(FailureSweep, StopsEveryHandlerAtTheOperationThatFails) {
     Answering prompter;
     for (const BoundNotification& row : kNotifications) {
         if (row.widget == Layout::kNoWidget || !touchesWidgets(row)) continue;
-        sweep(std::string(row.widgetName), [&](Bench& bench, Recorder& recorder) {
+        sweep(std::string(row.widgetName), [&](Bench& bench, OperationLog& recorder) {
             Long reported = 0;
             bench.store().promptWith(&prompter);
             bench.panel().setErrorHandler([&](const Error& error) { reported = error.number(); });
@@ -148,7 +148,7 @@ TEST(FailureSweep, StopsEveryHandlerAtTheOperationThatFails) {
 }
 
 TEST(FailureSweep, StopsTheStartUpAtTheOperationThatFails) {
-    sweep("start-up", [](Bench& /*bench*/, Recorder& recorder) {
+    sweep("start-up", [](Bench& /*bench*/, OperationLog& recorder) {
         const auto store = Runtime::Store::create();
         store->observeWith(&recorder);
         return errorOf([&] { MarvaneAssistant panel(store); });

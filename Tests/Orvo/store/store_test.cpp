@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Support/recorder.h"
+#include "Support/operation_log.h"
 
 namespace Orvo::Tests {
 namespace {
@@ -99,7 +99,7 @@ TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
 TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
     constexpr auto kPicture = Layout::pictureRef("Picture1");
     const std::vector<Widgets::Point> points{{0, 0}, {1, 1}, {2, 0}, {3, 1}};
-    Recorder thirdLine(6);
+    OperationLog thirdLine(6);
     store_.observeWith(&thirdLine);
     EXPECT_EQ(errorOf([&] { store_[kPicture].polyline(points, Layout::kGreen); }), 7);
     const auto& drawing = store_.get<Runtime::StoredPicture>(kPicture.id).state().drawing;

@@ -63,9 +63,9 @@ TEST_F(ControlsTest, TheKeyboardStopsOnceInAGroupOfOptions) {
 }
 
 TEST_F(ControlsTest, TheHourglassShowsAtOnce) {
-    store_.screen().setPointer(Widgets::Pointer::hourglass);
+    store_.mousePointer().setPointer(Widgets::Pointer::hourglass);
     EXPECT_EQ(front_.cursor().shape(), Qt::WaitCursor);
-    store_.screen().setPointer(Widgets::Pointer::standard);
+    store_.mousePointer().setPointer(Widgets::Pointer::standard);
     EXPECT_EQ(front_.cursor().shape(), Qt::ArrowCursor);
 }
 

@@ -6,7 +6,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "Orvo/window/controls/trace.h"
+#include "Orvo/window/controls/trace_lines.h"
 #include "Orvo/window/drawing/slider_track.h"
 
 namespace Orvo::Window {

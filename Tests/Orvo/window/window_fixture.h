@@ -7,12 +7,12 @@
 #include <QApplication>
 #include <QTest>
 
-#include "Orvo/window/front.h"
+#include "Orvo/window/panel_screen.h"
 
 namespace Orvo::Window {
 
 /// Writes down what a panel would be told.
-class Recorder final : public Widgets::NotificationSink {
+class OperationLog final : public Widgets::NotificationSink {
 public:
     void notify(Widgets::Notification& notification) override {
         constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
@@ -58,8 +58,8 @@ protected:
 
     std::shared_ptr<Runtime::Store> owner_ = Runtime::Store::create();
     Runtime::Store& store_ = *owner_;
-    Recorder panel_;
-    Front front_{owner_};
+    OperationLog panel_;
+    PanelScreen front_{owner_};
 };
 
 }  // namespace Orvo::Window

@@ -4,7 +4,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include "Orvo/window/controls/trace.h"
+#include "Orvo/window/controls/trace_lines.h"
 
 namespace Orvo::Window {
 
@@ -24,7 +24,7 @@ void Scope::refresh() {
     update();
 }
 
-QRect Scope::screen() const {
+QRect Scope::surface() const {
     const int border = qRound(Runtime::kPictureBorder * zoom());
     return rect().adjusted(border, border, -border, -border);
 }
@@ -34,18 +34,18 @@ void Scope::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor(96, 104, 116));
     painter.fillRect(rect().adjusted(0, 0, -qRound(zoom()), -qRound(zoom())), QColor(10, 12, 16));
-    painter.drawPixmap(screen().topLeft(), picture_);
+    painter.drawPixmap(surface().topLeft(), picture_);
 }
 
 void Scope::draw() {
     const double ratio = devicePixelRatioF();
-    const auto& surface = store().get<Runtime::StoredPicture>(id());
-    picture_ = QPixmap(screen().size() * ratio);
-    across_ = picture_.width() / double(surface.width());
-    down_ = picture_.height() / double(surface.height());
+    const auto& picture = store().get<Runtime::StoredPicture>(id());
+    picture_ = QPixmap(surface().size() * ratio);
+    across_ = picture_.width() / double(picture.width());
+    down_ = picture_.height() / double(picture.height());
     picture_.fill(toQt(looks().back));
     QPainter painter(&picture_);
-    for (const Runtime::Drawn& drawn : surface.state().drawing) {
+    for (const Runtime::Drawn& drawn : picture.state().drawing) {
         std::visit([&](const auto& figure) { draw(painter, figure); }, drawn);
     }
     // Only now: until here one unit of the painter is one device pixel.

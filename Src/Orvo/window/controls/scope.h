@@ -19,7 +19,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] QRect screen() const;
+    [[nodiscard]] QRect surface() const;
     void draw();
     void draw(QPainter& painter, const Runtime::LineSegment& line) const;
     void draw(QPainter& painter, const Runtime::DrawnText& text) const;

@@ -1,4 +1,4 @@
-#include "Orvo/window/controls/trace.h"
+#include "Orvo/window/controls/trace_lines.h"
 
 #include <algorithm>
 

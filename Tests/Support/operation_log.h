@@ -19,9 +19,9 @@ template <class... Visitors>
 Overloaded(Visitors...) -> Overloaded<Visitors...>;
 
 /// Writes down what is done to the widgets, and may let one of the operations fail.
-class Recorder final : public Runtime::OperationObserver {
+class OperationLog final : public Runtime::OperationObserver {
 public:
-    explicit Recorder(std::optional<std::size_t> failAt = {}) : failAt_(failAt) {}
+    explicit OperationLog(std::optional<std::size_t> failAt = {}) : failAt_(failAt) {}
 
     void before(const Runtime::Operation& operation) override {
         seen.push_back(textOf(operation));

@@ -10,9 +10,9 @@ namespace Orvo::Widgets {
 enum class Pointer : Integer { standard = 0, hourglass = 11 };
 
 /// The screen's mouse pointer.
-class Screen {
+class MousePointer {
 public:
-    virtual ~Screen() = default;
+    virtual ~MousePointer() = default;
     virtual void setPointer(Pointer pointer) = 0;
 };
 
@@ -38,9 +38,9 @@ public:
 };
 
 /// The widgets of one panel, made from the layout, as the panel sees them.
-class Runtime {
+class WidgetTree {
 public:
-    virtual ~Runtime() = default;
+    virtual ~WidgetTree() = default;
 
     virtual Label& operator[](LabelRef label) = 0;
     virtual Shape& operator[](ShapeRef shape) = 0;
@@ -56,7 +56,7 @@ public:
     virtual Digit& operator[](DigitRef digit) = 0;
     virtual Slider& operator[](SliderRef slider) = 0;
 
-    virtual Screen& screen() = 0;
+    virtual MousePointer& mousePointer() = 0;
     virtual InputPrompt& inputPrompt() = 0;
 
     /// From now on notifications go to `sink`; to nobody when it is null.

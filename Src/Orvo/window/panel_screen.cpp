@@ -1,4 +1,4 @@
-#include "Orvo/window/front.h"
+#include "Orvo/window/panel_screen.h"
 
 #include <utility>
 
@@ -26,12 +26,12 @@ bool isWithin(WidgetId widget, WidgetId container) {
 
 }  // namespace
 
-Front::Front(std::shared_ptr<Runtime::Store> store, QWidget* parent, Clock clock)
+PanelScreen::PanelScreen(std::shared_ptr<Runtime::Store> store, QWidget* parent, Clock clock)
     : QWidget(parent), store_(std::move(store)) {
     if (clock == Clock::real) ticker_.emplace(*store_);
     frame_.setSingleShot(true);
     frame_.setTimerType(Qt::PreciseTimer);
-    connect(&frame_, &QTimer::timeout, this, &Front::flush);
+    connect(&frame_, &QTimer::timeout, this, &PanelScreen::flush);
     provideFonts();
     installAccessibility();
     setAccessibleName("Amplifier panel");
@@ -44,13 +44,13 @@ Front::Front(std::shared_ptr<Runtime::Store> store, QWidget* parent, Clock clock
 }
 
 // The children first, while there is a store that they can look at.
-Front::~Front() {
+PanelScreen::~PanelScreen() {
     store_->showOn(nullptr);
     store_->promptWith(nullptr);
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
-void Front::build() {
+void PanelScreen::build() {
     tabs_ = new TabStrip(*store_, this);
     for (int tab = 0; tab < tabs_->count(); ++tab) pages_.push_back(new Page(*store_, tab, this));
     for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
@@ -62,18 +62,18 @@ void Front::build() {
     addTabShortcut(QKeySequence("Ctrl+Shift+Tab"), -1);
 }
 
-void Front::addTabShortcut(const QKeySequence& keys, int direction) {
+void PanelScreen::addTabShortcut(const QKeySequence& keys, int direction) {
     auto* shortcut = new QShortcut(keys, this);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, tabs_, [this, direction] { tabs_->step(direction); });
 }
 
-void Front::setZoom(double zoom) {
+void PanelScreen::setZoom(double zoom) {
     scale_ = Scale(zoom);
     layOut();
 }
 
-void Front::layOut() {
+void PanelScreen::layOut() {
     setFixedSize(scale_.panelSize());
     tabs_->layOut(scale_);
     for (Page* page : pages_) page->layOut(scale_);
@@ -82,7 +82,7 @@ void Front::layOut() {
     }
 }
 
-void Front::changed(WidgetId widget) {
+void PanelScreen::changed(WidgetId widget) {
     if (widget == Layout::kNoWidget) {
         const bool isBusy = store_->pointer() == Widgets::Pointer::hourglass;
         return isBusy ? setCursor(Qt::WaitCursor) : unsetCursor();
@@ -95,13 +95,13 @@ void Front::changed(WidgetId widget) {
     scheduleFrame();
 }
 
-void Front::scheduleFrame() {
+void PanelScreen::scheduleFrame() {
     if (frame_.isActive()) return;
     const qint64 since = sinceFrame_.isValid() ? sinceFrame_.elapsed() : kFrameTime;
     frame_.start(int(qMax<qint64>(0, kFrameTime - since)));
 }
 
-void Front::flush() {
+void PanelScreen::flush() {
     frame_.stop();
     sinceFrame_.start();
     for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
@@ -116,7 +116,7 @@ void Front::flush() {
 
 // What a container allows holds for all that it contains, and an option's fellows share the
 // keyboard's stop.
-void Front::noteWithContents(WidgetId widget) {
+void PanelScreen::noteWithContents(WidgetId widget) {
     const Layout::Kind kind = Layout::describe(widget).style.kind;
     const bool isOption = kind == Layout::Kind::option;
     if (!isOption && kind != Layout::Kind::frame && kind != Layout::Kind::tabs) return;
@@ -128,7 +128,7 @@ void Front::noteWithContents(WidgetId widget) {
     }
 }
 
-void Front::bringToScreen(WidgetId widget) {
+void PanelScreen::bringToScreen(WidgetId widget) {
     if (widget == kTabs) return bringTabToFront();
     if (controls_[widget] != nullptr) return controls_[widget]->refresh();
     Page& page = *pages_[std::size_t(pageOf(widget))];
@@ -136,7 +136,7 @@ void Front::bringToScreen(WidgetId widget) {
 }
 
 // The focus that a page takes with it would go to whatever comes next in the host's window.
-void Front::bringTabToFront() {
+void PanelScreen::bringTabToFront() {
     tabs_->refresh();
     for (Page* page : pages_) {
         const bool isInFront = page->tab() == tabs_->currentIndex();
@@ -146,7 +146,7 @@ void Front::bringTabToFront() {
 }
 
 // A window that is only minimised comes back, and the prompt with it.
-void Front::hideEvent(QHideEvent* event) {
+void PanelScreen::hideEvent(QHideEvent* event) {
     if (!event->spontaneous()) prompt_.withdraw();
 }
 

@@ -21,11 +21,11 @@ namespace Orvo::Window {
 
 /// The screen of a store: the tab strip, the three pages and the controls on them. What the store
 /// reports as changed is noted and brought to the screen once per frame.
-class Front final : public QWidget, public Runtime::View {
+class PanelScreen final : public QWidget, public Runtime::Screen {
 public:
-    explicit Front(std::shared_ptr<Runtime::Store> store, QWidget* parent = nullptr,
-                   Clock clock = Clock::real);
-    ~Front() override;
+    explicit PanelScreen(std::shared_ptr<Runtime::Store> store, QWidget* parent = nullptr,
+                         Clock clock = Clock::real);
+    ~PanelScreen() override;
 
     [[nodiscard]] double zoom() const { return scale_.zoom(); }
     void setZoom(double zoom);
