@@ -1,28 +1,31 @@
 #include "Reference/reference.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
+#include "Orvo/core/member_table.h"
+#include "Orvo/store/state.h"
 #include "Script/command.h"
 
 namespace {
 
 using namespace Orvo::Script;
 
-std::string textIn(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+TEST(Derived, standsInTheTreeAsTheTablesHaveIt) {
+    for (const auto& [path, text] : derivedFiles(ORVO_ROOT)) {
+        EXPECT_EQ(textIn(path), text)
+            << path << ": build the target \"reference\" to write it anew";
+    }
 }
 
-std::string page(const std::string& name) { return textIn(ORVO_DOCS "/" + name); }
-
-TEST(Reference, standsInDocsAsItIsWritten) {
-    const char* const remedy = "Build the target \"reference\" to write it anew.";
-    EXPECT_EQ(page("panel-script.md"), scriptReference()) << remedy;
-    EXPECT_EQ(page("interface.md"), interfaceReference()) << remedy;
+TEST(Contracts, knowTheLimitsOfTheStoresLog) {
+    using Limits = Orvo::Runtime::ListState;
+    const auto* add = std::find_if(Orvo::kMembers.begin(), Orvo::kMembers.end(),
+                                   [](auto& member) { return member.name == "AggiugiTesto"; });
+    for (const std::size_t limit : {Limits::kMostItems, Limits::kMostText}) {
+        EXPECT_NE(add->contract.errors.find(std::to_string(limit)), std::string::npos) << limit;
+    }
 }
 
 TEST(Transcripts, showEveryCommand) {
