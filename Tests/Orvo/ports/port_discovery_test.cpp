@@ -5,6 +5,8 @@
 #include <functional>
 #include <memory>
 
+#include <sys/resource.h>
+
 #include "Orvo/service/block_heap.h"
 #include "Support/bench.h"
 #include "Support/spooler.h"
@@ -38,6 +40,13 @@ TEST_F(PortDiscoveryTest, WritesServerAndTextsInCodePage1252) {
               "\\\\b\xFC"
               "cher\x80?");
     EXPECT_EQ(shown(discovery_.ports()[0]), "?COM€, Überwacher, …, 11");
+}
+
+TEST_F(PortDiscoveryTest, EndsTheServersNameAtItsFirstNul) {
+    for (const String& padded : {String(2, u'\0'), u"rack" + String(70000, u'\0') + u"x"}) {
+        discovery_.discover(padded);
+        EXPECT_EQ(spooler_->askedServer, toUtf8(padded.substr(0, padded.find(u'\0'))));
+    }
 }
 
 TEST_F(PortDiscoveryTest, KeepsTheEntriesAboveTheCount) {
@@ -119,6 +128,19 @@ TEST_F(PortDiscoveryTest, PassesAFailedAllocationOnToTheFillCall) {
     EXPECT_EQ(storedCount(), 0);
 }
 
+TEST_F(PortDiscoveryTest, GivesTheFillCallTheNeededSizeAndNoMore) {
+    struct RoundingHeap final : ProcessHeap {
+        Long allocate(std::size_t bytes) override { return blocks.allocate(bytes + 100); }
+        void release(Long address) override { blocks.release(address); }
+        std::span<std::byte> bytesFrom(Long address) override { return blocks.bytesFrom(address); }
+        BlockHeap blocks;
+    };
+    discovery_ = PortDiscovery({spooler_, std::make_shared<RoundingHeap>()});
+    spooler_->sizeQuery.ports = numbered(1);
+    spooler_->fillCall.ports = numbered(2);
+    EXPECT_EQ(discovery_.discover(u""), 0);
+}
+
 class PortMembersTest : public PortDiscoveryTest {
 protected:
     MarvaneAssistant panel_{Runtime::Store::create(), {spooler_, heap_}};
@@ -173,6 +195,18 @@ TEST(BlockHeap, GoesOnForeverBesideABlockThatStays) {
     }
     EXPECT_EQ(heap.allocate(0x8000'0000), 0);
 }
+
+#ifndef __SANITIZE_ADDRESS__  // which ends the process instead
+TEST(BlockHeap, HasNoBlockWhenTheMachineHasNoMemory) {
+    rlimit before{};
+    getrlimit(RLIMIT_AS, &before);
+    const rlimit none{0, before.rlim_max};
+    setrlimit(RLIMIT_AS, &none);
+    const Long address = BlockHeap().allocate(0x4000'0000);
+    setrlimit(RLIMIT_AS, &before);
+    EXPECT_EQ(address, 0);
+}
+#endif
 
 }  // namespace
 }  // namespace Orvo::Tests
