@@ -4,6 +4,7 @@
 #include <cstring>
 #include <functional>
 #include <memory>
+#include <new>
 
 #include <sys/resource.h>
 
@@ -153,6 +154,20 @@ TEST_F(PortMembersTest, GetAvailablePortsDiscovers) {
     spooler_->list(numbered(102));
     EXPECT_EQ(errorOf([&] { panel_.GetAvailablePorts(u""); }), 9);
     EXPECT_EQ(MarvaneAssistant(Runtime::Store::create()).GetAvailablePorts(u""), 0);
+}
+
+TEST_F(PortMembersTest, InvokeTurnsWhateverIsThrownIntoAnError) {
+    const auto number = [&](std::function<void()> fail) {
+        spooler_->list(numbered(1));
+        spooler_->spoil = [&](auto) { fail(); };
+        const Value server = String();
+        return panel_.invoke(0x60030017, MemberKind::method, {&server, 1}).error.value().number();
+    };
+    EXPECT_EQ(number([] { throw std::bad_alloc(); }), 7);
+    EXPECT_EQ(number([] { throw std::logic_error("x"); }), 1003);
+    EXPECT_EQ(number([] { throw 5; }), 1003);
+    EXPECT_EQ(heap_->blockCount(), 0U);
+    EXPECT_THROW(number([] { throw Released(); }), Released);
 }
 
 TEST_F(PortMembersTest, TrimStrEndsAtTheFirstNul) {
