@@ -71,24 +71,6 @@ TEST(TraceTest, IsThePictureOfItsSegmentsPixelForPixel) {
     EXPECT_TRUE(traceLines({}, 1, 1).isEmpty());
 }
 
-TEST(TraceTest, TheHaloLeavesNoGap) {
-    const auto points =
-        trace(500, [](std::size_t i) { return 47 + 40 * std::sin(float(i) * 0.7F); });
-    for (const int thickness : {1, 2, 4}) {
-        for (const int reach : {1, 3}) {
-            QList<QLine> lines = traceLines(points, 1, 1);
-            const QImage broad = picture(lines, thickness + 2 * reach);
-            for (QLine& line : lines) line.translate(reach, reach);
-            QImage both = picture(lines, thickness);
-            QPainter painter(&both);
-            painter.setPen(Qt::green);
-            drawHalo(painter, lines, thickness, reach);
-            painter.end();
-            EXPECT_EQ(both, broad) << thickness << " and " << reach;
-        }
-    }
-}
-
 TEST(TraceTest, DrawsASegmentAsALineBetweenItsPixels) {
     const Widgets::Point points[] = {{10, 90.5F}, {14.75F, 3}, {14.9F, 20}};
     QImage expected(390, 190, QImage::Format_RGB32);
