@@ -16,7 +16,7 @@ Words completions(std::string_view before, std::string_view typed) {
     return completions(before, typed, kInMemory);
 }
 
-TEST(Completion, offersWhatMayStandInThePlace) {
+TEST(Completion, OffersWhatMayStandInThePlace) {
     EXPECT_EQ(completions("", "he"), Words{"help"});
     EXPECT_EQ(completions("help ", "in"), Words{"invoke"});
     EXPECT_EQ(completions("help let ", "in"), Words{});
@@ -43,7 +43,7 @@ TEST(Completion, offersWhatMayStandInThePlace) {
     EXPECT_EQ(completions("nonsense ", ""), Words{});
 }
 
-TEST(Help, isThereForEveryCommandOfAPlace) {
+TEST(Help, IsThereForEveryCommandOfAPlace) {
     for (const Grammar& grammar : {kInMemory, kInWindow}) {
         for (const Command& command : allCommands()) {
             const bool isKnown = isAllowed(command, grammar);

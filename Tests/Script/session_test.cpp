@@ -23,7 +23,7 @@ struct SessionTest : testing::Test {
     StoreBench bench;
 };
 
-TEST_F(SessionTest, aDeviceMaySendTheHostsCommandsOnly) {
+TEST_F(SessionTest, ADeviceMaySendTheHostsCommandsOnly) {
     for (const Command& command : allCommands()) {
         if (command.side == Side::host) continue;
         for (const std::string before : {"", "on Mute ", "on Mute on OnOff "}) {
@@ -35,7 +35,7 @@ TEST_F(SessionTest, aDeviceMaySendTheHostsCommandsOnly) {
     EXPECT_EQ(answersTo("on Mute let Mute 1 true", Grammar::Speaker::device), Lines{"ok"});
 }
 
-TEST_F(SessionTest, eventsThatNoCommandCausedAreAnsweredToo) {
+TEST_F(SessionTest, EventsThatNoCommandCausedAreAnsweredToo) {
     Lines answers;
     Session session(bench, {}, [&](std::string_view line) { answers.emplace_back(line); });
     session.run("on Mute get PowerOn");
@@ -51,7 +51,7 @@ struct Saboteur final : Runtime::OperationObserver {
     Long number = 1000;
 };
 
-TEST_F(SessionTest, theFirstOfSeveralErrorsOfHandlersClosesTheCommand) {
+TEST_F(SessionTest, TheFirstOfSeveralErrorsOfHandlersClosesTheCommand) {
     Saboteur saboteur;
     bench.widgets().observeWith(&saboteur);
     EXPECT_EQ(answersTo("wait 3000"), Lines{"! 1001 Sabotage"});
@@ -59,7 +59,7 @@ TEST_F(SessionTest, theFirstOfSeveralErrorsOfHandlersClosesTheCommand) {
     EXPECT_EQ(answersTo("get PowerOn"), Lines{"= 0"});
 }
 
-TEST_F(SessionTest, commandsMayBeNestedButNotWithoutEnd) {
+TEST_F(SessionTest, CommandsMayBeNestedButNotWithoutEnd) {
     const auto nested = [](int depth) {
         std::string line;
         for (int i = 0; i < depth; ++i) line += "on Mute ";
@@ -70,7 +70,7 @@ TEST_F(SessionTest, commandsMayBeNestedButNotWithoutEnd) {
     EXPECT_EQ(answersTo(nested(100000)), Lines{"? this is nested too deeply"});
 }
 
-TEST_F(SessionTest, aLineThatIsNotUtf8IsRefused) {
+TEST_F(SessionTest, ALineThatIsNotUtf8IsRefused) {
     for (const std::string_view line : {"get Mute 1\xFF", "call TrimStr \"\xC0\x80\"",
                                         "call TrimStr \"\xED\xA0\x80\"", "\xE2\x82"}) {
         EXPECT_EQ(answersTo(line), Lines{"? the line is not UTF-8"}) << line;
@@ -79,7 +79,7 @@ TEST_F(SessionTest, aLineThatIsNotUtf8IsRefused) {
     EXPECT_EQ(answersTo("get PowerOn\r"), Lines{"= 0"});
 }
 
-TEST(Text, isReadBackAsItWasPrinted) {
+TEST(Text, IsReadBackAsItWasPrinted) {
     EXPECT_EQ(textOf(IntegerArray()), "[]");
     EXPECT_EQ(textOf(IntegerArray(1, {})), "1:[]");
     EXPECT_EQ(textOf(IntegerArray(1, {7, -8})), "[7 -8]");

@@ -22,20 +22,9 @@ constexpr int kPictureHeight =
     Layout::describe(Layout::pictureRef("Picture1").id).place.height / Layout::kTwipsPerPixel;
 constexpr float kSurfaceHeight = kPictureHeight - 2 * Runtime::kPictureBorder;
 
-// Volts at a height on the surface, by two marks of its scale.
-class Scale {
-public:
-    Scale() {
-        const auto marks = gridMarks(kSurfaceHeight);
-        top_ = marks.at(0);
-        perPixel_ = double(marks.at(1).volts - top_.volts) / (marks.at(1).y - top_.y);
-    }
-    [[nodiscard]] double volts(double y) const { return top_.volts + (y - top_.y) * perPixel_; }
-
-private:
-    GridMark top_;
-    double perPixel_ = 0;
-};
+double voltsOf(Integer sample) {
+    return voltsAt(traceY(sample, double{kSurfaceHeight}), kSurfaceHeight);
+}
 
 std::string withTwoDecimals(double value) {
     std::array<char, 64> digits{};
@@ -71,13 +60,10 @@ bool Traces::has(Integer channel) const { return !drawn(samples(channel)).empty(
 
 std::string traceCsv(const IntegerArray& samples) {
     const auto values = drawn(samples);
-    const auto upper = static_cast<Long>(values.size());
-    const auto points = tracePoints(values, upper, 1, kSurfaceHeight);
-    const Scale scale;
     std::string csv = "index,sample (counts),level (V)\n";
     for (std::size_t i = 0; i < values.size(); ++i) {
         csv += std::to_string(i + 1) + ',' + std::to_string(values[i]) + ',' +
-               withTwoDecimals(scale.volts(double(points[i].y))) + '\n';
+               withTwoDecimals(voltsOf(values[i])) + '\n';
     }
     return csv;
 }

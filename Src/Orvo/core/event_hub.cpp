@@ -1,6 +1,7 @@
 #include "Orvo/core/event_hub.h"
 
 #include <exception>
+#include <new>
 #include <utility>
 
 namespace Orvo {
@@ -43,6 +44,8 @@ Error currentError() {
         throw;
     } catch (const Error& error) {
         return error;
+    } catch (const std::bad_alloc&) {
+        return Errors::outOfMemory();
     } catch (const std::exception& exception) {
         return Errors::hostFailure(exception.what());
     } catch (...) {

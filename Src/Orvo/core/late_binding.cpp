@@ -1,5 +1,6 @@
 #include "Orvo/core/late_binding.h"
 
+#include "Orvo/core/event_hub.h"
 #include "Orvo/values/ignoring_case.h"
 
 namespace Orvo {
@@ -39,8 +40,10 @@ InvokeResult invokeOn(MarvaneAssistantInterface& panel, Long dispatchId, MemberK
     try {
         const Member& member = findMember(dispatchId, kind);
         return {.value = member.call(panel, convertArguments(member, arguments))};
-    } catch (const Error& error) {
-        return {.error = error};
+    } catch (const Released&) {
+        throw;
+    } catch (...) {
+        return {.error = currentError()};
     }
 }
 

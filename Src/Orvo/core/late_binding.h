@@ -10,7 +10,8 @@
 
 namespace Orvo {
 
-/// The outcome of a late-bound call: a result, or the error that a direct call would have thrown.
+/// The outcome of a late-bound call: a result, or the error that ended it. An exception of another
+/// kind is an error as well: 7 for want of memory, 1003 otherwise.
 struct InvokeResult {
     Value value{};
     std::optional<Error> error{};

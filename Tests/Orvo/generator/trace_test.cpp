@@ -1,23 +1,7 @@
-#include "Orvo/generator/trace.h"
-
-#include <numeric>
-
-#include <gtest/gtest.h>
-
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
 namespace {
-
-TEST(TracePoints, SpreadTheSamplesOverTheSurface) {
-    const std::vector<Integer> samples{128, 255, 0};
-    const auto points = tracePoints(samples, 100, 195, 95);
-    EXPECT_FLOAT_EQ(points[0].x, 31.65F);
-    EXPECT_NEAR(points[0].y, 47.69, 0.005);
-    EXPECT_NEAR(points[1].y, 98.31, 0.005);
-    EXPECT_NEAR(points[2].y, -3.34, 0.005);
-    EXPECT_EQ(tracePoints(std::vector<Integer>(100), 100, 195, 95).back().x, 195);
-}
 
 using Trace = PanelTest;
 

@@ -1,12 +1,11 @@
 #include "Orvo/layout/layout.h"
 
-#include <cstdlib>
-#include <fstream>
 #include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "Orvo/values/text.h"
+#include "Support/approved.h"
 
 namespace Orvo::Tests {
 namespace {
@@ -48,15 +47,10 @@ std::string line(const Widget& widget) {
     return out.str();
 }
 
-// ORVO_UPDATE=1 ./test -R Layout writes the list anew; a review then sees what a change moved.
 TEST(Layout, IsTheListOfAllWidgets) {
-    const std::string path = ORVO_TEST_DATA "/widgets.txt";
     std::ostringstream actual;
     for (const Widget& widget : kWidgets) actual << line(widget) << '\n';
-    if (std::getenv("ORVO_UPDATE") != nullptr) std::ofstream(path) << actual.str();
-    std::ostringstream expected;
-    expected << std::ifstream(path).rdbuf();
-    EXPECT_EQ(actual.str(), expected.str());
+    expectAsKept(ORVO_TESTS "/Orvo/layout/widgets.txt", actual.str());
 }
 
 TEST(Layout, KeepsEverythingInsideItsContainer) {

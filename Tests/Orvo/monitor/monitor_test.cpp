@@ -1,4 +1,3 @@
-#include "Orvo/monitor/volume.h"
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
@@ -35,14 +34,6 @@ TEST_F(Monitor, LightsExactlyTheLampOfAFlagAndIndex) {
             EXPECT_EQ(lit(), "") << row.lamps.back() << ' ' << index;
         }
     }
-}
-
-TEST(Volume, AndPositionStandForEachOther) {
-    for (Integer volume = -30; volume <= 30; volume += 2) {
-        EXPECT_EQ(volumeAt(sliderPosition(volume)), volume);
-        EXPECT_EQ(volumeAt(sliderPosition(static_cast<Integer>(volume - 1))), volume);
-    }
-    EXPECT_EQ(errorOf([] { volumeAt(-16400); }), 6);
 }
 
 }  // namespace

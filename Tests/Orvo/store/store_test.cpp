@@ -99,8 +99,9 @@ TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
 TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
     constexpr auto kPicture = Layout::pictureRef("Picture1");
     const std::vector<Widgets::Point> points{{0, 0}, {1, 1}, {2, 0}, {3, 1}};
-    OperationLog thirdLine(6);
-    store_.observeWith(&thirdLine);
+    OperationLog log;
+    log.failAt = 6;  // the third line
+    store_.observeWith(&log);
     EXPECT_EQ(errorOf([&] { store_[kPicture].polyline(points, Layout::kGreen); }), 7);
     const auto& drawing = store_.get<Runtime::StoredPicture>(kPicture.id).state().drawing;
     ASSERT_EQ(drawing.size(), 1U);

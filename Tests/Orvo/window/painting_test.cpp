@@ -95,5 +95,18 @@ TEST_F(PaintingTest, AScopeShowsWhatIsDrawnInItsOwnUnits) {
     }
 }
 
+TEST_F(PaintingTest, ATraceColoursItsOwnPixelsAlone) {
+    auto& surface = store_[Widgets::PictureRef{idOf("Picture1")}];
+    surface.clear();
+    settle();
+    QImage expected = control("Picture1").grab().toImage();
+    for (int x = 30; x < 195; ++x) expected.setPixelColor(2 + x, 2 + 50, QColor(0, 255, 0));
+    std::vector<Widgets::Point> points;
+    for (int i = 0; i < 1000; ++i) points.push_back({30 + 165 * float(i) / 1000, 50});
+    surface.polyline(points, rgb(0, 255, 0));
+    settle();
+    EXPECT_EQ(control("Picture1").grab().toImage(), expected);
+}
+
 }  // namespace
 }  // namespace Orvo::Window

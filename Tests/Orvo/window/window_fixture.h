@@ -12,7 +12,7 @@
 namespace Orvo::Window {
 
 /// Writes down what a panel would be told.
-class OperationLog final : public Widgets::NotificationSink {
+class NotificationLog final : public Widgets::NotificationSink {
 public:
     void notify(Widgets::Notification& notification) override {
         constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
@@ -58,7 +58,7 @@ protected:
 
     std::shared_ptr<Runtime::Store> owner_ = Runtime::Store::create();
     Runtime::Store& store_ = *owner_;
-    OperationLog panel_;
+    NotificationLog panel_;
     PanelScreen front_{owner_};
 };
 

@@ -71,15 +71,9 @@ void Scope::draw(QPainter& painter, const Runtime::DrawnText& text) const {
     painter.drawText(QPointF(text.at.x * across_, baseline), toQt(text.text));
 }
 
-// A beam, and the phosphor around it that it also makes shine.
 void Scope::draw(QPainter& painter, const Runtime::DrawnPolyline& polyline) const {
-    constexpr int kDimmer = 320;  // percent
-    const QList<QLine> lines = traceLines(polyline.points, across_, down_);
-    const int beam = qMax(1, qRound(down_));
-    painter.setPen(toQt(polyline.colour).darker(kDimmer));
-    drawHalo(painter, lines, beam, qMax(1, beam / 2));
     painter.setPen(toQt(polyline.colour));
-    drawLines(painter, lines, beam);
+    drawLines(painter, traceLines(polyline.points, across_, down_), qMax(1, qRound(down_)));
 }
 
 }  // namespace Orvo::Window
