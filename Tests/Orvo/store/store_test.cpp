@@ -20,7 +20,7 @@ protected:
     StoreTest() { store_.notifyTo(this); }
 
     void notify(Notification& notification) override {
-        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
+        constexpr const char* kNames[] = {"click", "release", "key", "tick", "change"};
         heard_.push_back(std::string(kNames[static_cast<int>(notification.kind)]) + ' ' +
                          std::string(Layout::describe(notification.widget).name));
         if (answer_) answer_(notification);
