@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -136,6 +137,23 @@ private:
 inline constexpr std::array<Widget, kWidgetCount> kWidgets = Detail::Expansion().widgets();
 
 constexpr const Widget& describe(WidgetId id) { return kWidgets[id]; }
+constexpr Kind kindOf(WidgetId id) { return describe(id).style.kind; }
+
+/// Whether two widgets are of one kind and in one container, as the options of a group are.
+constexpr bool areFellows(WidgetId one, WidgetId other) {
+    return kindOf(one) == kindOf(other) && describe(one).container == describe(other).container;
+}
+
+/// All widgets of a kind, in order.
+template <Kind kKind>
+inline constexpr auto kAll = [] {
+    constexpr auto isOne = [](const Widget& widget) { return widget.style.kind == kKind; };
+    std::array<WidgetId, std::count_if(kWidgets.begin(), kWidgets.end(), isOne)> all{};
+    for (std::size_t i = 0, id = 0; i < all.size(); ++id) {
+        if (isOne(kWidgets[id])) all[i++] = static_cast<WidgetId>(id);
+    }
+    return all;
+}();
 
 /// The widget of this name, "NAME(INDEX)" for an element of a widget array.
 constexpr std::optional<WidgetId> findWidget(std::string_view name) {

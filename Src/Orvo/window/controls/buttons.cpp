@@ -41,9 +41,7 @@ void OptionButton::refresh() {
 bool OptionButton::isTabStop() const {
     if (stored<Runtime::StoredOption>().value) return true;
     for (WidgetId other = 0; other < Layout::kWidgetCount; ++other) {
-        const auto& widget = Layout::describe(other);
-        if (widget.container != description().container || widget.style.kind != looks().kind)
-            continue;
+        if (!Layout::areFellows(other, id())) continue;
         if (store().get<Runtime::StoredOption>(other).state().value) return false;
     }
     return true;
@@ -85,12 +83,10 @@ void OptionButton::selectNext(int step) {
     constexpr int kCount = int(Layout::kWidgetCount);
     for (int i = 1; i < kCount; ++i) {
         const auto next = WidgetId((id() + kCount + step * i) % kCount);
-        const auto& widget = Layout::describe(next);
-        if (widget.container != description().container || widget.style.kind != looks().kind)
-            continue;
-        if (!store().acceptsInput(next)) continue;
-        const auto name = QLatin1StringView(widget.name.data(), qsizetype(widget.name.size()));
-        if (auto* button = parentWidget()->findChild<QWidget*>(name))
+        if (!Layout::areFellows(next, id()) || !store().acceptsInput(next)) continue;
+        const std::string_view name = Layout::describe(next).name;
+        if (auto* button = parentWidget()->findChild<QWidget*>(
+                QLatin1StringView(name.data(), qsizetype(name.size()))))
             button->setFocus(Qt::TabFocusReason);
         return input().activate(next);
     }
