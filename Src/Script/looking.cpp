@@ -34,7 +34,7 @@ std::string properties(const StoredLabel& label) {
 }
 
 std::string properties(const StoredShape& shape) {
-    return property("fill", std::string_view(shape.state().fillStyle == Widgets::FillStyle::solid ? "solid" : "transparent"));
+    return property("fill", std::string_view(shape.state().isLit() ? "solid" : "transparent"));
 }
 
 std::string properties(const StoredLine& line) { return property("color", line.state().colour); }

@@ -56,7 +56,7 @@ void PaintedShape::paintOutline(QPainter& painter) const {
 }
 
 void PaintedShape::paintLamp(QPainter& painter) const {
-    const bool isLit = stored<Runtime::StoredShape>().fillStyle == Widgets::FillStyle::solid;
+    const bool isLit = stored<Runtime::StoredShape>().isLit();
     const QColor colour = toQt(isLit ? looks().fill : looks().back);
     const QRectF lamp = circle().adjusted(pen_ / 2, pen_ / 2, -pen_ / 2, -pen_ / 2);
     if (isLit) paintGlow(painter);
