@@ -126,7 +126,7 @@ private:
 };
 
 std::string_view containerOf(const Layout::Widget& widget) {
-    if (widget.container == Layout::kNoWidget) return "MarvaneAssistant";
+    if (widget.container == Layout::kPanel) return "MarvaneAssistant";
     return Layout::describe(widget.container).name;
 }
 
@@ -142,7 +142,7 @@ std::string describe(const Store& widgets, WidgetId widget) {
 
 std::string show(Session& session, const Shown& widget) {
     const Store& widgets = session.bench().widgets();
-    if (widget.id != Layout::kNoWidget) return resultIs(describe(widgets, widget.id));
+    if (widget.id) return resultIs(describe(widgets, *widget.id));
     return resultIs("screen" + property("pointer", static_cast<int>(widgets.pointer())));
 }
 

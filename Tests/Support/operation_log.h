@@ -44,7 +44,7 @@ private:
                                       return textOf(line.from) + ' ' + textOf(line.to);
                                   }},
                        operation.value);
-        return std::to_string(operation.widget) + ' ' +
+        return (operation.widget ? std::to_string(*operation.widget) : "-") + ' ' +
                std::to_string(static_cast<int>(operation.verb)) + ' ' +
                std::to_string(operation.tab) + ' ' + value;
     }

@@ -17,7 +17,7 @@ namespace Orvo::Layout {
 
 using Widgets::WidgetId;
 
-constexpr WidgetId kNoWidget = 0xFFFF;
+constexpr WidgetId kPanel = 0xFFFF;   // the panel itself, which contains the first widget
 constexpr int kTimerInterval = 1500;  // milliseconds
 
 /// One widget as it is laid out.
@@ -26,8 +26,8 @@ struct Widget {
     Style style{};
     std::u16string_view caption;
     Place place;
-    WidgetId container = kNoWidget;  ///< kNoWidget: the panel itself
-    int tab = 0;                     ///< the container's tab that it belongs to, from 0
+    WidgetId container = kPanel;
+    int tab = 0;  ///< the container's tab that it belongs to, from 0
 };
 
 constexpr std::size_t kWidgetCount = [] {
@@ -52,7 +52,7 @@ constexpr Place twinPlace(const TwinRow& row) {
 class Expansion {
 public:
     constexpr Expansion() {
-        add(kRoot.name, kRoot.style, kRoot.caption, kRoot.place, kNoWidget, 0);
+        add(kRoot.name, kRoot.style, kRoot.caption, kRoot.place, kPanel, 0);
         for (const Row& row : kCommonWidgets)
             addToTab(kCommonTab, row.name, row.style, row.caption, row.place);
         for (const Pair pair : {pair12, pair34}) addPairTab(pair);

@@ -15,7 +15,8 @@ public:
 
     void setPointer(Widgets::Pointer pointer) override {
         store_.observe({.verb = Verb::setPointer, .value = static_cast<Integer>(pointer)});
-        if (std::exchange(store_.pointer_, pointer) != pointer) store_.changed(Layout::kNoWidget);
+        const bool isChanged = std::exchange(store_.pointer_, pointer) != pointer;
+        if (isChanged && store_.screen_ != nullptr) store_.screen_->pointerChanged();
     }
 
 private:
@@ -65,7 +66,7 @@ Widgets::MousePointer& Store::mousePointer() { return *mousePointer_; }
 Widgets::InputPrompt& Store::inputPrompt() { return *prompt_; }
 
 bool Store::isShown(WidgetId id) const {
-    for (; id != Layout::kNoWidget; id = Layout::describe(id).container) {
+    for (; id != Layout::kPanel; id = Layout::describe(id).container) {
         if (!widgets_[id]->isVisible()) return false;
     }
     return true;
@@ -73,10 +74,10 @@ bool Store::isShown(WidgetId id) const {
 
 bool Store::acceptsInput(WidgetId id) const {
     if (!isShown(id)) return false;
-    for (; id != Layout::kNoWidget; id = Layout::describe(id).container) {
+    for (; id != Layout::kPanel; id = Layout::describe(id).container) {
         if (!widgets_[id]->isEnabled()) return false;
         const auto& widget = Layout::describe(id);
-        if (widget.container == Layout::kNoWidget) return true;
+        if (widget.container == Layout::kPanel) return true;
         const bool isOnTab = Layout::kindOf(widget.container) == Kind::tabs;
         if (isOnTab && !get<StoredTabs>(widget.container).isTabEnabled(widget.tab)) return false;
     }

@@ -19,9 +19,11 @@ namespace Orvo::Runtime {
 class Screen {
 public:
     virtual ~Screen() = default;
-    /// What this widget shows may have changed; `Layout::kNoWidget` stands for the pointer. Called
-    /// from within the panel's writes: note it and paint later.
+    /// What this widget shows may have changed. Called from within the panel's writes: note it and
+    /// paint later.
     virtual void changed(WidgetId widget) = 0;
+    /// The mouse pointer has changed.
+    virtual void pointerChanged() = 0;
 };
 
 /// Whoever sits in front of the panel and answers its prompts.

@@ -34,7 +34,7 @@ std::string line(const Widget& widget) {
     const auto& [left, top, width, height] = widget.place;
     std::ostringstream out;
     out << widget.name << " | " << nameOf(style.kind) << " | "
-        << (widget.container == kNoWidget ? "-" : describe(widget.container).name) << ' ' << widget.tab
+        << (widget.container == kPanel ? "-" : describe(widget.container).name) << ' ' << widget.tab
         << " | " << left << ' ' << top << ' ' << width << ' ' << height << " | \""
         << toUtf8(widget.caption) << "\" | " << font(style.font) << " | " << hex(style.text) << ' '
         << hex(style.back) << ' ' << hex(style.fill) << ' ' << hex(style.border);
@@ -58,7 +58,7 @@ TEST(Layout, IsTheListOfAllWidgets) {
 
 TEST(Layout, KeepsEverythingInsideItsContainer) {
     for (const Widget& widget : kWidgets) {
-        if (widget.container == kNoWidget || widget.style.kind == Kind::image) continue;
+        if (widget.container == kPanel || widget.style.kind == Kind::image) continue;
         const Place& outer = describe(widget.container).place;
         const Place& place = widget.place;
         const bool isLine = widget.style.kind == Kind::line;
