@@ -112,7 +112,7 @@ void StoredOption::setValue(bool value) {
 }
 
 void StoredOption::select(Cause cause) {
-    if (!change(state_.value, true)) return;
+    change(state_.value, true);
     for (const WidgetId other : Layout::kAll<Kind::option>) {
         if (other != id() && Layout::areFellows(other, id()))
             store().at<StoredOption>(other).clear();

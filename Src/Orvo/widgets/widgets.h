@@ -8,7 +8,7 @@
 
 // One interface per kind of widget, with what the panel does to it and nothing more. Every
 // operation may fail with an Error; it has then changed nothing. An operation that finds its value
-// already there does nothing. Writing never notifies, except Option::setValue.
+// already there does nothing, and writing never notifies; except Option::setValue.
 namespace Orvo::Widgets {
 
 class Widget {
@@ -48,7 +48,8 @@ class Option : public Enableable {
 public:
     [[nodiscard]] virtual bool value() const = 0;
     /// Writing true clears the other options of the container and notifies a click, as if a person
-    /// had clicked; an error of the click's handler reaches the writer.
+    /// had clicked, on an option that is selected already too; an error of the click's handler
+    /// reaches the writer.
     virtual void setValue(bool value) = 0;
 };
 

@@ -48,6 +48,11 @@ TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
     EXPECT_TRUE(store_[kN1].value());
     EXPECT_TRUE(store_[kP3].value());
     EXPECT_EQ(takeHeard(), (Heard{"click optP3", "click optP1", "click optN1", "release optN1"}));
+    person_.click(kN1.id);
+    person_.type(kN1.id, ' ');
+    store_[kN1].setValue(true);
+    EXPECT_EQ(takeHeard(),
+              (Heard{"click optN1", "release optN1", "key optN1", "click optN1", "click optN1"}));
 }
 
 TEST_F(StoreTest, TicksOnceForAllTheTimeThatItMissed) {
