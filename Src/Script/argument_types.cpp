@@ -87,7 +87,7 @@ Picture Picture::take(Arguments& arguments) {
 Shown Shown::take(Arguments& arguments) {
     if (!arguments.isNext(kScreen)) return {AnyWidget::take(arguments).id};
     arguments.take(kWords);
-    return {Layout::kNoWidget};
+    return {std::nullopt};
 }
 
 std::size_t takeChoice(Arguments& arguments, std::string_view words) {

@@ -71,7 +71,7 @@ struct Shown {
     static constexpr std::string_view kWords = "WIDGET|Screen";
     static constexpr std::string_view kScreen = "Screen";
     static Shown take(Arguments& arguments);
-    WidgetId id;
+    std::optional<WidgetId> id;
 };
 
 /// One of a few words; the value is its place among them.

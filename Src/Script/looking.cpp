@@ -34,8 +34,7 @@ std::string properties(const StoredLabel& label) {
 }
 
 std::string properties(const StoredShape& shape) {
-    const bool isSolid = shape.state().fillStyle == Widgets::FillStyle::solid;
-    return property("fill", std::string_view(isSolid ? "solid" : "transparent"));
+    return property("fill", std::string_view(shape.state().isLit() ? "solid" : "transparent"));
 }
 
 std::string properties(const StoredLine& line) { return property("color", line.state().colour); }
@@ -86,40 +85,7 @@ std::string properties(const StoredSlider& slider) {
            enabled(slider) + property("held", state.isHeld);
 }
 
-std::string propertiesOf(const Store& widgets, WidgetId id) {
-    switch (Layout::describe(id).style.kind) {
-        case Kind::label:
-            return properties(widgets.get<StoredLabel>(id));
-        case Kind::shape:
-            return properties(widgets.get<StoredShape>(id));
-        case Kind::line:
-            return properties(widgets.get<StoredLine>(id));
-        case Kind::button:
-            return properties(widgets.get<StoredButton>(id));
-        case Kind::option:
-            return properties(widgets.get<StoredOption>(id));
-        case Kind::check:
-            return properties(widgets.get<StoredCheck>(id));
-        case Kind::combo:
-            return properties(widgets.get<StoredCombo>(id));
-        case Kind::list:
-            return properties(widgets.get<StoredList>(id));
-        case Kind::picture:
-            return properties(widgets.get<StoredPicture>(id));
-        case Kind::timer:
-            return properties(widgets.get<StoredTimer>(id));
-        case Kind::tabs:
-            return properties(widgets.get<StoredTabs>(id));
-        case Kind::digit:
-            return properties(widgets.get<StoredDigit>(id));
-        case Kind::slider:
-            return properties(widgets.get<StoredSlider>(id));
-        case Kind::frame:
-        case Kind::image:
-            break;
-    }
-    return {};
-}
+std::string properties(const StoredStill& /*still*/) { return {}; }
 
 template <class Items>
 std::string listed(Session& session, const Items& items) {
@@ -160,29 +126,29 @@ private:
 };
 
 std::string_view containerOf(const Layout::Widget& widget) {
-    if (widget.container == Layout::kNoWidget) return "MarvaneAssistant";
+    if (widget.container == Layout::kPanel) return "MarvaneAssistant";
     return Layout::describe(widget.container).name;
 }
 
 }  // namespace
 
 std::string describe(const Store& widgets, WidgetId widget) {
-    const Kind kind = Layout::describe(widget).style.kind;
+    const Kind kind = Layout::kindOf(widget);
     const bool showsItself = kind != Kind::timer;
     return std::string(nameOf(kind)) +
            (showsItself ? property("visible", widgets.widget(widget).isVisible()) : "") +
-           propertiesOf(widgets, widget);
+           widgets.visit(widget, [](const auto& stored) { return properties(stored); });
 }
 
 std::string show(Session& session, const Shown& widget) {
     const Store& widgets = session.bench().widgets();
-    if (widget.id != Layout::kNoWidget) return resultIs(describe(widgets, widget.id));
+    if (widget.id) return resultIs(describe(widgets, *widget.id));
     return resultIs("screen" + property("pointer", static_cast<int>(widgets.pointer())));
 }
 
 std::string items(Session& session, const ItemHolder& widget) {
     const Store& widgets = session.bench().widgets();
-    if (Layout::describe(widget.id).style.kind == Kind::combo) {
+    if (Layout::kindOf(widget.id) == Kind::combo) {
         return listed(session, widgets.get<StoredCombo>(widget.id).state().items);
     }
     return listed(session, widgets.get<StoredList>(widget.id).state().items);

@@ -35,8 +35,7 @@ PanelTest::PanelTest() {
 }
 
 bool PanelTest::isLit(std::string_view shape) const {
-    return store_.get<Runtime::StoredShape>(id(shape)).state().fillStyle ==
-           Widgets::FillStyle::solid;
+    return store_.get<Runtime::StoredShape>(id(shape)).state().isLit();
 }
 
 String PanelTest::caption(std::string_view label) const {

@@ -26,9 +26,8 @@ public:
 
 private:
     static std::string textOf(const Runtime::Operation& operation) {
-        const bool isWidgets = operation.widget != Layout::kNoWidget;
         std::ostringstream out;
-        out << (isWidgets ? Layout::describe(operation.widget).name : "Screen") << ' '
+        out << (operation.widget ? Layout::describe(*operation.widget).name : "Screen") << ' '
             << nameOf(operation.verb);
         if (isOfTab(operation.verb)) out << ' ' << operation.tab;
         std::visit([&](const auto& value) { write(out, value); }, operation.value);

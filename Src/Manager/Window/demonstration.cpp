@@ -127,7 +127,7 @@ void Demonstration::letPass(std::chrono::milliseconds time) {
 }
 
 bool Demonstration::isLit(Widgets::ShapeRef lamp) {
-    return store().get<Runtime::StoredShape>(lamp.id).fillStyle() == Widgets::FillStyle::solid;
+    return store().get<Runtime::StoredShape>(lamp.id).state().isLit();
 }
 
 }  // namespace

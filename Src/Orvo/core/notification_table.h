@@ -11,10 +11,10 @@
 namespace Orvo {
 
 /// One notification that the panel handles; `number` is the channel or pair that the widget stands
-/// for. The panel's own creation has no widget.
+/// for.
 struct BoundNotification {
     std::string_view widgetName;
-    Widgets::WidgetId widget = Layout::kNoWidget;
+    Widgets::WidgetId widget{};
     Widgets::NotificationKind kind{};
     void (*handle)(Panel& panel, Widgets::Notification& notification, Integer number) = nullptr;
     Integer number = 0;
@@ -36,37 +36,12 @@ void handle(Panel& panel, Widgets::Notification& notification, Integer number) {
     }
 }
 
-consteval bool canNotify(Widgets::Kind widget, Widgets::NotificationKind notification) {
-    using Widgets::Kind;
-    switch (notification) {
-        case Widgets::NotificationKind::click:
-            return widget == Kind::button || widget == Kind::option || widget == Kind::combo;
-        case Widgets::NotificationKind::release:
-            return widget == Kind::button || widget == Kind::check;
-        case Widgets::NotificationKind::keyPress:
-            return widget == Kind::combo || widget == Kind::list;
-        case Widgets::NotificationKind::tick:
-            return widget == Kind::timer;
-        case Widgets::NotificationKind::change:
-            return widget == Kind::slider;
-        default:
-            return false;
-    }
-}
-
 template <auto kSubject, auto kFunction>
 consteval BoundNotification on(std::string_view name, Widgets::NotificationKind kind,
                                Integer number = 0) {
     const Widgets::WidgetId widget = Layout::findWidget(name).value();
-    if (!canNotify(Layout::describe(widget).style.kind, kind)) throw "no such notification";
+    if (!Widgets::gives(Layout::describe(widget).style.kind, kind)) throw "no such notification";
     return {name, widget, kind, &handle<kSubject, kFunction>, number};
-}
-
-consteval BoundNotification onCreation() {
-    return {"", Layout::kNoWidget, Widgets::NotificationKind::creation,
-            [](Panel& panel, Widgets::Notification& /*notification*/, Integer /*number*/) {
-                panel.start();
-            }};
 }
 
 consteval auto notificationTable() {
@@ -74,7 +49,6 @@ consteval auto notificationTable() {
     using enum Widgets::NotificationKind;
     // clang-format off
     return std::to_array<BoundNotification>({
-        onCreation(),
         on<&P::powerState,       &PowerState::request>               ("cmdOnOff",         click),
         on<&P::powerState,       &PowerState::request>               ("chkOnOff12",       release),
         on<&P::powerState,       &PowerState::request>               ("chkOnOff34",       release),

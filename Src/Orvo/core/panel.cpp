@@ -59,12 +59,6 @@ Panel::~Panel() = default;
 
 void Panel::create() {
     runtime_->notifyTo(this);
-    Notification creation{
-        .widget = kNoWidget, .kind = NotificationKind::creation, .cause = Cause::code};
-    notify(creation);
-}
-
-void Panel::start() {
     WidgetTree& widgets = *runtime_;
     widgets[kTabs].setCurrentTab(kCommonTab);
     for (Integer channel = 1; channel <= kScopes; ++channel) oscilloscope.drawAxes(channel);

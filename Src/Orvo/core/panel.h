@@ -30,11 +30,9 @@ public:
     Panel(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform);
     ~Panel() override;
 
-    /// Takes the widgets' notifications from here on, its own creation being the first.
+    /// Brings the widgets from their layout to the panel's first state, once; their notifications
+    /// are taken from here on.
     void create();
-
-    /// Brings the widgets from their layout to the panel's first state, once.
-    void start();
 
     /// No notification and no event passes from here on; what is under way ends without an error.
     void release();

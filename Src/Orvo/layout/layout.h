@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -16,7 +17,7 @@ namespace Orvo::Layout {
 
 using Widgets::WidgetId;
 
-constexpr WidgetId kNoWidget = 0xFFFF;
+constexpr WidgetId kPanel = 0xFFFF;   // the panel itself, which contains the first widget
 constexpr int kTimerInterval = 1500;  // milliseconds
 
 /// One widget as it is laid out.
@@ -25,8 +26,8 @@ struct Widget {
     Style style{};
     std::u16string_view caption;
     Place place;
-    WidgetId container = kNoWidget;  ///< kNoWidget: the panel itself
-    int tab = 0;                     ///< the container's tab that it belongs to, from 0
+    WidgetId container = kPanel;
+    int tab = 0;  ///< the container's tab that it belongs to, from 0
 };
 
 constexpr std::size_t kWidgetCount = [] {
@@ -51,7 +52,7 @@ constexpr Place twinPlace(const TwinRow& row) {
 class Expansion {
 public:
     constexpr Expansion() {
-        add(kRoot.name, kRoot.style, kRoot.caption, kRoot.place, kNoWidget, 0);
+        add(kRoot.name, kRoot.style, kRoot.caption, kRoot.place, kPanel, 0);
         for (const Row& row : kCommonWidgets)
             addToTab(kCommonTab, row.name, row.style, row.caption, row.place);
         for (const Pair pair : {pair12, pair34}) addPairTab(pair);
@@ -136,6 +137,23 @@ private:
 inline constexpr std::array<Widget, kWidgetCount> kWidgets = Detail::Expansion().widgets();
 
 constexpr const Widget& describe(WidgetId id) { return kWidgets[id]; }
+constexpr Kind kindOf(WidgetId id) { return describe(id).style.kind; }
+
+/// Whether two widgets are of one kind and in one container, as the options of a group are.
+constexpr bool areFellows(WidgetId one, WidgetId other) {
+    return kindOf(one) == kindOf(other) && describe(one).container == describe(other).container;
+}
+
+/// All widgets of a kind, in order.
+template <Kind kKind>
+inline constexpr auto kAll = [] {
+    constexpr auto isOne = [](const Widget& widget) { return widget.style.kind == kKind; };
+    std::array<WidgetId, std::count_if(kWidgets.begin(), kWidgets.end(), isOne)> all{};
+    for (std::size_t i = 0, id = 0; i < all.size(); ++id) {
+        if (isOne(kWidgets[id])) all[i++] = static_cast<WidgetId>(id);
+    }
+    return all;
+}();
 
 /// The widget of this name, "NAME(INDEX)" for an element of a widget array.
 constexpr std::optional<WidgetId> findWidget(std::string_view name) {

@@ -3,10 +3,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <variant>
 
-#include "Orvo/layout/layout.h"
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/reference.h"
 #include "Orvo/widgets/widgets.h"
@@ -75,9 +75,9 @@ struct LineSegment {
 };
 
 /// One operation of the panel on a widget, with what it writes; `StringView` is valid during the
-/// call only. The screen and the input prompt have no widget number.
+/// call only.
 struct Operation {
-    WidgetId widget = Layout::kNoWidget;
+    std::optional<WidgetId> widget{};  ///< none: the mouse pointer and the input prompt
     Verb verb = Verb::readCaption;
     std::variant<std::monostate, Integer, float, StringView, Colour, LineSegment> value{};
     Integer tab = 0;  ///< readTabEnabled and setTabEnabled only

@@ -33,6 +33,7 @@ public:
     /// Brings what has changed to the screen now.
     void flush();
     void changed(WidgetId widget) override;
+    void pointerChanged() override;
 
 protected:
     void hideEvent(QHideEvent* event) override;

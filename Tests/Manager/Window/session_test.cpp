@@ -67,8 +67,7 @@ TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
     window_.connectSimulator();
     window_.letPass(2s);
     window_.startRecording(QString::fromStdString(file_));
-    EXPECT_FALSE(store().get<Runtime::StoredShape>(Tests::id("shpConnected")).state().fillStyle ==
-                 Widgets::FillStyle::solid)
+    EXPECT_FALSE(store().get<Runtime::StoredShape>(Tests::id("shpConnected")).state().isLit())
         << "a fresh panel";
     for (const char* widget : {"Command12", "cmdGo12", "cmdReadInData"}) {
         window_.letPass(1s);

@@ -29,15 +29,12 @@ std::string font(const Font& font) {
 }
 
 std::string line(const Widget& widget) {
-    constexpr const char* kKinds[] = {"label",  "shape", "line",  "frame", "button",
-                                      "option", "check", "combo", "list",  "picture",
-                                      "image",  "timer", "tabs",  "digit", "slider"};
     const Style& style = widget.style;
     const auto& [left, top, width, height] = widget.place;
     std::ostringstream out;
-    out << widget.name << " | " << kKinds[static_cast<int>(style.kind)] << " | "
-        << (widget.container == kNoWidget ? "-" : describe(widget.container).name) << ' '
-        << widget.tab << " | " << left << ' ' << top << ' ' << width << ' ' << height << " | \""
+    out << widget.name << " | " << nameOf(style.kind) << " | "
+        << (widget.container == kPanel ? "-" : describe(widget.container).name) << ' ' << widget.tab
+        << " | " << left << ' ' << top << ' ' << width << ' ' << height << " | \""
         << toUtf8(widget.caption) << "\" | " << font(style.font) << " | " << hex(style.text) << ' '
         << hex(style.back) << ' ' << hex(style.fill) << ' ' << hex(style.border);
     if (!style.isVisible) out << " hidden";
@@ -55,7 +52,7 @@ TEST(Layout, IsTheListOfAllWidgets) {
 
 TEST(Layout, KeepsEverythingInsideItsContainer) {
     for (const Widget& widget : kWidgets) {
-        if (widget.container == kNoWidget || widget.style.kind == Kind::image) continue;
+        if (widget.container == kPanel || widget.style.kind == Kind::image) continue;
         const Place& outer = describe(widget.container).place;
         const Place& place = widget.place;
         const bool isLine = widget.style.kind == Kind::line;

@@ -20,7 +20,7 @@ protected:
     StoreTest() { store_.notifyTo(this); }
 
     void notify(Notification& notification) override {
-        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
+        constexpr const char* kNames[] = {"click", "release", "key", "tick", "change"};
         heard_.push_back(std::string(kNames[static_cast<int>(notification.kind)]) + ' ' +
                          std::string(Layout::describe(notification.widget).name));
         if (answer_) answer_(notification);
@@ -48,6 +48,11 @@ TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
     EXPECT_TRUE(store_[kN1].value());
     EXPECT_TRUE(store_[kP3].value());
     EXPECT_EQ(takeHeard(), (Heard{"click optP3", "click optP1", "click optN1", "release optN1"}));
+    person_.click(kN1.id);
+    person_.type(kN1.id, ' ');
+    store_[kN1].setValue(true);
+    EXPECT_EQ(takeHeard(),
+              (Heard{"click optN1", "release optN1", "key optN1", "click optN1", "click optN1"}));
 }
 
 TEST_F(StoreTest, TicksOnceForAllTheTimeThatItMissed) {

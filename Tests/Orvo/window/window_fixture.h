@@ -15,7 +15,7 @@ namespace Orvo::Window {
 class NotificationLog final : public Widgets::NotificationSink {
 public:
     void notify(Widgets::Notification& notification) override {
-        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
+        constexpr const char* kNames[] = {"click", "release", "key", "tick", "change"};
         if (!heard.empty()) heard += ", ";
         heard += std::string(Layout::describe(notification.widget).name) + " " +
                  kNames[static_cast<int>(notification.kind)];

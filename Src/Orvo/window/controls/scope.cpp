@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "Orvo/window/controls/trace_lines.h"
+#include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
 
@@ -32,8 +33,8 @@ QRect Scope::surface() const {
 void Scope::paintEvent(QPaintEvent*) {
     if (picture_.isNull() || picture_.devicePixelRatio() != devicePixelRatioF()) draw();
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(96, 104, 116));
-    painter.fillRect(rect().adjusted(0, 0, -qRound(zoom()), -qRound(zoom())), QColor(10, 12, 16));
+    painter.fillRect(rect(), Palette::kScopeFrame);
+    painter.fillRect(rect().adjusted(0, 0, -qRound(zoom()), -qRound(zoom())), Palette::kScopeShade);
     painter.drawPixmap(surface().topLeft(), picture_);
 }
 

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
 #include "Orvo/window/spoken/names.h"
 #include "Orvo/window/spoken/spoken.h"
@@ -77,7 +78,7 @@ void Page::showTip(const QHelpEvent& event) {
 
 void Page::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.fillRect(event->rect(), QColor(24, 29, 38));
+    painter.fillRect(event->rect(), Palette::kPage);
     for (const Layer& layer : layers_) {
         if (!event->region().intersects(layer.bounds) || !layer.painted->isShown()) continue;
         painter.save();

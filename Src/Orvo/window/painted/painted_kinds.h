@@ -7,10 +7,14 @@
 #include <QPainterPath>
 #include <QPixmap>
 
+#include "Orvo/widgets/kind_table.h"
 #include "Orvo/window/painted/painted.h"
 #include "Orvo/window/painted/segments.h"
 
 namespace Orvo::Window {
+
+using Layout::Kind;
+using Widgets::For;
 
 /// One line of text may run over its place to the right, as the layout's places for results are as
 /// wide as the first text. The text that the layout gives is narrowed where it needs more.
@@ -125,5 +129,16 @@ private:
     QRect place_;
     mutable QPixmap artwork_;
 };
+
+// clang-format off
+using PaintedKinds = Widgets::KindTable<
+    For<Kind::label, PaintedLabel>,
+    For<Kind::shape, PaintedShape>,
+    For<Kind::line, PaintedLine>,
+    For<Kind::frame, PaintedFrame>,
+    For<Kind::digit, PaintedDigit>,
+    For<Kind::tabs, PaintedScopeHeader>,
+    For<Kind::image, PaintedImage>>;
+// clang-format on
 
 }  // namespace Orvo::Window

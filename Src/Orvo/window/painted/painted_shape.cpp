@@ -1,6 +1,7 @@
 #include <QPainter>
 #include <QRadialGradient>
 
+#include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
 #include "Orvo/window/painted/painted_kinds.h"
 
@@ -56,12 +57,12 @@ void PaintedShape::paintOutline(QPainter& painter) const {
 }
 
 void PaintedShape::paintLamp(QPainter& painter) const {
-    const bool isLit = stored<Runtime::StoredShape>().fillStyle == Widgets::FillStyle::solid;
+    const bool isLit = stored<Runtime::StoredShape>().isLit();
     const QColor colour = toQt(isLit ? looks().fill : looks().back);
     const QRectF lamp = circle().adjusted(pen_ / 2, pen_ / 2, -pen_ / 2, -pen_ / 2);
     if (isLit) paintGlow(painter);
 
-    painter.setPen(QPen(QColor(136, 144, 158, 150), pen_));
+    painter.setPen(QPen(Palette::kLampRim, pen_));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(circle().adjusted(-pen_ / 2, -pen_ / 2, pen_ / 2, pen_ / 2));
 

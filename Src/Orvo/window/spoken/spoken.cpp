@@ -21,7 +21,7 @@ QString captionOf(const Runtime::Store& store, WidgetId label) {
 }
 
 bool isLit(const Runtime::Store& store, WidgetId lamp) {
-    return store.get<Runtime::StoredShape>(lamp).state().fillStyle == Widgets::FillStyle::solid;
+    return store.get<Runtime::StoredShape>(lamp).state().isLit();
 }
 
 bool isOn(const Runtime::Store& store, WidgetId check) {
