@@ -7,8 +7,9 @@
 
 namespace Orvo {
 
-/// Is told of what a host does with its panel. Each call is told of twice: before it is carried
-/// out, and by its end.
+/// Is told of what a host does with its panel. Each call of a member, direct or late-bound, is told
+/// of twice: before it is carried out, and by its end. A late-bound call that reaches no member is
+/// none.
 class CallListener {
 public:
     virtual ~CallListener() = default;
