@@ -8,9 +8,8 @@ namespace Orvo::Manager {
 /// The built-in amplifier.
 class SimulatedDevice final : public Device {
 public:
-    SimulatedDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls, std::uint32_t seed,
-                    Simulator::PowerAtStart power)
-        : host_(panel, calls, seed, power), seed_(seed) {}
+    SimulatedDevice(MarvaneAssistant& panel, std::uint32_t seed, Simulator::PowerAtStart power)
+        : host_(panel, seed, power), seed_(seed) {}
 
     [[nodiscard]] std::string name() const override {
         return "Simulated amplifier (seed " + std::to_string(seed_) + ")";
@@ -21,10 +20,10 @@ public:
         return host_.sinceLastWord();
     }
 
-    Simulator::SimulatedHost& host() { return host_; }
+    SimulatedHost& host() { return host_; }
 
 private:
-    Simulator::SimulatedHost host_;
+    SimulatedHost host_;
     std::uint32_t seed_;
 };
 

@@ -9,9 +9,8 @@ Error notOverALink() { return {70, "A link can't do that"}; }
 
 }  // namespace
 
-LinkBench::LinkBench(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
-                     std::function<void()> renew)
-    : panel_(panel), calls_(calls), renew_(std::move(renew)) {
+LinkBench::LinkBench(MarvaneAssistant& panel, std::function<void()> renew)
+    : panel_(panel), renew_(std::move(renew)) {
     connect();
 }
 
@@ -22,7 +21,7 @@ void LinkBench::connect() {
 }
 
 InvokeResult LinkBench::invoke(Long dispatchId, MemberKind kind, std::span<const Value> arguments) {
-    return invokeOn(calls_, dispatchId, kind, arguments);
+    return panel_.invoke(dispatchId, kind, arguments);
 }
 
 // The grammar of a link keeps these away.

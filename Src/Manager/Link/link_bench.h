@@ -11,11 +11,9 @@ namespace Orvo::Manager {
 /// widgets to look at.
 class LinkBench final : public Script::Bench {
 public:
-    /// Events come from `panel`, calls go to `calls`. The panel's run-time errors that nobody waits
-    /// for, and its prompts, are its owner's.
+    /// The panel's run-time errors that nobody waits for, and its prompts, are its owner's.
     /// `renew` puts a fresh panel in the place of this one and then calls `connect`.
-    LinkBench(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
-              std::function<void()> renew);
+    LinkBench(MarvaneAssistant& panel, std::function<void()> renew);
 
     /// Hears the panel's events, from here on.
     void connect();
@@ -30,7 +28,6 @@ public:
 
 private:
     MarvaneAssistant& panel_;
-    MarvaneAssistantInterface& calls_;
     std::function<void()> renew_;
     Script::PanelListener* listener_ = nullptr;
     Connection events_;

@@ -26,10 +26,9 @@ std::string troubleOf(std::error_code reason) {
 
 }  // namespace
 
-LinkDevice::LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
-                       LinkAddress address, std::function<void()> renew)
-    : bench_(panel, calls, std::move(renew)), calls_(calls), address_(std::move(address)) {
-    calls_.Connected(false);
+LinkDevice::LinkDevice(MarvaneAssistant& panel, LinkAddress address, std::function<void()> renew)
+    : bench_(panel, std::move(renew)), panel_(panel), address_(std::move(address)) {
+    panel_.Connected(false);
 }
 
 LinkDevice::~LinkDevice() = default;
@@ -71,7 +70,7 @@ void LinkDevice::close() {
     isBroken_ = false;
     trouble_ = "not there";
     untilTry_ = kBetweenTries;
-    calls_.Connected(false);
+    panel_.Connected(false);
 }
 
 void LinkDevice::listen() {

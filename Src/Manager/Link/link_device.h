@@ -27,8 +27,7 @@ public:
     static constexpr std::size_t kMostUnread = 1 << 20;  // bytes
 
     /// `renew` as for LinkBench, by way of `panelRenewed`.
-    LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls, LinkAddress address,
-               std::function<void()> renew);
+    LinkDevice(MarvaneAssistant& panel, LinkAddress address, std::function<void()> renew);
     ~LinkDevice() override;
 
     [[nodiscard]] std::string name() const override;
@@ -48,7 +47,7 @@ private:
     void flush();
 
     LinkBench bench_;
-    MarvaneAssistantInterface& calls_;
+    MarvaneAssistant& panel_;
     const LinkAddress address_;
     std::optional<std::chrono::milliseconds> silence_;  // none before the first word
     std::chrono::milliseconds untilTry_{0};

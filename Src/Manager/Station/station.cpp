@@ -6,8 +6,8 @@
 
 namespace Orvo::Manager {
 
-Station::Station(MarvaneAssistant& panel) : panel_(panel), calls_(panel, *this) {
-    hearBeforeDevice();
+Station::Station(MarvaneAssistant& panel) : panel_(panel) {
+    listen();
     hearAfterDevice();
 }
 
@@ -20,14 +20,12 @@ void Station::connect(DeviceMaker make) {
 }
 
 void Station::connectSimulator(std::uint32_t seed, Simulator::PowerAtStart power) {
-    connect([this, seed, power] {
-        return std::make_unique<SimulatedDevice>(panel_, calls_, seed, power);
-    });
+    connect([this, seed, power] { return std::make_unique<SimulatedDevice>(panel_, seed, power); });
 }
 
 void Station::connectLink(const LinkAddress& address) {
     connect([this, address] {
-        return std::make_unique<LinkDevice>(panel_, calls_, address, [this] { renewPanel(); });
+        return std::make_unique<LinkDevice>(panel_, address, [this] { renewPanel(); });
     });
 }
 
@@ -35,7 +33,7 @@ void Station::disconnect() {
     if (!isConnected()) return;
     makeDevice_ = {};
     plugIn(nullptr);
-    calls_.Connected(false);
+    panel_.Connected(false);
 }
 
 void Station::plugIn(std::unique_ptr<Device> device) {
@@ -44,7 +42,8 @@ void Station::plugIn(std::unique_ptr<Device> device) {
     hearAfterDevice();
 }
 
-void Station::hearBeforeDevice() {
+void Station::listen() {
+    calls_ = panel_.listen(*this);
     beforeDevice_ = panel_.connect([this](Long dispatchId, std::span<Value> arguments) {
         conversation_.raised(dispatchId, arguments);
     });
@@ -61,7 +60,7 @@ void Station::renewPanel() {
     traces_ = {};
     isLinkUp_ = false;
     showsOldValues_ = false;
-    hearBeforeDevice();
+    listen();
     if (isConnected()) device_->panelRenewed();
     hearAfterDevice();
 }
@@ -72,7 +71,7 @@ void Station::startAnew() {
     if (makeDevice_) plugIn(makeDevice_());
 }
 
-Simulator::SimulatedHost* Station::simulator() const {
+SimulatedHost* Station::simulator() const {
     auto* device = dynamic_cast<SimulatedDevice*>(device_.get());
     return device == nullptr ? nullptr : &device->host();
 }

@@ -9,7 +9,6 @@
 #include "Manager/Link/link_address.h"
 #include "Manager/Station/conversation.h"
 #include "Manager/Station/event_log.h"
-#include "Manager/Station/observed_panel.h"
 #include "Manager/Station/status_text.h"
 #include "Manager/Station/traces.h"
 
@@ -37,13 +36,11 @@ public:
     /// Null when nothing is connected.
     [[nodiscard]] Device* device() const { return device_.get(); }
     /// Null when it isn't what is connected.
-    [[nodiscard]] Simulator::SimulatedHost* simulator() const;
+    [[nodiscard]] SimulatedHost* simulator() const;
 
     void advance(Milliseconds elapsed);
     [[nodiscard]] Situation situation() const;
 
-    /// The panel for whoever plays the host beside the device; what is called here is listened to.
-    [[nodiscard]] MarvaneAssistantInterface& panel() { return calls_; }
     [[nodiscard]] Conversation& conversation() { return conversation_; }
     [[nodiscard]] EventLog& log() { return log_; }
     [[nodiscard]] const Traces& traces() const { return traces_; }
@@ -59,7 +56,7 @@ public:
 
 private:
     void plugIn(std::unique_ptr<Device> device);
-    void hearBeforeDevice();
+    void listen();
     void hearAfterDevice();
 
     void called(const Member& member, std::span<const Value> arguments) override;
@@ -67,7 +64,7 @@ private:
     void failed(const Member& member, const Error& error) override;
 
     MarvaneAssistant& panel_;
-    ObservedPanel calls_;
+    Connection calls_;
     EventLog log_;
     Conversation conversation_{log_};
     Traces traces_;

@@ -28,6 +28,7 @@ constexpr auto kPictures =
 
 constexpr auto kLinkLamp = Layout::shapeRef("shpConnected");
 constexpr auto kMainsLamp = Layout::shapeRef("shpMainPresence12");
+constexpr auto kPowerLamp = Layout::shapeRef("shpOnOff");
 constexpr auto kReadyLamps =
     std::to_array({Layout::shapeRef("Shape17"), Layout::shapeRef("Shape12")});
 constexpr auto kPowerButton = Layout::buttonRef("cmdOnOff");
@@ -88,7 +89,7 @@ void Demonstration::comeUp() {
 
 void Demonstration::switchOn() {
     click(kPowerButton);
-    waitFor("the power", [this] { return bool(window_.panelWidget().panel().PowerOn()); });
+    waitFor("the power", [this] { return isLit(kPowerLamp); });
     for (const auto lamp : kReadyLamps) {
         waitFor("both pairs to be ready", [this, lamp] { return isLit(lamp); });
     }

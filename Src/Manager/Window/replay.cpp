@@ -23,11 +23,11 @@ ReplayBench::Waiting waitingOf(std::string_view line) {
 
 }  // namespace
 
-Replay::Replay(Window::PanelWidget& window, MarvaneAssistantInterface& calls,
-               std::function<void()> renew, const std::filesystem::path& script)
+Replay::Replay(Window::PanelWidget& window, std::function<void()> renew,
+               const std::filesystem::path& script)
     : name_(script.filename().string()),
       lines_(script),
-      bench_(window, calls, std::move(renew)),
+      bench_(window, std::move(renew)),
       session_(bench_, WindowBench::kGrammar, [](std::string_view) {}) {}
 
 void Replay::advance(std::chrono::milliseconds elapsed) {

@@ -18,10 +18,10 @@ namespace Orvo::Manager {
 /// passes, as far as the machine keeps up. The panel's clock is the script's.
 class Replay final : public Device {
 public:
-    /// Calls go to `calls`; `renew` as for ReplayBench, by way of `panelRenewed`. A file that can't
+    /// `renew` as for ReplayBench, by way of `panelRenewed`. A file that can't
     /// be read is an empty script.
-    Replay(Window::PanelWidget& window, MarvaneAssistantInterface& calls,
-           std::function<void()> renew, const std::filesystem::path& script);
+    Replay(Window::PanelWidget& window, std::function<void()> renew,
+           const std::filesystem::path& script);
 
     [[nodiscard]] std::string name() const override { return "Replay of " + name_; }
     void advance(std::chrono::milliseconds elapsed) override;

@@ -4,9 +4,8 @@
 
 namespace Orvo::Manager {
 
-ReplayBench::ReplayBench(Window::PanelWidget& window, MarvaneAssistantInterface& calls,
-                         std::function<void()> renew)
-    : WindowBench(window), calls_(calls), renew_(std::move(renew)) {
+ReplayBench::ReplayBench(Window::PanelWidget& window, std::function<void()> renew)
+    : WindowBench(window), renew_(std::move(renew)) {
     takePanel();
 }
 
@@ -15,11 +14,6 @@ ReplayBench::~ReplayBench() { widgets().promptWith(prompter_); }
 void ReplayBench::takePanel() {
     prompter_ = window().store().prompter();
     takeWindow();
-}
-
-InvokeResult ReplayBench::invoke(Long dispatchId, MemberKind kind,
-                                 std::span<const Value> arguments) {
-    return invokeOn(calls_, dispatchId, kind, arguments);
 }
 
 std::chrono::milliseconds ReplayBench::takeWait() {

@@ -10,10 +10,9 @@ namespace Orvo::Manager {
 /// long as this is, prompts are the script's to answer.
 class ReplayBench final : public WindowBench {
 public:
-    /// Calls go to `calls`. `renew` puts a fresh panel in the place of this one and then calls
+    /// `renew` puts a fresh panel in the place of this one and then calls
     /// `takePanel`.
-    ReplayBench(Window::PanelWidget& window, MarvaneAssistantInterface& calls,
-                std::function<void()> renew);
+    ReplayBench(Window::PanelWidget& window, std::function<void()> renew);
     ~ReplayBench() override;
 
     void takePanel();
@@ -24,14 +23,11 @@ public:
     /// The time that has been left, which is then forgotten.
     std::chrono::milliseconds takeWait();
 
-    InvokeResult invoke(Long dispatchId, MemberKind kind,
-                        std::span<const Value> arguments) override;
     void renew() override { renew_(); }
 
 private:
     void wait(std::chrono::milliseconds time) override;
 
-    MarvaneAssistantInterface& calls_;
     std::function<void()> renew_;
     Runtime::Prompter* prompter_ = nullptr;
     Waiting waiting_ = Waiting::atOnce;

@@ -15,6 +15,8 @@ namespace Orvo::Manager {
 namespace {
 
 constexpr auto kFullScreenHint = "F11 leaves full screen";
+// Read-only mode takes it away from the person.
+constexpr auto kPowerButton = Layout::buttonRef("cmdOnOff");
 constexpr auto kMessageLog = Layout::listRef("List1");
 
 QString channelName(Integer channel) { return "channel-" + QString::number(channel); }
@@ -29,9 +31,11 @@ void ManagerWindow::setFault(Simulator::Fault fault, bool isOn) {
     if (auto* simulator = station_.simulator()) simulator->set(fault, isOn);
 }
 
-void ManagerWindow::setReadOnly(bool isReadOnly) { station_.panel().ReadOnly(isReadOnly); }
+void ManagerWindow::setReadOnly(bool isReadOnly) { panel_->panel().ReadOnly(isReadOnly); }
 
-bool ManagerWindow::isReadOnly() const { return panel_->panel().ReadOnly() == Boolean(true); }
+bool ManagerWindow::isReadOnly() const {
+    return !panel_->store().widget(kPowerButton.id).isEnabled();
+}
 
 void ManagerWindow::savePicture() {
     saver_->ask(

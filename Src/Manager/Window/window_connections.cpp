@@ -133,7 +133,7 @@ void ManagerWindow::startReplay(const QString& file) {
     script.close();
     station_.connect([this, path = nativeName(file)] {
         return std::make_unique<Replay>(
-            *panel_, station_.panel(), [this] { station_.renewPanel(); }, path);
+            *panel_, [this] { station_.renewPanel(); }, path);
     });
     station_.renewPanel();
 }

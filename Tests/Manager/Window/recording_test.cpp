@@ -193,10 +193,10 @@ TEST_F(RecorderTest, WritesWhatThePersonDoesAndThePanelTakes) {
 
 TEST_F(RecorderTest, CallsOfAHandlerAreMadeMeanwhile) {
     const std::string text = recorded(Answers::inFull, [this](Recorder& recorder) {
-        ObservedPanel observed(panel_, recorder);
+        const Connection calls = panel_.listen(recorder);
         const auto host = panel_.connect([&](Long, std::span<Value>) {
-            observed.Mute(1, true);
-            EXPECT_THROW(observed.VNPower(1, -5), Error);
+            panel_.Mute(1, true);
+            EXPECT_THROW(panel_.VNPower(1, -5), Error);
         });
         person_.click(id("Command12"));
     });
@@ -214,9 +214,10 @@ protected:
     /// same, but for the event that carries answers.
     void expectSameReplay(const Act& handler, const Act& act, Answers answered = Answers::inFull) {
         const std::string script = recorded(answered, [&](Recorder& recorder) {
-            ObservedPanel host(panel_, recorder);
-            const auto connection = panel_.connect([&](Long, std::span<Value>) { handler(host); });
-            act(host);
+            const Connection calls = panel_.listen(recorder);
+            const auto connection =
+                panel_.connect([&](Long, std::span<Value>) { handler(panel_); });
+            act(panel_);
         });
         Showcase live(store_);
         Script::StoreBench bench;
