@@ -77,11 +77,7 @@ void directCall(benchmark::State& state) {
 }
 
 void directCallWithListener(benchmark::State& state) {
-    struct Nobody final : CallListener {
-        void called(const Member&, std::span<const Value>) override {}
-        void returned(const Member&, const Value&) override {}
-        void failed(const Member&, const Error&) override {}
-    } nobody;
+    CallListener nobody;
     Bench bench;
     const Connection listening = bench.panel.listen(nobody);
     callDirectly(bench, state);

@@ -14,6 +14,7 @@ using namespace LinkFigures;
 
 SimulatedHost::SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed, PowerAtStart power)
     : panel_(panel),
+      seed_(seed),
       link_(panel.IdDevice(), seed, power),
       mirror_(panel),
       sliders_(panel),
@@ -21,6 +22,10 @@ SimulatedHost::SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed, PowerA
       log_(panel),
       connection_(panel.connect(*this)) {
     disconnect();
+}
+
+std::string SimulatedHost::name() const {
+    return "Simulated amplifier (seed " + std::to_string(seed_) + ")";
 }
 
 void SimulatedHost::advance(Milliseconds elapsed) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "Manager/Host/awaited_requests.h"
@@ -8,6 +10,7 @@
 #include "Manager/Host/panel_mirror.h"
 #include "Manager/Host/quick_test_run.h"
 #include "Manager/Host/volume_sliders.h"
+#include "Manager/Station/device.h"
 #include "Orvo/core/marvane_assistant.h"
 #include "Simulator/fault.h"
 #include "Simulator/message.h"
@@ -29,14 +32,16 @@ namespace Orvo::Manager {
 ///
 /// The same seed, panel and calls give the same life. It ends before the panel does, and is used
 /// on the panel's thread.
-class SimulatedHost final : private MarvaneAssistantEvents {
+class SimulatedHost final : public Device, private MarvaneAssistantEvents {
 public:
     explicit SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed = 1,
                            Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
 
+    [[nodiscard]] std::string name() const override;
+
     /// Lets time pass, ten minutes at most; what is longer is skipped. How it is divided among
     /// calls makes no difference.
-    void advance(Simulator::Milliseconds elapsed);
+    void advance(Simulator::Milliseconds elapsed) override;
 
     void set(Simulator::Fault fault, bool isOn) { link_.set(fault, isOn); }
     [[nodiscard]] bool has(Simulator::Fault fault) const { return link_.has(fault); }
@@ -49,7 +54,9 @@ public:
     [[nodiscard]] bool isConnected() const { return isConnected_; }
     /// Since the last word from the amplifier that could be understood; since the beginning when
     /// there was none yet. A few tenths of a second at most when all is well.
-    [[nodiscard]] Simulator::Milliseconds sinceLastWord() const { return now_ - lastWord_; }
+    [[nodiscard]] std::optional<Simulator::Milliseconds> sinceLastWord() const override {
+        return now_ - lastWord_;
+    }
     /// The id of the amplifier at the other end.
     [[nodiscard]] Integer amplifierId() const { return link_.amplifierId(); }
     /// How long the host has lived.
@@ -89,6 +96,7 @@ private:
     void tell(std::string_view text) { log_.tell(now_, text); }
 
     MarvaneAssistantInterface& panel_;
+    const std::uint32_t seed_;
     Simulator::SimulatedLink link_;
     Simulator::Milliseconds now_{0};
     Simulator::Milliseconds unspent_{0};

@@ -53,7 +53,7 @@ std::span<const Integer> drawn(const IntegerArray& samples) {
 
 }  // namespace
 
-void Traces::note(const Member& member, std::span<const Value> arguments) {
+void Traces::called(const Member& member, std::span<const Value> arguments) {
     if (&member == &kDrawTrace) {
         draw(std::get<Integer>(arguments[0]), std::get<IntegerArray>(arguments[1]));
     } else if (&member == &kDrawGrid) {

@@ -71,9 +71,9 @@ private:
 };
 
 void Demonstration::run() {
-    const bool isOperated = !window_.isReadOnly();
-    window_.connectSimulator(isOperated ? Simulator::PowerAtStart::off
-                                        : Simulator::PowerAtStart::on);
+    const bool isOperated = !window_.session().isReadOnly();
+    window_.session().connectSimulator(isOperated ? Simulator::PowerAtStart::off
+                                                  : Simulator::PowerAtStart::on);
     window_.open();
     comeUp();
     if (isOperated) switchOn();
@@ -98,7 +98,8 @@ void Demonstration::switchOn() {
 void Demonstration::play() {
     for (const auto button : kStartButtons) click(button);
     waitFor("the traces", [this] {
-        return window_.station().traces().has(1) && window_.station().traces().has(3);
+        return window_.session().station().traces().has(1) &&
+               window_.session().station().traces().has(3);
     });
 }
 

@@ -12,12 +12,12 @@ constexpr const Member& kDrawTrace = memberNamed<Integer, IntegerArray>("Disegna
 
 void draw(Traces& traces, Integer channel, const IntegerArray& samples) {
     const std::array<Value, 2> arguments{channel, samples};
-    traces.note(kDrawTrace, arguments);
+    traces.called(kDrawTrace, arguments);
 }
 
 void clear(Traces& traces, Integer channel) {
     const std::array<Value, 1> arguments{channel};
-    traces.note(kDrawGrid, arguments);
+    traces.called(kDrawGrid, arguments);
 }
 
 const std::string kHeader = "index,sample (counts),level (V)\n";
