@@ -37,6 +37,8 @@ public:
     /// Of the present panel; no longer valid once it is exchanged.
     virtual MarvaneAssistant& panel() = 0;
     virtual Runtime::Store& store() = 0;
+    /// The panel for whoever plays its host: what is called here is listened to.
+    virtual MarvaneAssistantInterface& calls() { return panel(); }
 
     /// Releases the panel and creates a fresh one; also from within a handler of one of its events
     /// or notifications.

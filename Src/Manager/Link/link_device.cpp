@@ -26,10 +26,11 @@ std::string troubleOf(std::error_code reason) {
 
 }  // namespace
 
-LinkDevice::LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
-                       LinkAddress address, std::function<void()> renew)
-    : bench_(panel, calls, std::move(renew)), calls_(calls), address_(std::move(address)) {
-    calls_.Connected(false);
+LinkDevice::LinkDevice(Script::PanelOwner& owner, LinkAddress address)
+    : owner_(owner),
+      session_(owner, kGrammar, [this](std::string_view line) { say(line); }),
+      address_(std::move(address)) {
+    owner_.calls().Connected(false);
 }
 
 LinkDevice::~LinkDevice() = default;
@@ -58,20 +59,18 @@ void LinkDevice::tryToOpen() {
         port_ = std::make_unique<LinkPort>(address_);
     } catch (const std::system_error& failure) {
         trouble_ = troubleOf(failure.code());
-        return;
     }
-    session_.emplace(bench_, kGrammar, [this](std::string_view line) { say(line); });
 }
 
 void LinkDevice::close() {
-    session_.reset();
+    session_.forgetHandlers();
     port_.reset();
     lines_ = {};
     unsent_.clear();
     isBroken_ = false;
     trouble_ = "not there";
     untilTry_ = kBetweenTries;
-    calls_.Connected(false);
+    owner_.calls().Connected(false);
 }
 
 void LinkDevice::listen() {
@@ -99,11 +98,11 @@ bool LinkDevice::hear() {
 void LinkDevice::answer(const LineSplitter::Line& line) {
     silence_ = 0ms;
     if (line.isTooLong) return say("? the line is too long");
-    session_->run(line.text);
+    session_.run(line.text);
 }
 
 void LinkDevice::say(std::string_view line) {
-    if (isBroken_) return;
+    if (port_ == nullptr || isBroken_) return;
     unsent_.append(line).append("\n");
     isBroken_ = unsent_.size() > kMostUnread;
 }

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "Manager/Link/line_splitter.h"
-#include "Manager/Link/link_bench.h"
 #include "Manager/Link/link_port.h"
 #include "Manager/Station/device.h"
 #include "Script/session.h"
@@ -26,14 +24,11 @@ public:
     static constexpr std::chrono::milliseconds kBetweenTries{1000};
     static constexpr std::size_t kMostUnread = 1 << 20;  // bytes
 
-    /// `renew` as for LinkBench, by way of `panelRenewed`.
-    LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls, LinkAddress address,
-               std::function<void()> renew);
+    LinkDevice(Script::PanelOwner& owner, LinkAddress address);
     ~LinkDevice() override;
 
     [[nodiscard]] std::string name() const override;
     void advance(std::chrono::milliseconds elapsed) override;
-    void panelRenewed() override { bench_.connect(); }
     [[nodiscard]] std::optional<std::chrono::milliseconds> sinceLastWord() const override {
         return silence_;
     }
@@ -47,8 +42,8 @@ private:
     void say(std::string_view line);
     void flush();
 
-    LinkBench bench_;
-    MarvaneAssistantInterface& calls_;
+    Script::PanelOwner& owner_;
+    Script::Session session_;
     const LinkAddress address_;
     std::optional<std::chrono::milliseconds> silence_;  // none before the first word
     std::chrono::milliseconds untilTry_{0};
@@ -56,7 +51,6 @@ private:
 
     // While the link is open.
     std::unique_ptr<LinkPort> port_;
-    std::optional<Script::Session> session_;
     LineSplitter lines_;
     std::string unsent_;
     bool isBroken_ = false;

@@ -5,13 +5,27 @@
 #include "Manager/Link/link_device.h"
 
 namespace Orvo::Manager {
+namespace {
+
+Error notByThisProgram() { return {70, "The panel of this program can't be renewed"}; }
+
+}  // namespace
 
 Station::Station(MarvaneAssistant& panel) : panel_(panel), calls_(panel, *this) {
-    hearBeforeDevice();
-    hearAfterDevice();
+    renewalBefore_ = owner_.onRenewed([this] { startWithPanel(); });
+    startWithPanel();
+    plugIn(nullptr);
 }
 
 Station::~Station() = default;
+
+void Station::Owner::exchange() {
+    if (!station_.renew_) throw notByThisProgram();
+    station_.renew_();
+}
+
+// Nobody that is connected looks at the widgets.
+Runtime::Store& Station::Owner::store() { throw notByThisProgram(); }
 
 void Station::connect(DeviceMaker make) {
     disconnect();
@@ -26,9 +40,7 @@ void Station::connectSimulator(std::uint32_t seed, Simulator::PowerAtStart power
 }
 
 void Station::connectLink(const LinkAddress& address) {
-    connect([this, address] {
-        return std::make_unique<LinkDevice>(panel_, calls_, address, [this] { renewPanel(); });
-    });
+    connect([this, address] { return std::make_unique<LinkDevice>(owner_, address); });
 }
 
 void Station::disconnect() {
@@ -41,10 +53,15 @@ void Station::disconnect() {
 void Station::plugIn(std::unique_ptr<Device> device) {
     showsOldValues_ |= isConnected() && device_->sinceLastWord();
     device_ = std::move(device);
+    renewalAfter_ = owner_.onRenewed([this] { hearAfterDevice(); });
     hearAfterDevice();
 }
 
-void Station::hearBeforeDevice() {
+void Station::startWithPanel() {
+    conversation_.startAnew();
+    traces_ = {};
+    isLinkUp_ = false;
+    showsOldValues_ = false;
     beforeDevice_ = panel_.connect([this](Long dispatchId, std::span<Value> arguments) {
         conversation_.raised(dispatchId, arguments);
     });
@@ -54,21 +71,9 @@ void Station::hearAfterDevice() {
     afterDevice_ = panel_.connect([this](Long, std::span<Value>) { conversation_.handled(); });
 }
 
-void Station::renewPanel() {
-    if (!renew_) throw Error(70, "The panel of this program can't be renewed");
-    renew_();
-    conversation_.startAnew();
-    traces_ = {};
-    isLinkUp_ = false;
-    showsOldValues_ = false;
-    hearBeforeDevice();
-    if (isConnected()) device_->panelRenewed();
-    hearAfterDevice();
-}
-
 void Station::startAnew() {
     device_.reset();
-    renewPanel();
+    owner_.renew();
     if (makeDevice_) plugIn(makeDevice_());
 }
 

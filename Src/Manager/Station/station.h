@@ -12,6 +12,7 @@
 #include "Manager/Station/observed_panel.h"
 #include "Manager/Station/status_text.h"
 #include "Manager/Station/traces.h"
+#include "Script/panel_owner.h"
 
 namespace Orvo::Manager {
 
@@ -47,19 +48,33 @@ public:
     [[nodiscard]] Conversation& conversation() { return conversation_; }
     [[nodiscard]] EventLog& log() { return log_; }
     [[nodiscard]] const Traces& traces() const { return traces_; }
-    /// A fresh panel in the place of this one, for the same device. Error 70 when nobody has said
-    /// how that is done.
-    void renewPanel();
     /// A fresh panel, to which what is connected is connected as if for the first time.
     void startAnew();
-    /// How a fresh panel comes in the place of this one.
+    /// How a fresh panel comes in the place of this one; error 70 for whoever asks for one until
+    /// this has been said.
     void renewWith(std::function<void()> renew) { renew_ = std::move(renew); }
     /// Who else listens to all that is called; null takes it away again.
     void listenWith(CallListener* listener) { listener_ = listener; }
 
+    /// The panel for devices that ask for a fresh one.
+    [[nodiscard]] Script::PanelOwner& owner() { return owner_; }
+
 private:
+    /// The panel as its owner exchanges it.
+    class Owner final : public Script::PanelOwner {
+    public:
+        explicit Owner(Station& station) : station_(station) {}
+        MarvaneAssistant& panel() override { return station_.panel_; }
+        MarvaneAssistantInterface& calls() override { return station_.calls_; }
+        Runtime::Store& store() override;
+
+    private:
+        void exchange() override;
+        Station& station_;
+    };
+
     void plugIn(std::unique_ptr<Device> device);
-    void hearBeforeDevice();
+    void startWithPanel();
     void hearAfterDevice();
 
     void called(const Member& member, std::span<const Value> arguments) override;
@@ -79,8 +94,11 @@ private:
     Milliseconds now_{0};
 
     // An event goes to the sinks in this order: what the device does lies between the other two.
+    Owner owner_{*this};
+    Script::PanelOwner::Subscription renewalBefore_;
     Connection beforeDevice_;
     std::unique_ptr<Device> device_;
+    Script::PanelOwner::Subscription renewalAfter_;
     Connection afterDevice_;
 };
 

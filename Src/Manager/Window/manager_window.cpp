@@ -10,7 +10,7 @@
 #include <QScreen>
 #include <QStatusBar>
 
-#include "Manager/Window/replay.h"
+#include "Manager/Station/replay_device.h"
 #include "Manager/Window/zoom.h"
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/ports/machine_platform.h"
@@ -61,9 +61,7 @@ void ManagerWindow::listenToErrors() {
 }
 
 void ManagerWindow::renewPanel() {
-    if (recorder_ != nullptr) recorder_->panelEnds();
-    panel_->renew();
-    if (recorder_ != nullptr) recorder_->panelBegins(panel_->panel(), panel_->store());
+    owner_.renew();
     listenToErrors();
     if (options_.isReadOnly && !isReplaying()) setReadOnly(true);
 }

@@ -13,13 +13,14 @@
 #include "Manager/Window/menus.h"
 #include "Manager/Window/options.h"
 #include "Manager/Window/status_line.h"
+#include "Manager/Window/window_panel.h"
 #include "Manager/Window/zoom_area.h"
 #include "Orvo/window/panel_widget.h"
 #include "Script/recorder.h"
 
 namespace Orvo::Manager {
 
-class Replay;
+class ReplayDevice;
 
 /// The program's window: the panel, what is connected to it, and what a person can do beside the
 /// panel.
@@ -99,11 +100,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    [[nodiscard]] std::unique_ptr<Script::Recorder> makeRecorder(const QString& file) const;
+    [[nodiscard]] std::unique_ptr<Script::Recorder> makeRecorder(const QString& file);
     void layOut();
     void listenToErrors();
     void renewPanel();
-    [[nodiscard]] Replay* replay() const;
+    [[nodiscard]] ReplayDevice* replay() const;
     void endReplayThatIsOver();
     void endHourglass(std::chrono::milliseconds time);
     void startClock();
@@ -115,6 +116,7 @@ private:
 
     const Options options_;
     Window::PanelWidget* const panel_;
+    WindowPanel owner_{*panel_};
     std::unique_ptr<Script::Recorder> recorder_;  // null when nothing is recorded
     Station station_;
     ZoomArea* const zoomArea_;

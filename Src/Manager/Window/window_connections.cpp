@@ -3,9 +3,9 @@
 #include <QFileInfo>
 #include <QInputDialog>
 
+#include "Manager/Station/replay_device.h"
 #include "Manager/Window/file_choice.h"
 #include "Manager/Window/manager_window.h"
-#include "Manager/Window/replay.h"
 #include "Manager/Window/warning.h"
 
 // What plays the panel's host, and what is kept of it.
@@ -61,11 +61,10 @@ void ManagerWindow::connectNothing() {
     station_.disconnect();
 }
 
-std::unique_ptr<Script::Recorder> ManagerWindow::makeRecorder(const QString& file) const {
+std::unique_ptr<Script::Recorder> ManagerWindow::makeRecorder(const QString& file) {
     const auto answers =
         options_.recordsAnswers ? Script::Answers::inFull : Script::Answers::asCancelled;
-    return std::make_unique<Script::Recorder>(nativeName(file), panel_->panel(), panel_->store(),
-                                              answers);
+    return std::make_unique<Script::Recorder>(nativeName(file), owner_, answers);
 }
 
 void ManagerWindow::askForRecording() {
@@ -132,10 +131,10 @@ void ManagerWindow::startReplay(const QString& file) {
     sessionDirectory_ = QFileInfo(file).absolutePath();
     script.close();
     station_.connect([this, path = nativeName(file)] {
-        return std::make_unique<Replay>(
-            *panel_, station_.panel(), [this] { station_.renewPanel(); }, path);
+        return std::make_unique<ReplayDevice>(station_.owner(), owner_, WindowPanel::kGrammar,
+                                              path);
     });
-    station_.renewPanel();
+    station_.owner().renew();
 }
 
 void ManagerWindow::stopReplay() {
@@ -145,12 +144,14 @@ void ManagerWindow::stopReplay() {
     statusLine_->say("The replay is over");
 }
 
-Replay* ManagerWindow::replay() const { return dynamic_cast<Replay*>(station_.device()); }
+ReplayDevice* ManagerWindow::replay() const {
+    return dynamic_cast<ReplayDevice*>(station_.device());
+}
 
 void ManagerWindow::endReplayThatIsOver() {
-    const Replay* replay = this->replay();
-    if (replay == nullptr || !replay->isOver()) return;
-    const auto complaint = replay->complaint();
+    const ReplayDevice* device = replay();
+    if (device == nullptr || !device->replay().isOver()) return;
+    const auto complaint = device->replay().complaint();
     stopReplay();
     if (!complaint) return;
     showWarning(*this, "The replay ended early", "The session has a line that can't be replayed.",

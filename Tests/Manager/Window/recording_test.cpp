@@ -6,10 +6,10 @@
 #include <gtest/gtest.h>
 
 #include "Manager/Window/manager_window.h"
-#include "Manager/Window/window_bench.h"
+#include "Manager/Window/window_panel.h"
 #include "Script/recorder.h"
 #include "Script/session.h"
-#include "Script/store_bench.h"
+#include "Script/store_panel.h"
 #include "Support/bench.h"
 #include "Support/temporary_directory.h"
 
@@ -29,32 +29,18 @@ std::string contentOf(const std::string& path) {
     return content.str();
 }
 
-/// A panel that is only looked at.
-class Showcase final : public Script::Bench {
-public:
-    explicit Showcase(Runtime::Store& store) : store_(store) {}
-
-    void tell(Script::PanelListener*) override {}
-    InvokeResult invoke(Long, MemberKind, std::span<const Value>) override { return {}; }
-    Script::Person& person() override { throw Error(70, "nobody is here"); }
-    Runtime::Store& widgets() override { return store_; }
-    void renew() override {}
-    void shoot(const String&) override {}
-
-private:
-    Runtime::Store& store_;
-};
-
-std::string run(Script::Bench& bench, const std::string& script) {
+template <class Panel>
+std::string run(Panel& panel, const std::string& script) {
     std::string answers;
-    Script::Session session(bench, {},
+    Script::Session session(panel, panel, {},
                             [&](std::string_view line) { answers.append(line).append("\n"); });
     std::istringstream lines(script);
     for (std::string line; std::getline(lines, line);) session.run(line);
     return answers;
 }
 
-std::string stateOf(Script::Bench& bench) {
+template <class Panel>
+std::string stateOf(Panel& panel) {
     std::string script = "show Screen\n";
     for (const Layout::Widget& widget : Layout::kWidgets) {
         const std::string name(widget.name);
@@ -63,7 +49,7 @@ std::string stateOf(Script::Bench& bench) {
         if (kind == Layout::Kind::picture) script += "drawing " + name;
         script += "\nshow " + name + '\n';
     }
-    return run(bench, script);
+    return run(panel, script);
 }
 
 std::string linesThatBegin(const std::string& text, const std::string& begin) {
@@ -120,22 +106,36 @@ TEST(Recording, AReplayHasTheSameEventsAndEndsInTheSameState) {
         ManagerWindow window({.record = QString::fromStdString(file), .recordsAnswers = true});
         window.panelWidget().store().promptWith(&typist);
         workEverything(window);
-        Showcase live(window.panelWidget().store());
-        state = stateOf(live);
+        WindowPanel panel(window.panelWidget());
+        state = stateOf(panel);
     }
     const std::string script = contentOf(file);
     EXPECT_EQ(script.find("\n?"), std::string::npos);
-    Script::StoreBench store;
-    WindowBench window;
-    for (Script::Bench* bench :
-         {static_cast<Script::Bench*>(&store), static_cast<Script::Bench*>(&window)}) {
-        const std::string answers = run(*bench, script);
+    const auto expectSameReplay = [&](auto& panel) {
+        const std::string answers = run(panel, script);
         EXPECT_EQ(linesThatBegin(answers, "? "), "");
         EXPECT_EQ(linesThatBegin(answers, "event "), linesThatBegin(script, "# event "));
-        EXPECT_EQ(stateOf(*bench), state);
-    }
+        EXPECT_EQ(stateOf(panel), state);
+    };
+    Script::StorePanel panel;
+    expectSameReplay(panel);
+    Window::PanelWidget window(Platform{}, nullptr, Window::Clock::byHand);
+    WindowPanel windowPanel(window);
+    expectSameReplay(windowPanel);
     EXPECT_GT(linesThatBegin(script, "# event ").size(), 200U);
 }
+
+/// The panel of a bench, which is never exchanged.
+class BenchPanel final : public Script::PanelOwner, public Script::Person {
+public:
+    explicit BenchPanel(Tests::Bench& bench) : bench_(bench) {}
+    MarvaneAssistant& panel() override { return bench_.panel(); }
+    Runtime::Store& store() override { return bench_.store(); }
+
+private:
+    void exchange() override {}
+    Tests::Bench& bench_;
+};
 
 class RecorderTest : public Tests::PanelTest {
 protected:
@@ -143,13 +143,14 @@ protected:
     template <class Act>
     std::string recorded(Answers answers, Act act) {
         const std::string file = directory_.path() / "record.txt";
-        Recorder recorder(file, panel_, store_, answers);
+        Recorder recorder(file, owner_, answers);
         act(recorder);
         const std::string text = contentOf(file);
         return text.substr(text.find('\n') + 1);
     }
 
     Tests::TemporaryDirectory directory_;
+    BenchPanel owner_{*bench_};
 };
 
 TEST_F(RecorderTest, WhatIsTypedAtPromptsStandsBeforeTheirCauseOrIsKeptSecret) {
@@ -218,12 +219,11 @@ protected:
             const auto connection = panel_.connect([&](Long, std::span<Value>) { handler(host); });
             act(host);
         });
-        Showcase live(store_);
-        Script::StoreBench bench;
-        const std::string answers = run(bench, script);
+        Script::StorePanel fresh;
+        const std::string answers = run(fresh, script);
         EXPECT_EQ(answers.find("\n? "), std::string::npos) << answers;
         EXPECT_EQ(eventsIn(answers), eventsIn(script)) << script;
-        EXPECT_EQ(stateOf(bench), stateOf(live)) << script;
+        EXPECT_EQ(stateOf(fresh), stateOf(owner_)) << script;
     }
 
 private:
