@@ -8,7 +8,7 @@
 
 // Times mean little on a machine that others use too. Compare the rows of one run: a trace with the
 // bare loop over its samples, a log line at the end of a long log with one at its beginning, a
-// late-bound call with the direct one.
+// late-bound call or one that is listened to with the direct one.
 namespace Orvo {
 namespace {
 
@@ -66,10 +66,21 @@ void logLine(benchmark::State& state) {
     for ([[maybe_unused]] auto _ : state) bench.panel.AggiugiTesto(line);
 }
 
-void directCall(benchmark::State& state) {
-    Bench bench;
+void callDirectly(Bench& bench, benchmark::State& state) {
     bool isHigh = false;
     for ([[maybe_unused]] auto _ : state) bench.panel.VPPower(1, (isHigh = !isHigh) ? 120 : 119);
+}
+
+void directCall(benchmark::State& state) {
+    Bench bench;
+    callDirectly(bench, state);
+}
+
+void directCallWithListener(benchmark::State& state) {
+    CallListener nobody;
+    Bench bench;
+    const Connection listening = bench.panel.listen(nobody);
+    callDirectly(bench, state);
 }
 
 void lateBoundCall(benchmark::State& state) {
@@ -91,6 +102,7 @@ BENCHMARK(trace)->Arg(500)->Arg(32767);
 BENCHMARK(traceInSegments)->Arg(500)->Arg(32767);
 BENCHMARK(logLine)->Arg(0)->Arg(1000000)->Iterations(100000);
 BENCHMARK(directCall);
+BENCHMARK(directCallWithListener);
 BENCHMARK(lateBoundCall);
 BENCHMARK(newPanel);
 

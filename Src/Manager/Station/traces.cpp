@@ -12,8 +12,8 @@ namespace Orvo::Manager {
 namespace {
 
 constexpr Integer kFirstDrawn = 1;
-constexpr std::string_view kDrawTrace = "DisegnaFormaDOnda";
-constexpr std::string_view kDrawGrid = "DisegnaAssi";
+constexpr const Member& kDrawTrace = memberNamed<Integer, IntegerArray>("DisegnaFormaDOnda");
+constexpr const Member& kDrawGrid = memberNamed<Integer>("DisegnaAssi");
 
 constexpr bool isChannel(Integer channel) { return channel >= 1 && channel <= kChannels; }
 constexpr std::size_t at(Integer channel) { return static_cast<std::size_t>(channel - 1); }
@@ -42,10 +42,10 @@ std::span<const Integer> drawn(const IntegerArray& samples) {
 
 }  // namespace
 
-void Traces::note(const Member& member, std::span<const Value> arguments) {
-    if (member.name == kDrawTrace) {
+void Traces::called(const Member& member, std::span<const Value> arguments) {
+    if (&member == &kDrawTrace) {
         draw(std::get<Integer>(arguments[0]), std::get<IntegerArray>(arguments[1]));
-    } else if (member.name == kDrawGrid) {
+    } else if (&member == &kDrawGrid) {
         const auto channel = std::get<Integer>(arguments[0]);
         draw(isChannel(channel) ? channel : Integer{1}, {});
     }

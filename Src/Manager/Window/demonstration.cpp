@@ -28,6 +28,7 @@ constexpr auto kPictures =
 
 constexpr auto kLinkLamp = Layout::shapeRef("shpConnected");
 constexpr auto kMainsLamp = Layout::shapeRef("shpMainPresence12");
+constexpr auto kPowerLamp = Layout::shapeRef("shpOnOff");
 constexpr auto kReadyLamps =
     std::to_array({Layout::shapeRef("Shape17"), Layout::shapeRef("Shape12")});
 constexpr auto kPowerButton = Layout::buttonRef("cmdOnOff");
@@ -70,9 +71,9 @@ private:
 };
 
 void Demonstration::run() {
-    const bool isOperated = !window_.isReadOnly();
-    window_.connectSimulator(isOperated ? Simulator::PowerAtStart::off
-                                        : Simulator::PowerAtStart::on);
+    const bool isOperated = !window_.session().isReadOnly();
+    window_.session().connectSimulator(isOperated ? Simulator::PowerAtStart::off
+                                                  : Simulator::PowerAtStart::on);
     window_.open();
     comeUp();
     if (isOperated) switchOn();
@@ -88,7 +89,7 @@ void Demonstration::comeUp() {
 
 void Demonstration::switchOn() {
     click(kPowerButton);
-    waitFor("the power", [this] { return bool(window_.panelWidget().panel().PowerOn()); });
+    waitFor("the power", [this] { return isLit(kPowerLamp); });
     for (const auto lamp : kReadyLamps) {
         waitFor("both pairs to be ready", [this, lamp] { return isLit(lamp); });
     }
@@ -97,7 +98,8 @@ void Demonstration::switchOn() {
 void Demonstration::play() {
     for (const auto button : kStartButtons) click(button);
     waitFor("the traces", [this] {
-        return window_.station().traces().has(1) && window_.station().traces().has(3);
+        return window_.session().station().traces().has(1) &&
+               window_.session().station().traces().has(3);
     });
 }
 

@@ -7,7 +7,6 @@
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/shortcuts.h"
 #include "Manager/Window/zoom.h"
-#include "Orvo/core/marvane_assistant.h"
 #include "Orvo/store/store.h"
 
 // What the menus command.
@@ -21,18 +20,6 @@ QString channelName(Integer channel) { return "channel-" + QString::number(chann
 
 }  // namespace
 
-void ManagerWindow::runQuickTest() {
-    if (auto* simulator = station_.simulator()) simulator->runQuickTest();
-}
-
-void ManagerWindow::setFault(Simulator::Fault fault, bool isOn) {
-    if (auto* simulator = station_.simulator()) simulator->set(fault, isOn);
-}
-
-void ManagerWindow::setReadOnly(bool isReadOnly) { station_.panel().ReadOnly(isReadOnly); }
-
-bool ManagerWindow::isReadOnly() const { return panel_->panel().ReadOnly() == Boolean(true); }
-
 void ManagerWindow::savePicture() {
     saver_->ask(
         {"picture of the panel", "PNG pictures", "marvane-panel.png", toPng(pictureOf(*panel_))});
@@ -45,10 +32,10 @@ void ManagerWindow::saveScopePicture(Integer channel) {
 }
 
 void ManagerWindow::saveTrace(Integer channel) {
-    if (!station_.traces().has(channel)) {
+    if (!session_.station().traces().has(channel)) {
         return statusLine_->say("There is no trace on channel " + QString::number(channel));
     }
-    const std::string csv = traceCsv(station_.traces().samples(channel));
+    const std::string csv = traceCsv(session_.station().traces().samples(channel));
     saver_->ask({"samples of the trace", "Comma-separated values",
                  "marvane-trace-" + channelName(channel) + ".csv", QByteArray::fromStdString(csv)});
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -169,5 +170,18 @@ consteval auto memberTable() {
 /// All members, in interface order.
 inline constexpr auto kMembers = Detail::memberTable();
 static_assert(kMembers.size() == kMemberContracts.size());
+
+/// The member of a name that takes these arguments; one that the table doesn't have doesn't
+/// compile.
+template <class... Arguments>
+consteval const Member& memberNamed(std::string_view name) {
+    constexpr std::array<ValueType, sizeof...(Arguments)> kTypes{valueTypeOf<Arguments>()...};
+    for (const Member& member : kMembers) {
+        const bool takesThem =
+            std::ranges::equal(member.parameters(), kTypes, {}, &Parameter::type);
+        if (member.name == name && takesThem) return member;
+    }
+    throw "no member of this name takes these arguments";
+}
 
 }  // namespace Orvo

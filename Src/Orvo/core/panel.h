@@ -3,6 +3,7 @@
 #include <memory>
 #include <thread>
 
+#include "Orvo/core/call_listener.h"
 #include "Orvo/core/event_hub.h"
 #include "Orvo/core/host_commands.h"
 #include "Orvo/core/power_state.h"
@@ -60,6 +61,7 @@ public:
     // The subjects stand in the open for the members and the notification table, which only say who
     // does what. NOLINTBEGIN(*-non-private-member-variables-in-classes)
     EventHub events{onError_};
+    Receivers<CallListener*> callListeners;
     PowerState powerState{*runtime_, events};
     HostCommands hostCommands{events};
     ReadOnlyMode readOnlyMode{*runtime_};

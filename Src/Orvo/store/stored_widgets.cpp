@@ -150,6 +150,10 @@ void StoredCombo::setText(const String& text) {
     showText(text);
 }
 
+bool StoredCombo::hasItem(StringView text) const {
+    return std::find(state_.items.begin(), state_.items.end(), text) != state_.items.end();
+}
+
 void StoredList::addItem(const String& text) {
     observe({.verb = Verb::addItem, .value = text});
     const bool isFull = state_.items.size() == ListState::kMostItems ||

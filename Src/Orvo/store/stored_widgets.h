@@ -126,6 +126,7 @@ public:
     [[nodiscard]] String text() const override;
     void setText(const String& text) override;
 
+    [[nodiscard]] bool hasItem(StringView text) const;
     void showText(const String& text) { change(state_.text, text); }
 };
 

@@ -13,10 +13,10 @@
 
 namespace Orvo::Tests {
 
+using Manager::SimulatedHost;
 using Simulator::Fault;
 using Simulator::Milliseconds;
 using Simulator::PowerAtStart;
-using Simulator::SimulatedHost;
 
 /// A panel with a simulated amplifier that stands switched off, and a person in front.
 class HostTest : public PanelTest {
