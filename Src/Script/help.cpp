@@ -53,7 +53,10 @@ std::string helpOn(std::string_view name, const Grammar& grammar) {
 
 std::string usage(const Command& command) {
     std::string text(command.name);
-    if (!command.words.empty()) text.append(" ").append(command.words);
+    for (const WordKind& kind : command.words) {
+        const bool isOptional = kind.presence == WordKind::Presence::optional;
+        text += isOptional ? " [" + textOf(kind) + ']' : ' ' + textOf(kind);
+    }
     return text;
 }
 

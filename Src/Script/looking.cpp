@@ -5,6 +5,7 @@
 
 #include "Script/answers.h"
 #include "Script/session.h"
+#include "Script/text_of.h"
 
 namespace Orvo::Script::Looking {
 namespace {
@@ -174,24 +175,24 @@ std::string describe(const Store& widgets, WidgetId widget) {
            propertiesOf(widgets, widget);
 }
 
-std::string show(Session& session, const Shown& widget) {
-    const Store& widgets = session.bench().widgets();
-    if (widget.id != Layout::kNoWidget) return resultIs(describe(widgets, widget.id));
+std::string show(Session& session, WidgetId widget) {
+    const Store& widgets = session.person().store();
+    if (widget != Layout::kNoWidget) return resultIs(describe(widgets, widget));
     return resultIs("screen" + property("pointer", static_cast<int>(widgets.pointer())));
 }
 
-std::string items(Session& session, const ItemHolder& widget) {
-    const Store& widgets = session.bench().widgets();
-    if (Layout::describe(widget.id).style.kind == Kind::combo) {
-        return listed(session, widgets.get<StoredCombo>(widget.id).state().items);
+std::string items(Session& session, WidgetId widget) {
+    const Store& widgets = session.person().store();
+    if (Layout::describe(widget).style.kind == Kind::combo) {
+        return listed(session, widgets.get<StoredCombo>(widget).state().items);
     }
-    return listed(session, widgets.get<StoredList>(widget.id).state().items);
+    return listed(session, widgets.get<StoredList>(widget).state().items);
 }
 
-std::string drawing(Session& session, const Picture& picture) {
+std::string drawing(Session& session, WidgetId picture) {
     DrawingList list(session);
-    const auto& widgets = session.bench().widgets();
-    for (const Drawn& drawn : widgets.get<StoredPicture>(picture.id).state().drawing) {
+    const Store& widgets = session.person().store();
+    for (const Drawn& drawn : widgets.get<StoredPicture>(picture).state().drawing) {
         std::visit(list, drawn);
     }
     return resultIs(std::to_string(list.count()));
@@ -208,24 +209,28 @@ std::string widgets(Session& session) {
     return resultIs(std::to_string(Layout::kWidgetCount));
 }
 
-std::string pointer(Session& session, const PointerNumber& number) {
-    session.bench().widgets().mousePointer().setPointer(number.pointer);
-    return ok();
-}
-
-std::string set(Session& session, const AnyWidget& widget, const LayoutProperty& property,
-                const Truth& value) {
-    Store& widgets = session.bench().widgets();
-    if (property.property == LayoutProperty::enabled) {
-        widgets.enable(widget.id, value.value);
+std::string set(Session& session, WidgetId widget, LayoutProperty property, bool value) {
+    Store& widgets = session.person().store();
+    if (property == LayoutProperty::enabled) {
+        widgets.enable(widget, value);
     } else {
-        widgets.show(widget.id, value.value);
+        widgets.show(widget, value);
     }
     return ok();
 }
 
-std::string shot(Session& session, const File& file) {
-    session.bench().shoot(file.name);
+std::string pointer(Session& session, Widgets::Pointer pointer) {
+    session.person().store().mousePointer().setPointer(pointer);
+    return ok();
+}
+
+std::string spooler(Session& session, const Runtime::Ports& ports) {
+    session.person().connectPorts(ports);
+    return ok();
+}
+
+std::string shot(Session& session, const String& file) {
+    session.person().shoot(file);
     return ok();
 }
 

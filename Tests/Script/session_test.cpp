@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Script/store_bench.h"
+#include "Script/store_panel.h"
 #include "Script/text_of.h"
 
 namespace {
@@ -16,11 +16,16 @@ struct SessionTest : testing::Test {
     Lines answersTo(std::string_view line, Grammar::Speaker speaker = Grammar::Speaker::anyone) {
         Lines answers;
         const auto keep = [&](std::string_view answer) { answers.emplace_back(answer); };
-        Session(bench, {.speaker = speaker}, keep).run(line);
+        const Grammar grammar{.speaker = speaker};
+        if (speaker == Grammar::Speaker::device) {
+            Session(panel, grammar, keep).run(line);
+        } else {
+            Session(panel, panel, grammar, keep).run(line);
+        }
         return answers;
     }
 
-    StoreBench bench;
+    StorePanel panel;
 };
 
 TEST_F(SessionTest, aDeviceMaySendTheHostsCommandsOnly) {
@@ -37,9 +42,9 @@ TEST_F(SessionTest, aDeviceMaySendTheHostsCommandsOnly) {
 
 TEST_F(SessionTest, eventsThatNoCommandCausedAreAnsweredToo) {
     Lines answers;
-    Session session(bench, {}, [&](std::string_view line) { answers.emplace_back(line); });
+    Session session(panel, panel, {}, [&](std::string_view line) { answers.emplace_back(line); });
     session.run("on Mute get PowerOn");
-    bench.person().click(*Layout::findWidget("Command12"), Runtime::MouseButton::left);
+    panel.store().input().click(*Layout::findWidget("Command12"));
     EXPECT_EQ(answers, (Lines{"ok", "event Mute 1", "  = 0"}));
 }
 
@@ -53,7 +58,7 @@ struct Saboteur final : Runtime::OperationObserver {
 
 TEST_F(SessionTest, theFirstOfSeveralErrorsOfHandlersClosesTheCommand) {
     Saboteur saboteur;
-    bench.widgets().observeWith(&saboteur);
+    panel.store().observeWith(&saboteur);
     EXPECT_EQ(answersTo("wait 3000"), Lines{"! 1001 Sabotage"});
     EXPECT_EQ(saboteur.number, 1004);
     EXPECT_EQ(answersTo("get PowerOn"), Lines{"= 0"});

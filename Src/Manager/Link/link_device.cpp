@@ -61,7 +61,7 @@ void LinkDevice::tryToOpen() {
 }
 
 void LinkDevice::close() {
-    for (const Event& event : kEvents) session_.forget(event);
+    session_.forgetHandlers();
     port_.reset();
     lines_ = {};
     unsent_.clear();

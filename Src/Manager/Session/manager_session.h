@@ -87,7 +87,7 @@ private:
     SessionObserver& observer_;
     std::unique_ptr<Script::Recorder> recorder_;  // null when nothing is recorded
     Station station_;
-    Script::PanelOwner::Subscription renewals_;
+    Connection renewals_;
     std::chrono::milliseconds hourglass_{0};  // how long it has been there
 };
 

@@ -57,10 +57,10 @@ private:
 
     // An event goes to the sinks in this order, on a fresh panel too: what the device does lies
     // between the other two.
-    Script::PanelOwner::Subscription renewalsBeforeDevice_;
+    Connection renewalsBeforeDevice_;
     Connection beforeDevice_;
     std::unique_ptr<Device> device_;
-    Script::PanelOwner::Subscription renewalsAfterDevice_;
+    Connection renewalsAfterDevice_;
     Connection afterDevice_;
 };
 

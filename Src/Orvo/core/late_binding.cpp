@@ -34,14 +34,4 @@ std::vector<Value> convertArguments(const Member& member, std::span<const Value>
     return converted;
 }
 
-InvokeResult invokeOn(MarvaneAssistantInterface& panel, Long dispatchId, MemberKind kind,
-                      std::span<const Value> arguments) {
-    try {
-        const Member& member = findMember(dispatchId, kind);
-        return {.value = member.call(panel, convertArguments(member, arguments))};
-    } catch (const Error& error) {
-        return {.error = error};
-    }
-}
-
 }  // namespace Orvo

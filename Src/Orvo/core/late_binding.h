@@ -26,8 +26,4 @@ const Member& findMember(Long dispatchId, MemberKind kind);
 /// The arguments converted to the member's parameters. Error 450 when their number is another.
 std::vector<Value> convertArguments(const Member& member, std::span<const Value> arguments);
 
-/// Calls the panel's member with this dispatch id and kind; the arguments are converted.
-InvokeResult invokeOn(MarvaneAssistantInterface& panel, Long dispatchId, MemberKind kind,
-                      std::span<const Value> arguments);
-
 }  // namespace Orvo

@@ -95,7 +95,8 @@ InvokeResult MarvaneAssistant::invoke(Long dispatchId, MemberKind kind,
                                       std::span<const Value> arguments) {
     try {
         const auto alive = enter();
-        return invokeOn(*this, dispatchId, kind, arguments);
+        const Member& member = findMember(dispatchId, kind);
+        return {.value = member.call(*this, convertArguments(member, arguments))};
     } catch (const Error& error) {
         return {.error = error};
     }

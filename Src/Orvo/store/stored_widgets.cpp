@@ -159,6 +159,10 @@ void StoredCombo::setText(const String& text) {
     showText(text);
 }
 
+bool StoredCombo::hasItem(StringView text) const {
+    return std::find(state_.items.begin(), state_.items.end(), text) != state_.items.end();
+}
+
 void StoredCombo::setEnabled(Boolean enabled) {
     observe({.verb = Verb::setEnabled, .value = enabled.raw()});
     enable(bool(enabled));

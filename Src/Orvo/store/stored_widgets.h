@@ -119,6 +119,7 @@ public:
     void setText(const String& text) override;
     void setEnabled(Boolean enabled) override;
 
+    [[nodiscard]] bool hasItem(StringView text) const;
     void showText(const String& text) { change(state_.text, text); }
 };
 

@@ -10,7 +10,7 @@ namespace {
 using namespace std::chrono_literals;
 using namespace Tests;
 
-class SessionTest : public OwnedPanel, protected SessionObserver {
+class SessionTest : public OwnedPanel, public SessionObserver {
 protected:
     void begin(const SessionSettings& settings) {
         session_.reset();
