@@ -53,7 +53,6 @@ public:
 
     /// Tabs are counted from 1. One that is disabled doesn't come to the front.
     void selectTab(int tab);
-    [[nodiscard]] int tab() const;
     void setZoom(int percent);
     void zoomIn();
     void zoomOut();

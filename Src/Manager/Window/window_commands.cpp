@@ -62,10 +62,6 @@ void ManagerWindow::selectTab(int tab) {
     panel_->store().input().selectTab(Layout::kTabs.id, tab - 1);
 }
 
-int ManagerWindow::tab() const {
-    return panel_->store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current + 1;
-}
-
 void ManagerWindow::setZoom(int percent) {
     zoomArea_->setZoom(percent);
     adaptSize();

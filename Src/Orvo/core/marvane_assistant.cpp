@@ -14,7 +14,7 @@ namespace {
 
 template <std::size_t kSize>
 struct Name {
-    // As a text that stands for it. NOLINTNEXTLINE(*-explicit-constructor)
+    // From the text itself. NOLINTNEXTLINE(*-explicit-constructor,*-avoid-c-arrays)
     consteval Name(const char (&literal)[kSize]) { std::copy_n(literal, kSize, text.begin()); }
     std::array<char, kSize> text{};
 };
@@ -43,9 +43,10 @@ auto callAloud(Panel& panel, const Member& member, const Act& act, const Argumen
 // Each call of a member goes through here: on the right thread, and with the panel kept alive until
 // it returns. The subject's function takes `kFirst` before the member's own arguments.
 template <Name kName, auto kSubject, auto kFunction, auto... kFirst, class... Arguments>
-auto call(std::shared_ptr<Panel> panel, const Arguments&... arguments) {
+auto call(const std::shared_ptr<Panel>& called, const Arguments&... arguments) {
     static constexpr const Member& kMember = memberNamed<Arguments...>(kName.text.data());
-    panel->checkThread();
+    called->checkThread();
+    const auto panel = called;  // NOLINT(*-unnecessary-copy-initialization)
     const auto act = [&] {
         return std::invoke(kFunction, (*panel).*kSubject, kFirst..., arguments...);
     };
