@@ -9,51 +9,15 @@ using Layout::Kind;
 using Widgets::Notification;
 using Widgets::NotificationKind;
 
-class Store::StoredMousePointer final : public Widgets::MousePointer {
-public:
-    explicit StoredMousePointer(Store& store) : store_(store) {}
-
-    void setPointer(Widgets::Pointer pointer) override {
-        store_.observe({.verb = Verb::setPointer, .value = static_cast<Integer>(pointer)});
-        const bool isChanged = std::exchange(store_.pointer_, pointer) != pointer;
-        if (isChanged && store_.screen_ != nullptr) store_.screen_->pointerChanged();
-    }
-
-private:
-    Store& store_;
-};
-
-class Store::StoredPrompt final : public Widgets::InputPrompt {
-public:
-    explicit StoredPrompt(Store& store) : store_(store) {}
-
-    String ask(const Widgets::Question& question) override {
-        store_.observe({.verb = Verb::ask, .value = question.text});
-        if (store_.prompter_ == nullptr) return {};
-        const auto alive = store_.shared_from_this();
-        store_.input_.tell(&InputObserver::asks);
-        const std::optional<String> answer = store_.prompter_->ask(question);
-        store_.input_.tell(&InputObserver::answered, answer);
-        return answer.value_or(String());
-    }
-
-private:
-    Store& store_;
-};
-
 std::shared_ptr<Store> Store::create() { return std::shared_ptr<Store>(new Store); }
 
-Store::Store()
-    : mousePointer_(std::make_unique<StoredMousePointer>(*this)),
-      prompt_(std::make_unique<StoredPrompt>(*this)) {
+Store::Store() {
     for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
         widgets_[id] = StoredKinds::visit(
             Layout::kindOf(id),
             [&]<class Stored>(std::type_identity<Stored> /*kind*/) { return make<Stored>(id); });
     }
 }
-
-Store::~Store() = default;
 
 template <class Stored>
 std::unique_ptr<StoredWidget> Store::make(WidgetId id) {
@@ -62,8 +26,21 @@ std::unique_ptr<StoredWidget> Store::make(WidgetId id) {
     return widget;
 }
 
-Widgets::MousePointer& Store::mousePointer() { return *mousePointer_; }
-Widgets::InputPrompt& Store::inputPrompt() { return *prompt_; }
+void Store::setPointer(Widgets::Pointer pointer) {
+    observe({.verb = Verb::setPointer, .value = static_cast<Integer>(pointer)});
+    const bool isChanged = std::exchange(pointer_, pointer) != pointer;
+    if (isChanged && screen_ != nullptr) screen_->pointerChanged();
+}
+
+String Store::ask(const Widgets::Question& question) {
+    observe({.verb = Verb::ask, .value = question.text});
+    if (prompter_ == nullptr) return {};
+    const auto alive = shared_from_this();
+    input_.tell(&InputObserver::asks);
+    const std::optional<String> answer = prompter_->ask(question);
+    input_.tell(&InputObserver::answered, answer);
+    return answer.value_or(String());
+}
 
 bool Store::isShown(WidgetId id) const {
     for (; id != Layout::kPanel; id = Layout::describe(id).container) {

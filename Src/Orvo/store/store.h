@@ -39,15 +39,17 @@ public:
 /// the headless runtime, with a clock that only `advance` moves.
 ///
 /// All calls from one thread, the panel's.
-class Store final : public Widgets::WidgetTree, public std::enable_shared_from_this<Store> {
+class Store final : public Widgets::WidgetTree,
+                    Widgets::MousePointer,
+                    Widgets::InputPrompt,
+                    public std::enable_shared_from_this<Store> {
 public:
     using Milliseconds = std::chrono::milliseconds;
 
     static std::shared_ptr<Store> create();
-    ~Store() override;
 
-    Widgets::MousePointer& mousePointer() override;
-    Widgets::InputPrompt& inputPrompt() override;
+    Widgets::MousePointer& mousePointer() override { return *this; }
+    Widgets::InputPrompt& inputPrompt() override { return *this; }
     void notifyTo(Widgets::NotificationSink* sink) override { sink_ = sink; }
 
     /// What a screen and a person's input work with; null takes them away again.
@@ -104,8 +106,6 @@ private:
     friend class StoredPicture;
     friend class StoredTabs;
     friend class UserInput;
-    class StoredMousePointer;
-    class StoredPrompt;
 
     Store();
 
@@ -116,6 +116,8 @@ private:
     }
     template <class Stored>
     std::unique_ptr<StoredWidget> make(WidgetId id);
+    void setPointer(Widgets::Pointer pointer) override;
+    String ask(const Widgets::Question& question) override;
 
     [[nodiscard]] bool isObserved() const { return observer_ != nullptr; }
     void observe(const Operation& operation) const {
@@ -133,8 +135,6 @@ private:
 
     std::array<std::unique_ptr<StoredWidget>, Layout::kWidgetCount> widgets_;
     std::array<Widgets::Widget*, Layout::kWidgetCount> interfaces_{};  // of the same
-    std::unique_ptr<StoredMousePointer> mousePointer_;
-    std::unique_ptr<StoredPrompt> prompt_;
     UserInput input_{*this};
     Widgets::NotificationSink* sink_ = nullptr;
     Screen* screen_ = nullptr;

@@ -39,11 +39,6 @@ void StoredWidget::enable(bool enabled) {
     if (change(isEnabled_, enabled)) store_.letGoOfSliders();
 }
 
-void StoredWidget::enableByPanel(Boolean enabled) {
-    observe({.verb = Verb::setEnabled, .value = enabled.raw()});
-    enable(bool(enabled));
-}
-
 void StoredWidget::changed() { store_.changed(id_); }
 
 StoredLabel::StoredLabel(Store& store, WidgetId id) : StoredKind(store, id) {

@@ -39,7 +39,6 @@ protected:
     [[nodiscard]] const Layout::Widget& description() const { return Layout::describe(id_); }
     [[nodiscard]] Store& store() const { return store_; }
     void observe(Operation operation) const;
-    void enableByPanel(Boolean enabled);
     void changed();
 
     template <class Value>
@@ -72,7 +71,10 @@ template <class Interface, class State = std::monostate>
 class StoredEnableable : public StoredKind<Interface, State> {
 public:
     using StoredKind<Interface, State>::StoredKind;
-    void setEnabled(Boolean enabled) final { this->enableByPanel(enabled); }
+    void setEnabled(Boolean enabled) final {
+        this->observe({.verb = Verb::setEnabled, .value = enabled.raw()});
+        this->enable(bool(enabled));
+    }
 };
 
 class StoredLabel final : public StoredKind<Widgets::Label, LabelState> {

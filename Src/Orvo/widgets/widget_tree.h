@@ -43,8 +43,8 @@ public:
     virtual ~WidgetTree() = default;
 
     template <Kind kKind>
-    InterfaceOf<kKind>& operator[](Ref<kKind> widget) {
-        return static_cast<InterfaceOf<kKind>&>(at(widget.id));
+    Interfaces::Of<kKind>& operator[](Ref<kKind> widget) {
+        return static_cast<Interfaces::Of<kKind>&>(at(widget.id));
     }
 
     virtual MousePointer& mousePointer() = 0;

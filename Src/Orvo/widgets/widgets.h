@@ -151,7 +151,4 @@ using Interfaces = KindTable<
     For<Kind::slider, Slider>>;
 // clang-format on
 
-template <Kind kKind>
-using InterfaceOf = Interfaces::Of<kKind>;
-
 }  // namespace Orvo::Widgets

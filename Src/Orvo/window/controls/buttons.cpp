@@ -1,5 +1,7 @@
 #include "Orvo/window/controls/buttons.h"
 
+#include <algorithm>
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -40,12 +42,11 @@ void OptionButton::refresh() {
 }
 
 bool OptionButton::isTabStop() const {
-    if (stored<Runtime::StoredOption>().value) return true;
-    for (WidgetId other = 0; other < Layout::kWidgetCount; ++other) {
-        if (!Layout::areFellows(other, id())) continue;
-        if (store().get<Runtime::StoredOption>(other).state().value) return false;
-    }
-    return true;
+    const auto& options = Layout::kAll<Layout::Kind::option>;
+    return isChecked() || std::none_of(options.begin(), options.end(), [this](WidgetId other) {
+               return Layout::areFellows(other, id()) &&
+                      store().get<Runtime::StoredOption>(other).state().value;
+           });
 }
 
 void OptionButton::paintEvent(QPaintEvent*) {

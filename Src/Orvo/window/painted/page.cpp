@@ -1,6 +1,7 @@
 #include "Orvo/window/painted/page.h"
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 #include <QHelpEvent>
@@ -10,6 +11,7 @@
 
 #include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
+#include "Orvo/window/painted/painted_kinds.h"
 #include "Orvo/window/spoken/names.h"
 #include "Orvo/window/spoken/spoken.h"
 
@@ -21,7 +23,11 @@ Page::Page(const Runtime::Store& store, int tab, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
         if (pageOf(id) != tab) continue;
-        auto painted = makePainted(store, id);
+        auto painted = PaintedKinds::visit(
+            Layout::kindOf(id),
+            [&]<class Shown>(std::type_identity<Shown> /*kind*/) -> std::unique_ptr<Painted> {
+                return std::make_unique<Shown>(store, id);
+            });
         if (!painted) continue;
         layers_.push_back({id, std::move(painted), {}});
         if (!nameOf(id).isEmpty()) speakers_.push_back(id);

@@ -34,7 +34,6 @@ private:
     void paintEdge(QPainter& painter, QColor colour) const;
     void paintText(QPainter& painter) const;
 
-    QRect place_;
     int edge_ = 1;  // pixels
     QFont font_;
     QFont firstFont_;
@@ -55,7 +54,6 @@ private:
     void paintLamp(QPainter& painter) const;
     void paintGlow(QPainter& painter) const;
 
-    QRect place_;
     double pen_ = 1;
     double glow_ = 0;
 };
@@ -77,12 +75,7 @@ private:
 class PaintedFrame final : public Painted {
 public:
     using Painted::Painted;
-    void layOut(const Scale& scale) override;
-    [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
-
-private:
-    QRect place_;
 };
 
 /// Seven segments.
@@ -90,14 +83,12 @@ class PaintedDigit final : public Painted {
 public:
     using Painted::Painted;
     void layOut(const Scale& scale) override;
-    [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
 
 private:
     void paintLit(QPainter& painter, const QPainterPath& segment) const;
     void paintUnlit(QPainter& painter, const QPainterPath& segment) const;
 
-    QRect place_;
     double zoom_ = 1;
     std::array<QPainterPath, kSegmentCount> segments_;
 };
@@ -111,7 +102,7 @@ public:
     void paint(QPainter& painter) const override;
 
 private:
-    QRect place_;
+    QRect header_;
     QFont font_;
 };
 
@@ -120,13 +111,11 @@ class PaintedImage final : public Painted {
 public:
     using Painted::Painted;
     void layOut(const Scale& scale) override;
-    [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
 
 private:
     void draw(double devicePixelRatio) const;
 
-    QRect place_;
     mutable QPixmap artwork_;
 };
 
