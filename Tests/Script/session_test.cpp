@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Orvo/layout/roles.h"
 #include "Script/store_bench.h"
 #include "Script/text_of.h"
 
@@ -39,7 +40,7 @@ TEST_F(SessionTest, eventsThatNoCommandCausedAreAnsweredToo) {
     Lines answers;
     Session session(bench, {}, [&](std::string_view line) { answers.emplace_back(line); });
     session.run("on Mute get PowerOn");
-    bench.person().click(*Layout::findWidget("Command12"), Runtime::MouseButton::left);
+    bench.person().click(Layout::channel(1).muteButton, Runtime::MouseButton::left);
     EXPECT_EQ(answers, (Lines{"ok", "event Mute 1", "  = 0"}));
 }
 

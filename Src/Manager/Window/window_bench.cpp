@@ -38,9 +38,7 @@ void WindowBench::shoot(const String& file) {
 // The controls learn only with the next frame what they may do.
 template <class Control>
 Control* WindowBench::controlOf(Widgets::WidgetId widget) {
-    const auto name = Layout::describe(widget).name;
-    auto* control =
-        window_.findChild<Control*>(QString::fromLatin1(name.data(), qsizetype(name.size())));
+    auto* control = qobject_cast<Control*>(window_.control(widget));
     if (control != nullptr) window_.flush();
     return control;
 }

@@ -79,7 +79,7 @@ void MarvaneAssistant::Protection(Integer intChannel, Boolean blnValue) {
 }
 
 void MarvaneAssistant::Signal(Integer intChannel, Boolean blnValue) {
-    enter()->statusLamps.setSignal(intChannel, blnValue);
+    enter()->statusLamps.set(&Layout::Channel::signalLamp, intChannel, blnValue);
 }
 
 void MarvaneAssistant::AbilitaSlave(Boolean blnAbilita) {
@@ -91,27 +91,27 @@ Integer MarvaneAssistant::IdDevice() { return enter()->amplifierId.get(); }
 void MarvaneAssistant::IdDevice(Integer intIdDevice) { enter()->amplifierId.set(intIdDevice); }
 
 void MarvaneAssistant::VPPower(Integer intChannel, Integer intValue) {
-    enter()->railReadouts.set(Rail::positivePower, intChannel, intValue);
+    enter()->railReadouts.set(&Layout::Pair::positivePower, intChannel, intValue);
 }
 
 void MarvaneAssistant::VPAux(Integer intChannel, Integer intValue) {
-    enter()->railReadouts.set(Rail::positiveAux, intChannel, intValue);
+    enter()->railReadouts.set(&Layout::Pair::positiveAux, intChannel, intValue);
 }
 
 void MarvaneAssistant::Clock(Integer intChannel, Boolean blnValue) {
-    enter()->statusLamps.setClock(intChannel, blnValue);
+    enter()->statusLamps.set(&Layout::Pair::clockLamp, intChannel, blnValue);
 }
 
 void MarvaneAssistant::Ready(Integer intChannel, Boolean blnValue) {
-    enter()->statusLamps.setReady(intChannel, blnValue);
+    enter()->statusLamps.set(&Layout::Pair::readyLamp, intChannel, blnValue);
 }
 
 void MarvaneAssistant::VNPower(Integer intChannel, Integer intValue) {
-    enter()->railReadouts.set(Rail::negativePower, intChannel, intValue);
+    enter()->railReadouts.set(&Layout::Pair::negativePower, intChannel, intValue);
 }
 
 void MarvaneAssistant::VNAux(Integer intChannel, Integer intValue) {
-    enter()->railReadouts.set(Rail::negativeAux, intChannel, intValue);
+    enter()->railReadouts.set(&Layout::Pair::negativeAux, intChannel, intValue);
 }
 
 Boolean MarvaneAssistant::PowerOn() { return enter()->powerState.power(); }

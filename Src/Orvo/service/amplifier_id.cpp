@@ -1,8 +1,6 @@
 #include "Orvo/service/amplifier_id.h"
 
-#include <array>
-
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/values/arithmetic.h"
 #include "Orvo/values/text.h"
 
@@ -12,8 +10,7 @@ namespace {
 using namespace Widgets;
 using namespace Layout;
 
-constexpr ComboRef kIds = comboRef("Combo1");
-constexpr std::array kIdLabels{labelRef("lblAmpId12"), labelRef("lblAmpId34")};
+constexpr ComboRef kIds = kCommon.amplifierIds;
 constexpr Integer kHighestId = 99;
 constexpr Integer kCarriageReturn = 13;
 
@@ -36,7 +33,7 @@ void AmplifierId::picked() {
     const double shown = numericValue(widgets_[kIds].text());
     if (shown == intIdDevice) return;
     intIdDevice = roundToInteger(shown);
-    for (const LabelRef label : kIdLabels) widgets_[label].setCaption(decimalText(intIdDevice));
+    for (const Pair& pair : kPairs) widgets_[pair.amplifierId].setCaption(decimalText(intIdDevice));
     log_.clear();
     Integer id = intIdDevice;
     host_.ChangeAmpId(id);

@@ -1,6 +1,6 @@
 #include "Orvo/service/information_entry.h"
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/values/text.h"
 
 namespace Orvo {
@@ -8,7 +8,7 @@ namespace {
 
 using namespace Widgets;
 
-constexpr ButtonRef kButton = Layout::buttonRef("Command1");
+constexpr ButtonRef kButton = Layout::kCommon.resetLogButton;
 constexpr Long kPassword = 530284;
 constexpr int kTries = 2;
 

@@ -1,11 +1,11 @@
 #include "Orvo/service/message_log.h"
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo {
 namespace {
 
-constexpr Widgets::ListRef kLog = Layout::listRef("List1");
+constexpr Widgets::ListRef kLog = Layout::kCommon.log;
 
 }  // namespace
 

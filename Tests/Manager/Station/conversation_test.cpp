@@ -68,7 +68,7 @@ TEST_F(ConversationTest, AnswersStandUnderTheirEvent) {
         host_.Mute(1, true);
         host_.Mute(Integer{1});
     };
-    person_.click(Tests::id("Command12"));
+    person_.click(channel(1).muteButton);
     host_.Protection(2, true);
     EXPECT_EQ(log_.lines(), Log({"event Mute 1", "  let Mute 1 -1", "  get Mute 1", "  = -1",
                                  "let Protection 2 -1"}));

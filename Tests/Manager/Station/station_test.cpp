@@ -19,10 +19,10 @@ protected:
 TEST_F(StationTest, DisconnectingShowsTheLinkDownAndCallsTheValuesOld) {
     station_.connectSimulator(1);
     station_.advance(2s);
-    EXPECT_TRUE(isLit("shpConnected"));
+    EXPECT_TRUE(isLit(kCommon.linkLamp));
     EXPECT_EQ(station_.situation().connectedTo, "Simulated amplifier (seed 1)");
     station_.disconnect();
-    EXPECT_FALSE(isLit("shpConnected"));
+    EXPECT_FALSE(isLit(kCommon.linkLamp));
     EXPECT_TRUE(station_.situation().connectedTo.empty());
     EXPECT_TRUE(station_.situation().showsOldValues);
     EXPECT_EQ(station_.simulator(), nullptr);
@@ -34,7 +34,7 @@ TEST_F(StationTest, NothingConnectedAnswersNoEventAnyMore) {
     station_.connectSimulator(1);
     station_.disconnect();
     station_.log().clear();
-    person_.click(Tests::id("Command12"));
+    person_.click(channel(1).muteButton);
     station_.advance(2s);
     EXPECT_EQ(station_.log().lines(), std::deque<std::string>({"event Mute 1"}));
 }
@@ -42,7 +42,7 @@ TEST_F(StationTest, NothingConnectedAnswersNoEventAnyMore) {
 TEST_F(StationTest, WhatTheAmplifierConfirmsLaterIsNoPartOfTheEvent) {
     station_.connectSimulator(1);
     station_.advance(3s);
-    person_.click(Tests::id("Command12"));
+    person_.click(channel(1).muteButton);
     station_.advance(1s);
     const auto& lines = station_.log().lines();
     for (const char* line : {"event Mute 1", "let Mute 1 -1"}) {

@@ -12,6 +12,7 @@
 #include "Manager/Window/manager_window.h"
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/store/store.h"
+#include "Support/roles.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -52,8 +53,8 @@ protected:
         return text;
     }
 
-    void press(const char* button) {
-        window_->panelWidget().findChild<QAbstractButton*>(button)->click();
+    void press(Widgets::ButtonRef button) {
+        qobject_cast<QAbstractButton*>(window_->panelWidget().control(button))->click();
     }
 
     int other_ = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
@@ -66,11 +67,11 @@ TEST_F(LinkedWindow, ALinkMayAskForAFreshPanelAlsoWhileItAnswersTheOldOne) {
     open(window);
     EXPECT_EQ(exchange("let Mute 1 true\nnew\nget Mute 1\n", "= 0\n"), "ok\nok\n= 0\n");
     EXPECT_EQ(exchange("on OnOff new\nlet Mute 2 true\n", "ok\nok\n"), "ok\nok\n");
-    press("cmdOnOff");
+    press(kCommon.powerButton);
     EXPECT_EQ(exchange("get Mute 2\n", "= 0\n"), "event OnOff\n  ok\n= 0\n");
-    press("cmdReadInData");
+    press(kCommon.internalDataButton);
     EXPECT_EQ(exchange("\n", "DownLoad\n"), "event DownLoad\n") << "the fresh panel's buttons";
-    EXPECT_TRUE(window.panelWidget().findChild<QWidget*>("SSTab1")->isVisible());
+    EXPECT_TRUE(window.panelWidget().control(kTabs)->isVisible());
 }
 
 TEST_F(LinkedWindow, AFreshPanelStaysReadOnlyWhenTheOptionsSaySo) {
@@ -79,7 +80,7 @@ TEST_F(LinkedWindow, AFreshPanelStaysReadOnlyWhenTheOptionsSaySo) {
         open(window);
         const std::string truth = isReadOnly ? "= -1\n" : "= 0\n";
         EXPECT_EQ(exchange("new\nget ReadOnly\n", truth), "ok\n" + truth);
-        press("Command12");
+        press(channel(1).muteButton);
         EXPECT_EQ(exchange("get Mute 1\n", "= 0\n"), isReadOnly ? "= 0\n" : "event Mute 1\n= 0\n");
     }
 }

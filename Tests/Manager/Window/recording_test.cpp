@@ -21,7 +21,6 @@ using Runtime::MouseButton;
 using Runtime::ReleasedWhere;
 using Script::Answers;
 using Script::Recorder;
-using Tests::id;
 
 std::string contentOf(const std::string& path) {
     std::ostringstream content;
@@ -92,18 +91,19 @@ void workEverything(ManagerWindow& window) {
     Runtime::UserInput& person = window.panelWidget().store().input();
     window.connectSimulator();
     window.letPass(2s);
-    for (const char* widget : {"Command12", "cmdGo12", "cmdGo34", "cmdReadInData"}) {
-        person.click(id(widget));
+    for (const auto widget : {channel(1).muteButton, pair(1).startButton, pair(2).startButton,
+                              kCommon.internalDataButton}) {
+        person.click(widget);
         window.letPass(333ms);
     }
-    person.press(id("ZelvinSlider1"));
+    person.press(channel(1).volumeSlider);
     for (int position = 5; position < 20; position += 3) {
-        person.move(id("ZelvinSlider1"), position);
+        person.move(channel(1).volumeSlider, position);
         window.letPass(40ms);
     }
-    person.release(id("ZelvinSlider1"), MouseButton::left, ReleasedWhere::elsewhere);
-    person.slide(id("ZelvinSlider3"), 9);
-    person.type(id("List1"), 18);
+    person.release(channel(1).volumeSlider, MouseButton::left, ReleasedWhere::elsewhere);
+    person.slide(pair(1).testSlider, 9);
+    person.type(kCommon.log, 18);
     window.setFault(Simulator::Fault::mainsFailure, true);
     // Late by far: the timers tick as often as they came due.
     window.letPass(7s);
@@ -163,27 +163,27 @@ TEST_F(RecorderTest, WhatIsTypedAtPromptsStandsBeforeTheirCauseOrIsKeptSecret) {
     for (const auto& [answers, text] : rows) {
         Typist typist;
         store_.promptWith(&typist);
-        EXPECT_EQ(recorded(answers, [this](auto&) { person_.type(id("List1"), 18); }), text);
+        EXPECT_EQ(recorded(answers, [this](auto&) { person_.type(kCommon.log, 18); }), text);
     }
 }
 
 TEST_F(RecorderTest, WritesWhatThePersonDoesAndThePanelTakes) {
     const auto wait = [this](std::chrono::milliseconds time) { store_.advance(time); };
     const std::string text = recorded(Answers::inFull, [&](auto&) {
-        person_.press(id("Command12"));
+        person_.press(channel(1).muteButton);
         wait(70ms);
-        person_.release(id("Command12"));
-        person_.press(id("cmdOnOff"), MouseButton::right);
-        person_.release(id("cmdOnOff"), MouseButton::right, ReleasedWhere::elsewhere);
-        person_.press(id("ZelvinSlider2"));
-        person_.move(id("ZelvinSlider2"), 999);
-        person_.move(id("ZelvinSlider2"), 999);
-        person_.release(id("ZelvinSlider2"));
-        person_.drop(id("ZelvinSlider2"));
-        person_.selectTab(id("SSTab1"), 7);
-        person_.pick(id("Combo1"), u"no such item");
-        store_.enable(id("cmdOnOff"), false);
-        person_.click(id("cmdOnOff"));
+        person_.release(channel(1).muteButton);
+        person_.press(kCommon.powerButton, MouseButton::right);
+        person_.release(kCommon.powerButton, MouseButton::right, ReleasedWhere::elsewhere);
+        person_.press(channel(2).volumeSlider);
+        person_.move(channel(2).volumeSlider, 999);
+        person_.move(channel(2).volumeSlider, 999);
+        person_.release(channel(2).volumeSlider);
+        person_.drop(channel(2).volumeSlider);
+        person_.selectTab(kTabs, 7);
+        person_.pick(kCommon.amplifierIds, u"no such item");
+        store_.enable(kCommon.powerButton, false);
+        person_.click(kCommon.powerButton);
     });
     EXPECT_EQ(text,
               "wait 70\nclick Command12\n# event Mute 1\nrelease cmdOnOff right\n"
@@ -198,7 +198,7 @@ TEST_F(RecorderTest, CallsOfAHandlerAreMadeMeanwhile) {
             observed.Mute(1, true);
             EXPECT_THROW(observed.VNPower(1, -5), Error);
         });
-        person_.click(id("Command12"));
+        person_.click(channel(1).muteButton);
     });
     EXPECT_EQ(text,
               "meanwhile let Mute 1 -1\nmeanwhile let VNPower 1 -5\n"
@@ -238,7 +238,7 @@ TEST_F(ReplayTest, AHandlersCallsComeBeforeTheActionGoesOn) {
     Typist typist;
     store_.promptWith(&typist);
     expectSameReplay([](auto& host) { host.ReadOnly(true); },
-                     [this](auto&) { person_.type(id("List1"), 18); });
+                     [this](auto&) { person_.type(kCommon.log, 18); });
 }
 
 TEST_F(ReplayTest, ATicksHandlerStopsTheTimerThatComesNext) {
@@ -246,8 +246,8 @@ TEST_F(ReplayTest, ATicksHandlerStopsTheTimerThatComesNext) {
         if (++ticks > 0) host.TimerVirtualTemp34(false);
     };
     expectSameReplay(handler, [this](auto&) {
-        person_.slide(id("ZelvinSlider3"), 40);
-        person_.slide(id("ZelvinSlider6"), 60);
+        person_.slide(pair(1).testSlider, 40);
+        person_.slide(pair(2).testSlider, 60);
         store_.advance(20s);
     });
 }
@@ -259,16 +259,16 @@ TEST_F(ReplayTest, AnEventThatIsRaisedAgainIsAnsweredAnew) {
     const auto handler = [&](auto& host) {
         if (++count % 3 == 0) return;
         host.Mute(1, count % 2 == 0);
-        if (count % 5 == 0) person_.slide(id("ZelvinSlider2"), count);
+        if (count % 5 == 0) person_.slide(channel(2).volumeSlider, count);
         host.AggiugiTesto(String(std::size_t(count), u'x'));
     };
     const auto act = [this](auto&) {
-        person_.slide(id("ZelvinSlider3"), 40);
-        person_.slide(id("ZelvinSlider6"), 60);
+        person_.slide(pair(1).testSlider, 40);
+        person_.slide(pair(2).testSlider, 60);
         for (int position = 1; position < 20; ++position) {
-            person_.slide(id("ZelvinSlider1"), position);
-            person_.click(id("Command12"));
-            person_.activate(id(position % 2 == 0 ? "optEIAJ_ch12" : "optLineIn12"));
+            person_.slide(channel(1).volumeSlider, position);
+            person_.click(channel(1).muteButton);
+            person_.activate(pair(1).waves[position % 2 == 0 ? 3 : 4]);
             store_.advance(7777ms);
         }
     };
@@ -298,14 +298,14 @@ protected:
         BusyTypist typist([&] {
             panel->IdDevice(++deviceId);
             store_.advance(1500ms);
-            person_.click(id("Command12"));
+            person_.click(channel(1).muteButton);
             panel->Volume(2, deviceId);
         });
         store_.promptWith(&typist);
         const auto act = [&](auto& host) {
             panel = &host;
-            person_.type(id("List1"), 18);
-            person_.click(id("Command12"));
+            person_.type(kCommon.log, 18);
+            person_.click(channel(1).muteButton);
             panel = nullptr;
         };
         expectSameReplay([](auto& host) { host.Mute(1, !host.Mute(1)); }, act, answers);
@@ -327,7 +327,7 @@ TEST_F(RecorderTest, TheFileIsCompleteWhileAPromptIsOpen) {
         begun += contentOf(directory_.path() / "record.txt") + "---\n";
     });
     store_.promptWith(&typist);
-    recorded(Answers::inFull, [this](auto&) { person_.type(id("List1"), 18); });
+    recorded(Answers::inFull, [this](auto&) { person_.type(kCommon.log, 18); });
     EXPECT_NE(begun.find("meanwhile wait 5\nanswer \"530284\"\nkey List1 18\n---"),
               std::string::npos)
         << begun;

@@ -32,7 +32,7 @@ protected:
 
     MarvaneAssistant& panel() { return window_.panelWidget().panel(); }
     Runtime::Store& store() { return window_.panelWidget().store(); }
-    void click(const char* widget) { store().input().click(Tests::id(widget)); }
+    void click(Widgets::WidgetId widget) { store().input().click(widget); }
 
     void replay(const std::string& script) {
         std::ofstream(file_) << script;
@@ -67,17 +67,18 @@ TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
     window_.connectSimulator();
     window_.letPass(2s);
     window_.startRecording(QString::fromStdString(file_));
-    EXPECT_FALSE(store().get<Runtime::StoredShape>(Tests::id("shpConnected")).state().fillStyle ==
+    EXPECT_FALSE(store().get<Runtime::StoredShape>(kCommon.linkLamp).state().fillStyle ==
                  Widgets::FillStyle::solid)
         << "a fresh panel";
-    for (const char* widget : {"Command12", "cmdGo12", "cmdReadInData"}) {
+    for (const auto widget :
+         {channel(1).muteButton, pair(1).startButton, kCommon.internalDataButton}) {
         window_.letPass(1s);
         click(widget);
     }
     window_.letPass(1s);
     EXPECT_EQ(panel().Mute(1), Boolean(true));
     window_.stopRecording();
-    click("Command11");
+    click(channel(2).muteButton);
     window_.station().log().clear();
     window_.startReplay(QString::fromStdString(file_));
     EXPECT_EQ(panel().Mute(1), Boolean(false));
@@ -159,9 +160,9 @@ TEST_F(SessionTest, AnErrorThatNoCallerWaitsForIsAmongTheEvents) {
     } saboteur;
     window_.connectLink(QString("/dev/nowhere"));
     window_.station().log().clear();
-    click("Command12");
+    click(channel(1).muteButton);
     store().observeWith(&saboteur);
-    click("optN1");
+    click(channel(1).negative.option);
     store().observeWith(nullptr);
     EXPECT_EQ(window_.station().log().lines(),
               (std::deque<std::string>{"event Mute 1", "! 7 Gone"}));

@@ -100,23 +100,23 @@ void prepare(Bench& bench, const BoundNotification& row) {
     Runtime::Store& store = bench.store();
     store.show(row.widget, true);
     store.enable(row.widget, true);
-    if (row.widgetName.starts_with("opt")) {
-        for (const auto* option : {"optN2", "optN4"}) store.input().click(id(option));
-        if (row.widgetName == "optN2") store.input().click(id("optP2"));
-        if (row.widgetName == "optN4") store.input().click(id("optP4"));
+    if (Layout::describe(row.widget).style.kind == Widgets::Kind::option) {
+        for (const auto* lower : {&channel(2), &channel(4)}) {
+            store.input().click(lower->negative.option);
+            if (row.widget == lower->negative.option) store.input().click(lower->positive.option);
+        }
     }
     if (row.kind != Widgets::NotificationKind::tick) return;
-    for (const auto* slider : {"ZelvinSlider3", "ZelvinSlider6"})
-        store.input().slide(id(slider), 9);
-    for (const auto* timer : {"tmrVirtualTemp12", "tmrVirtualTemp34"}) {
-        store.enable(id(timer), row.widgetName == timer);
+    for (const auto& pair : Layout::kPairs) {
+        store.input().slide(pair.testSlider, 9);
+        store.enable(pair.testTimer, row.widget == pair.testTimer);
     }
 }
 
 void perform(Bench& bench, const BoundNotification& row) {
     Runtime::Store& store = bench.store();
     using enum Widgets::NotificationKind;
-    if (row.widgetName == "Combo1") return store.input().pick(row.widget, u"7");
+    if (row.widget == kCommon.amplifierIds) return store.input().pick(row.widget, u"7");
     if (row.kind == tick) return store.advance(std::chrono::milliseconds(1500));
     if (row.kind == change) return store.input().slide(row.widget, 9);
     if (row.kind == click) return store.input().click(row.widget);
@@ -136,7 +136,8 @@ TEST(FailureSweep, StopsEveryHandlerAtTheOperationThatFails) {
     Answering prompter;
     for (const BoundNotification& row : kNotifications) {
         if (row.widget == Layout::kNoWidget || !touchesWidgets(row)) continue;
-        sweep(std::string(row.widgetName), [&](Bench& bench, OperationLog& recorder) {
+        sweep(std::string(Layout::describe(row.widget).name), [&](Bench& bench,
+                                                                  OperationLog& recorder) {
             Long reported = 0;
             bench.store().promptWith(&prompter);
             bench.panel().setErrorHandler([&](const Error& error) { reported = error.number(); });

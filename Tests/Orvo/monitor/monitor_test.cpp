@@ -1,4 +1,5 @@
 #include "Orvo/monitor/volume.h"
+#include "Orvo/values/indexed.h"
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
@@ -8,31 +9,40 @@ using Monitor = PanelTest;
 
 TEST_F(Monitor, LightsExactlyTheLampOfAFlagAndIndex) {
     using I = MarvaneAssistantInterface;
+    using Lamps = std::vector<Widgets::WidgetId>;
     const struct {
         void (I::*set)(Integer, Boolean);
-        std::vector<std::string> lamps;  // from index 0
+        int first;
+        Lamps lamps;
     } kRows[] = {
-        {&I::Protection, {"Shape28", "Shape18", "Shape21", "Shape13", "Shape14"}},
-        {&I::Signal, {"", "Shape22", "Shape23", "Shape19", "Shape24"}},
-        {&I::Clock, {"", "Shape6", "Shape4"}},
-        {&I::Ready, {"", "Shape17", "Shape12"}},
+        {&I::Protection,
+         0,
+         {kCommon.protectionLamp, channel(1).protectionLamp, channel(2).protectionLamp,
+          channel(3).protectionLamp, channel(4).protectionLamp}},
+        {&I::Signal,
+         1,
+         {channel(1).signalLamp, channel(2).signalLamp, channel(3).signalLamp,
+          channel(4).signalLamp}},
+        {&I::Clock, 1, {pair(1).clockLamp, pair(2).clockLamp}},
+        {&I::Ready, 1, {pair(1).readyLamp, pair(2).readyLamp}},
     };
     const auto lit = [this] {
-        std::string names;
-        for (const auto& widget : Layout::kWidgets) {
-            const bool isLamp = widget.style.kind == Layout::Kind::shape && !widget.style.isSolid;
-            if (isLamp && isLit(widget.name)) names += widget.name;
+        Lamps lamps;
+        for (Widgets::WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
+            const auto& style = Layout::describe(id).style;
+            const bool isLamp = style.kind == Layout::Kind::shape && !style.isSolid;
+            if (isLamp && isLit({id})) lamps.push_back(id);
         }
-        return names;
+        return lamps;
     };
     for (const auto& row : kRows) {
         for (Integer index = -1; index <= 5; ++index) {
-            const bool isThere = index >= 0 && std::size_t(index) < row.lamps.size();
-            const std::string lamp = isThere ? row.lamps[std::size_t(index)] : "";
+            const auto* lamp = entry(row.lamps, index, row.first);
             (panel_.*row.set)(index, Boolean(Integer{1}));
-            EXPECT_EQ(lit(), lamp) << row.lamps.back() << ' ' << index;
+            EXPECT_EQ(lit(), lamp != nullptr ? Lamps{*lamp} : Lamps())
+                << row.lamps.back() << ' ' << index;
             (panel_.*row.set)(index, kFalse);
-            EXPECT_EQ(lit(), "") << row.lamps.back() << ' ' << index;
+            EXPECT_EQ(lit(), Lamps()) << row.lamps.back() << ' ' << index;
         }
     }
 }

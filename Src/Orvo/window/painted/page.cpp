@@ -54,8 +54,7 @@ bool Page::repaintWidget(WidgetId id) {
 
 QRect Page::placeOf(WidgetId speaker) const {
     QRect place = boundsOf(speaker);
-    if (Layout::describe(speaker).style.kind != Layout::Kind::digit) return place;
-    for (const WidgetId digit : readoutOf(speaker)) place = place.united(boundsOf(digit));
+    for (const WidgetId digit : digitsOf(speaker)) place = place.united(boundsOf(digit));
     return place;
 }
 

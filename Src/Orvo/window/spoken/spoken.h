@@ -1,7 +1,7 @@
 #pragma once
 
 #include <optional>
-#include <vector>
+#include <span>
 
 #include <QString>
 
@@ -22,8 +22,9 @@ std::optional<int> numberOf(const Runtime::Store& store, WidgetId id);
 /// "Protection channel 1: lit"; the name alone where there is no value.
 QString sentenceOf(const Runtime::Store& store, WidgetId id);
 
-/// The digits of the readout that a digit belongs to, the highest first.
-std::vector<WidgetId> readoutOf(WidgetId digit);
+/// The digits of the readout that a digit or a sign belongs to, the highest first; none for
+/// anything else.
+std::span<const Widgets::DigitRef> digitsOf(WidgetId part);
 
 /// The widget that speaks for this one: for a readout's sign and digits the first digit, else the
 /// widget itself.
