@@ -89,8 +89,7 @@ void drawRecesses(QPainter& painter) {
     const Layout::Pair& pair = Layout::pair(1);
     const Layout::Channel& upper = Layout::channel(1);
     const Layout::Channel& lower = Layout::channel(2);
-    // And around the Start button.
-    drawRecessAround(painter, pair.waves[0], {112, 108, 98}, {45, 60, 270, 60});
+    drawRecessAround(painter, pair.waves[0], {112, 108, 98}, {45, 60, 270, 60});  // and Start
     drawRecessAround(painter, upper.positive.option, {84, 64, 168}, {45, 60, 45, 60});
     drawRecessAround(painter, upper.volumeSlider, kEdge, {30, 30, 75, 30});
     drawRecessAround(painter, lower.volumeSlider, kEdge, {30, 30, 75, 30});

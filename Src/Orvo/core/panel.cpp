@@ -67,9 +67,8 @@ void Panel::start() {
     for (Integer channel = 1; channel <= std::ssize(kChannels); ++channel) {
         oscilloscope.drawAxes(channel);
     }
-    for (const Channel* first : {&channel(1), &channel(3)}) {
-        widgets[first->positive.option].setValue(true);
-    }
+    for (const OptionRef first : {channel(1).positive.option, channel(3).positive.option})
+        widgets[first].setValue(true);
     amplifierId.fillList();
     amplifierId.takeShownId();
     for (const Pair& pair : kPairs) widgets[pair.testSlider].setMaximum(kHighestTestTemperature);

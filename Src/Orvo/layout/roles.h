@@ -30,25 +30,6 @@ struct Input {
 
 namespace Detail {
 
-template <Kind kKind>
-constexpr Widgets::Ref<kKind> at(WidgetId id) {
-    if (describe(id).style.kind != kKind) throw "the widget is of another kind";
-    return {id};
-}
-
-template <Kind kKind>
-constexpr Widgets::ArrayRef<kKind> arrayOf(std::string_view name) {
-    Widgets::ArrayRef<kKind> array;
-    for (WidgetId id = 0; id < kWidgetCount; ++id) {
-        const std::string_view whole = describe(id).name;
-        if (!whole.starts_with(name) || !whole.substr(name.size()).starts_with('(')) continue;
-        array.ids[static_cast<std::size_t>(whole[name.size() + 1] - '0')] = at<kKind>(id);
-        ++array.count;
-    }
-    if (array.count == 0) throw "no widget array of this name";
-    return array;
-}
-
 // Becomes a reference of the kind that the role asks for.
 struct Named {
     std::string_view name;
@@ -57,11 +38,21 @@ struct Named {
     // NOLINTBEGIN(google-explicit-constructor)
     template <Kind kKind>
     constexpr operator Widgets::Ref<kKind>() const {
-        return at<kKind>(static_cast<WidgetId>(findWidget(name).value() + distance));
+        const auto id = static_cast<WidgetId>(findWidget(name).value() + distance);
+        if (describe(id).style.kind != kKind) throw "the widget is of another kind";
+        return {id};
     }
     template <Kind kKind>
     constexpr operator Widgets::ArrayRef<kKind>() const {
-        return arrayOf<kKind>(name);
+        Widgets::ArrayRef<kKind> array;
+        for (const Widget& widget : kWidgets) {
+            if (widget.name.substr(0, widget.name.find('(')) != name) continue;
+            const auto index = static_cast<std::size_t>(widget.name[name.size() + 1] - '0');
+            array.ids[index] = Widgets::Ref<kKind>(Named{widget.name});
+            ++array.count;
+        }
+        if (array.count == 0) throw "no widget array of this name";
+        return array;
     }
     // NOLINTEND(google-explicit-constructor)
 };

@@ -12,12 +12,12 @@ void StatusLamps::setProtection(Integer channel, Boolean value) {
     set(&Channel::protectionLamp, channel, value);
 }
 
-void StatusLamps::set(LampOf<Channel> lamp, Integer channel, Boolean value) {
+void StatusLamps::set(Widgets::ShapeRef Channel::*lamp, Integer channel, Boolean value) {
     const Channel* found = entry(kChannels, channel);
     if (found != nullptr) light(widgets_[found->*lamp], value);
 }
 
-void StatusLamps::set(LampOf<Pair> lamp, Integer pair, Boolean value) {
+void StatusLamps::set(Widgets::ShapeRef Pair::*lamp, Integer pair, Boolean value) {
     const Pair* found = entry(kPairs, pair);
     if (found != nullptr) light(widgets_[found->*lamp], value);
 }

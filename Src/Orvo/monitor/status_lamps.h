@@ -6,10 +6,6 @@
 
 namespace Orvo {
 
-/// One of the lamps of a channel or a pair: `&Layout::Pair::clockLamp`.
-template <class Part>
-using LampOf = Widgets::ShapeRef Part::*;
-
 /// The lamps that show one flag each: protection and signal presence of a channel, clock and ready
 /// of a pair. An index without a lamp is passed over.
 class StatusLamps {
@@ -18,8 +14,8 @@ public:
 
     /// Channel 1 to 4, or 0 for the whole amplifier.
     void setProtection(Integer channel, Boolean value);
-    void set(LampOf<Layout::Channel> lamp, Integer channel, Boolean value);
-    void set(LampOf<Layout::Pair> lamp, Integer pair, Boolean value);
+    void set(Widgets::ShapeRef Layout::Channel::*lamp, Integer channel, Boolean value);
+    void set(Widgets::ShapeRef Layout::Pair::*lamp, Integer pair, Boolean value);
 
 private:
     Widgets::WidgetTree& widgets_;

@@ -10,27 +10,27 @@ namespace {
 using namespace Widgets;
 using namespace Layout;
 
-constexpr ComboRef kIds = kCommon.amplifierIds;
 constexpr Integer kHighestId = 99;
 constexpr Integer kCarriageReturn = 13;
 
 }  // namespace
 
 void AmplifierId::fillList() {
-    for (Integer id = 1; id <= kHighestId; ++id) widgets_[kIds].addItem(decimalText(id));
+    for (Integer id = 1; id <= kHighestId; ++id)
+        widgets_[kCommon.amplifierIds].addItem(decimalText(id));
 }
 
 void AmplifierId::takeShownId() {
-    intIdDevice = roundToInteger(numericValue(widgets_[kIds].text()));
+    intIdDevice = roundToInteger(numericValue(widgets_[kCommon.amplifierIds].text()));
 }
 
 void AmplifierId::set(Integer id) {
     intIdDevice = id;
-    widgets_[kIds].setText(decimalText(id));
+    widgets_[kCommon.amplifierIds].setText(decimalText(id));
 }
 
 void AmplifierId::picked() {
-    const double shown = numericValue(widgets_[kIds].text());
+    const double shown = numericValue(widgets_[kCommon.amplifierIds].text());
     if (shown == intIdDevice) return;
     intIdDevice = roundToInteger(shown);
     for (const Pair& pair : kPairs) widgets_[pair.amplifierId].setCaption(decimalText(intIdDevice));

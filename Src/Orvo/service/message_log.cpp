@@ -3,14 +3,9 @@
 #include "Orvo/layout/roles.h"
 
 namespace Orvo {
-namespace {
 
-constexpr Widgets::ListRef kLog = Layout::kCommon.log;
+void MessageLog::add(const String& line) { widgets_[Layout::kCommon.log].addItem(line); }
 
-}  // namespace
-
-void MessageLog::add(const String& line) { widgets_[kLog].addItem(line); }
-
-void MessageLog::clear() { widgets_[kLog].clear(); }
+void MessageLog::clear() { widgets_[Layout::kCommon.log].clear(); }
 
 }  // namespace Orvo

@@ -18,10 +18,13 @@ protected:
         return lines;
     }
 
-    [[nodiscard]] Lines lit(const Channel& channel) const {
-        Lines lines = linesOf(channel.positive);
-        lines.merge(linesOf(channel.negative));
-        lines.insert(channel.output);
+    [[nodiscard]] Lines litOf(std::size_t pair) const {
+        Lines lines;
+        for (const Channel& channel : std::span(Layout::kChannels).subspan(2 * pair, 2)) {
+            lines.merge(linesOf(channel.positive));
+            lines.merge(linesOf(channel.negative));
+            lines.insert(channel.output);
+        }
         std::erase_if(lines, [this](auto id) {
             const auto& line = store_.get<Runtime::StoredLine>(id);
             return !line.isVisible() || line.state().colour != rgb(255, 255, 255);
@@ -37,18 +40,15 @@ TEST_F(Routing, HighlightsOneRouteOfItsPairAndLeavesTheOtherPairAlone) {
     } kRows[] = {{0, &Channel::negative}, {1, &Channel::positive}, {1, &Channel::negative},
                  {0, &Channel::positive}, {2, &Channel::negative}, {3, &Channel::positive},
                  {3, &Channel::negative}, {2, &Channel::positive}};
-    const auto& all = Layout::kChannels;
-    for (const auto& row : kRows) {
-        const Input& input = all[row.channel].*row.input;
-        SCOPED_TRACE(Layout::describe(input.option).name);
-        const std::size_t other = (row.channel + 2) % 4;
-        const std::array before{lit(all[other]), lit(all[other ^ 1U])};
-        person_.click(input.option);
-        Lines expected = linesOf(input);
-        expected.insert(all[row.channel].output);
-        EXPECT_EQ(lit(all[row.channel]), expected);
-        EXPECT_EQ(lit(all[row.channel ^ 1U]), Lines());
-        EXPECT_EQ((std::array{lit(all[other]), lit(all[other ^ 1U])}), before);
+    for (const auto& [channel, input] : kRows) {
+        const Input& chosen = Layout::kChannels[channel].*input;
+        SCOPED_TRACE(Layout::describe(chosen.option).name);
+        const Lines other = litOf(1 - channel / 2);
+        person_.click(chosen.option);
+        Lines expected = linesOf(chosen);
+        expected.insert(Layout::kChannels[channel].output);
+        EXPECT_EQ(litOf(channel / 2), expected);
+        EXPECT_EQ(litOf(1 - channel / 2), other);
     }
 }
 

@@ -10,22 +10,6 @@ using Monitor = PanelTest;
 TEST_F(Monitor, LightsExactlyTheLampOfAFlagAndIndex) {
     using I = MarvaneAssistantInterface;
     using Lamps = std::vector<Widgets::WidgetId>;
-    const struct {
-        void (I::*set)(Integer, Boolean);
-        int first;
-        Lamps lamps;
-    } kRows[] = {
-        {&I::Protection,
-         0,
-         {kCommon.protectionLamp, channel(1).protectionLamp, channel(2).protectionLamp,
-          channel(3).protectionLamp, channel(4).protectionLamp}},
-        {&I::Signal,
-         1,
-         {channel(1).signalLamp, channel(2).signalLamp, channel(3).signalLamp,
-          channel(4).signalLamp}},
-        {&I::Clock, 1, {pair(1).clockLamp, pair(2).clockLamp}},
-        {&I::Ready, 1, {pair(1).readyLamp, pair(2).readyLamp}},
-    };
     const auto lit = [this] {
         Lamps lamps;
         for (Widgets::WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
@@ -35,15 +19,20 @@ TEST_F(Monitor, LightsExactlyTheLampOfAFlagAndIndex) {
         }
         return lamps;
     };
-    for (const auto& row : kRows) {
-        for (Integer index = -1; index <= 5; ++index) {
-            const auto* lamp = entry(row.lamps, index, row.first);
-            (panel_.*row.set)(index, Boolean(Integer{1}));
-            EXPECT_EQ(lit(), lamp != nullptr ? Lamps{*lamp} : Lamps())
-                << row.lamps.back() << ' ' << index;
-            (panel_.*row.set)(index, kFalse);
-            EXPECT_EQ(lit(), Lamps()) << row.lamps.back() << ' ' << index;
-        }
+    for (Integer index = -1; index <= 5; ++index) {
+        const auto expectLit = [&](void (I::*set)(Integer, Boolean), const Lamps& lamps) {
+            (panel_.*set)(index, Boolean(Integer{1}));
+            EXPECT_EQ(lit(), lamps) << index;
+            (panel_.*set)(index, kFalse);
+            EXPECT_EQ(lit(), Lamps()) << index;
+        };
+        const auto* of = entry(Layout::kChannels, index);
+        const auto* its = entry(Layout::kPairs, index);
+        const Lamps all = index == 0 ? Lamps{kCommon.protectionLamp} : Lamps();
+        expectLit(&I::Protection, channel != nullptr ? Lamps{channel->protectionLamp} : all);
+        expectLit(&I::Signal, channel != nullptr ? Lamps{channel->signalLamp} : Lamps());
+        expectLit(&I::Clock, pair != nullptr ? Lamps{pair->clockLamp} : Lamps());
+        expectLit(&I::Ready, pair != nullptr ? Lamps{pair->readyLamp} : Lamps());
     }
 }
 

@@ -54,7 +54,9 @@ bool Page::repaintWidget(WidgetId id) {
 
 QRect Page::placeOf(WidgetId speaker) const {
     QRect place = boundsOf(speaker);
-    for (const WidgetId digit : digitsOf(speaker)) place = place.united(boundsOf(digit));
+    const Layout::Readout* readout = readoutWith(speaker);
+    if (readout == nullptr) return place;
+    for (const WidgetId digit : readout->digits()) place = place.united(boundsOf(digit));
     return place;
 }
 

@@ -11,10 +11,8 @@ namespace Orvo::Window {
 
 namespace {
 
-QKeySequence shortcutOf(Widgets::WidgetId id) { return {keysOf(id)}; }
-
 QString tipOf(const Runtime::Store& store, Widgets::WidgetId id) {
-    const QString keys = shortcutOf(id).toString(QKeySequence::NativeText);
+    const QString keys = QKeySequence(keysOf(id)).toString(QKeySequence::NativeText);
     const QString sentence = sentenceOf(store, id);
     return keys.isEmpty() ? sentence : sentence + " (" + keys + ")";
 }
@@ -24,7 +22,7 @@ QString tipOf(const Runtime::Store& store, Widgets::WidgetId id) {
 void describeTo(QWidget& control, Widgets::WidgetId id) {
     control.setAccessibleName(nameOf(id));
     if (auto* button = qobject_cast<QAbstractButton*>(&control))
-        button->setShortcut(shortcutOf(id));
+        button->setShortcut(QKeySequence(keysOf(id)));
 }
 
 void tellValueTo(QWidget& control, const Runtime::Store& store, Widgets::WidgetId id) {

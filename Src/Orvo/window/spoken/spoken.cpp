@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 
-#include "Orvo/layout/roles.h"
 #include "Orvo/monitor/volume.h"
 #include "Orvo/values/indexed.h"
 #include "Orvo/window/drawing/slider_track.h"
@@ -39,14 +38,6 @@ constexpr auto kReadouts = joined(
            }),
     ofEach(Layout::kChannels, [](Integer, const auto& its) { return std::array{&its.volume}; }));
 
-// Null for what is no part of a readout.
-const Layout::Readout* readoutWith(WidgetId part) {
-    const auto* found = std::ranges::find_if(kReadouts, [part](const Layout::Readout* readout) {
-        return readout->sign == part || std::ranges::count(readout->digits(), part) > 0;
-    });
-    return found != kReadouts.end() ? *found : nullptr;
-}
-
 std::optional<int> numberOn(const Runtime::Store& store, const Layout::Readout& readout) {
     int number = 0;
     for (const WidgetId id : readout.digits()) {
@@ -72,14 +63,16 @@ QString textOf(const Runtime::Store& store, WidgetId label) {
 
 }  // namespace
 
-std::span<const Widgets::DigitRef> digitsOf(WidgetId part) {
-    const Layout::Readout* readout = readoutWith(part);
-    return readout != nullptr ? readout->digits() : std::span<const Widgets::DigitRef>();
+const Layout::Readout* readoutWith(WidgetId part) {
+    const auto* found = std::ranges::find_if(kReadouts, [part](const Layout::Readout* readout) {
+        return readout->sign == part || std::ranges::count(readout->digits(), part) > 0;
+    });
+    return found != kReadouts.end() ? *found : nullptr;
 }
 
 WidgetId speakerOf(WidgetId id) {
-    const auto digits = digitsOf(id);
-    return digits.empty() ? id : digits.front();
+    const Layout::Readout* readout = readoutWith(id);
+    return readout != nullptr ? readout->places[0].id : id;
 }
 
 int measureAt(WidgetId slider, int position) {
