@@ -3,7 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "Orvo/core/marvane_assistant.h"
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
 
 // Times mean little on a machine that others use too. Compare the rows of one run: a trace with the
@@ -47,7 +47,7 @@ void trace(benchmark::State& state) {
 // What the same trace costs when every segment is an operation of its own.
 void traceInSegments(benchmark::State& state) {
     Bench bench;
-    auto& surface = (*bench.store)[Layout::pictureRef("Picture1")];
+    auto& surface = (*bench.store)[Layout::channel(1).scope];
     const auto count = state.range(0);
     for ([[maybe_unused]] auto _ : state) {
         bench.panel.DisegnaAssi(1);

@@ -109,7 +109,7 @@ consteval auto commandTable() {
         command<H::events>                   ("events",    host,    "Lists the events: dispatch id, name, arguments."),
         command<H::on, kEvent, kNested>      ("on",        host,    "From now on the host answers the event with this command; several for one event run in the order given."),
         command<H::off, kEvent>              ("off",       host,    "Forgets the commands given for the event."),
-        command<H::renew>                    ("new",       host,    "Releases the panel and creates a fresh one; forgets what `on`, `answer`, `meanwhile`, `set` and `spooler` have said."),
+        command<H::renew>                    ("new",       host,    "Releases the panel and creates a fresh one; forgets what `on`, `answer`, `meanwhile` and `set` have said."),
 
         deed<Do::click, kOnScreen, kButton>  ("click",              "A mouse button, the left one unless another is named, is pressed and released over the widget."),
         deed<Do::release, kOnScreen, kButton>("release",            "The button is pressed on the widget, dragged off it and released: no click, but the widget gets the release."),

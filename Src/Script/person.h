@@ -21,8 +21,8 @@ public:
 
     /// Writes a PNG picture of the panel. Throws Error when that fails, or there is no window.
     virtual void shoot(const String& file);
-    /// The ports that the print spooler has until the panel is exchanged; without any its
-    /// enumeration fails. Throws Error where the spooler is a machine's.
+    /// The ports that the print spooler has from now on; without any its enumeration fails. Throws
+    /// Error where the spooler is a machine's.
     virtual void connectPorts(Runtime::Ports ports);
 };
 

@@ -14,17 +14,15 @@ public:
     Runtime::Ports ports;  // NOLINT(*-non-private-member-variables-in-classes)
 };
 
+StorePanel::StorePanel() : spooler_(std::make_shared<Spooler>()) { exchange(); }
+
 void StorePanel::connectPorts(Runtime::Ports ports) { spooler_->ports = std::move(ports); }
 
+// A panel that can't be made leaves the present one.
 void StorePanel::exchange() {
-    panel_.reset();
-    make();
-}
-
-void StorePanel::make() {
-    store_ = Runtime::Store::create();
-    spooler_ = std::make_shared<Spooler>();
-    panel_ = std::make_unique<MarvaneAssistant>(store_, Platform{.spooler = spooler_});
+    auto store = Runtime::Store::create();
+    panel_ = std::make_unique<MarvaneAssistant>(store, Platform{.spooler = spooler_});
+    store_ = std::move(store);
 }
 
 }  // namespace Orvo::Script

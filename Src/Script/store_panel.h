@@ -10,7 +10,7 @@ namespace Orvo::Script {
 /// A panel on the store alone: no window, and a clock that only the person's waiting moves.
 class StorePanel final : public PanelOwner, public Person {
 public:
-    StorePanel() { make(); }
+    StorePanel();
 
     MarvaneAssistant& panel() override { return *panel_; }
     Runtime::Store& store() override { return *store_; }
@@ -20,10 +20,9 @@ private:
     class Spooler;
 
     void exchange() override;
-    void make();
 
     std::shared_ptr<Runtime::Store> store_;
-    std::shared_ptr<Spooler> spooler_;
+    std::shared_ptr<Spooler> spooler_;  // the machine's: a fresh panel has the same
     std::unique_ptr<MarvaneAssistant> panel_;
 };
 

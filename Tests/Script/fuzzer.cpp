@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvo/layout/roles.h"
 #include "Script/looking.h"
 #include "Script/session.h"
 #include "Script/store_panel.h"
@@ -95,8 +96,7 @@ std::string stateOf(StorePanel& panel) {
     }
     keep(std::to_string(widgets.now().count()));
     keep(std::to_string(static_cast<int>(widgets.pointer())));
-    for (const String& item :
-         widgets.get<Runtime::StoredList>(Layout::listRef("List1").id).state().items) {
+    for (const String& item : widgets.get<Runtime::StoredList>(Layout::kCommon.log).state().items) {
         keep(textOf(StringView(item)));
     }
     return state;

@@ -24,7 +24,7 @@ protected:
         return text.substr(text.find('\n') + 1);
     }
 
-    void enterInformation() { person().type(id("List1"), 18); }
+    void enterInformation() { person().type(kCommon.log, 18); }
 
     TemporaryDirectory directory_;
     std::string file_ = directory_.path() / "record.txt";
@@ -47,20 +47,20 @@ TEST_F(RecorderTest, WhatIsTypedAtPromptsStandsBeforeTheirCauseOrIsKeptSecret) {
 
 TEST_F(RecorderTest, WritesWhatThePersonDoesAndThePanelTakes) {
     const std::string text = recorded(Answers::inFull, [this] {
-        person().press(id("Command12"));
+        person().press(channel(1).muteButton);
         store().advance(70ms);
-        person().release(id("Command12"));
-        person().press(id("cmdOnOff"), MouseButton::right);
-        person().release(id("cmdOnOff"), MouseButton::right, ReleasedWhere::elsewhere);
-        person().press(id("ZelvinSlider2"));
-        person().move(id("ZelvinSlider2"), 999);
-        person().move(id("ZelvinSlider2"), 999);
-        person().release(id("ZelvinSlider2"));
-        person().drop(id("ZelvinSlider2"));
-        person().selectTab(id("SSTab1"), 7);
-        person().pick(id("Combo1"), u"no such item");
-        store().enable(id("cmdOnOff"), false);
-        click("cmdOnOff");
+        person().release(channel(1).muteButton);
+        person().press(kCommon.powerButton, MouseButton::right);
+        person().release(kCommon.powerButton, MouseButton::right, ReleasedWhere::elsewhere);
+        person().press(channel(2).volumeSlider);
+        person().move(channel(2).volumeSlider, 999);
+        person().move(channel(2).volumeSlider, 999);
+        person().release(channel(2).volumeSlider);
+        person().drop(channel(2).volumeSlider);
+        person().selectTab(kTabs, 7);
+        person().pick(kCommon.amplifierIds, u"no such item");
+        store().enable(kCommon.powerButton, false);
+        click(kCommon.powerButton);
     });
     EXPECT_EQ(text,
               "wait 70\nclick Command12\n# event Mute 1\nrelease cmdOnOff right\n"
@@ -73,7 +73,7 @@ TEST_F(RecorderTest, GoesOnWithAFreshPanel) {
         store().advance(5ms);
         owner_.renew();
         panel().Mute(1, true);
-        click("Command12");
+        click(channel(1).muteButton);
     });
     EXPECT_EQ(text, "wait 5\nnew\nlet Mute 1 -1\nclick Command12\n# event Mute 1\n");
 }
@@ -84,7 +84,7 @@ TEST_F(RecorderTest, CallsOfAHandlerAreMadeMeanwhile) {
             panel().Mute(1, true);
             EXPECT_THROW(panel().VNPower(1, -5), Error);
         });
-        click("Command12");
+        click(channel(1).muteButton);
     });
     EXPECT_EQ(text,
               "meanwhile let Mute 1 -1\nmeanwhile let VNPower 1 -5\n"
@@ -95,7 +95,7 @@ TEST_F(RecorderTest, AFullDiskIsComplainedOfOnceAndStopsNobodyElse) {
     testing::internal::CaptureStderr();
     {
         const Recorder recorder("/dev/full", owner_, Answers::inFull);
-        for (int i = 0; i < 3; ++i) click("Command12");
+        for (int i = 0; i < 3; ++i) click(channel(1).muteButton);
         panel().Mute(1, true);
     }
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
@@ -140,8 +140,8 @@ TEST_F(ReplayTest, ATicksHandlerStopsTheTimerThatComesNext) {
         if (++ticks > 0) panel().TimerVirtualTemp34(false);
     };
     expectSameReplay(handler, [this] {
-        person().slide(id("ZelvinSlider3"), 40);
-        person().slide(id("ZelvinSlider6"), 60);
+        person().slide(pair(1).testSlider, 40);
+        person().slide(pair(2).testSlider, 60);
         store().advance(20s);
     });
 }
@@ -153,16 +153,16 @@ TEST_F(ReplayTest, AnEventThatIsRaisedAgainIsAnsweredAnew) {
     const auto handler = [&] {
         if (++count % 3 == 0) return;
         panel().Mute(1, count % 2 == 0);
-        if (count % 5 == 0) person().slide(id("ZelvinSlider2"), count);
+        if (count % 5 == 0) person().slide(channel(2).volumeSlider, count);
         panel().AggiugiTesto(String(std::size_t(count), u'x'));
     };
     expectSameReplay(handler, [this] {
-        person().slide(id("ZelvinSlider3"), 40);
-        person().slide(id("ZelvinSlider6"), 60);
+        person().slide(pair(1).testSlider, 40);
+        person().slide(pair(2).testSlider, 60);
         for (int position = 1; position < 20; ++position) {
-            person().slide(id("ZelvinSlider1"), position);
-            click("Command12");
-            person().activate(id(position % 2 == 0 ? "optEIAJ_ch12" : "optLineIn12"));
+            person().slide(channel(1).volumeSlider, position);
+            click(channel(1).muteButton);
+            person().activate(position % 2 == 0 ? pair(1).waves[3] : pair(1).waves[4]);
             store().advance(7777ms);
         }
     });
@@ -189,13 +189,13 @@ TEST_F(ReplayTest, WhatIsDoneUnderAPromptComesBeforeItsAnswerBeItSecretOrNot) {
         BusyTypist typist([&] {
             panel().IdDevice(++deviceId);
             store().advance(1500ms);
-            click("Command12");
+            click(channel(1).muteButton);
             panel().Volume(2, deviceId);
         });
         store().promptWith(&typist);
         const auto act = [this] {
             enterInformation();
-            click("Command12");
+            click(channel(1).muteButton);
         };
         expectSameReplay([this] { panel().Mute(1, !panel().Mute(1)); }, act, answers);
         store().promptWith(nullptr);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Orvo/layout/roles.h"
 #include "Script/store_panel.h"
 #include "Script/text_of.h"
 
@@ -44,7 +45,7 @@ TEST_F(SessionTest, EventsThatNoCommandCausedAreAnsweredToo) {
     Lines answers;
     Session session(panel, panel, {}, [&](std::string_view line) { answers.emplace_back(line); });
     session.run("on Mute get PowerOn");
-    panel.store().input().click(*Layout::findWidget("Command12"));
+    panel.store().input().click(Orvo::Layout::channel(1).muteButton);
     EXPECT_EQ(answers, (Lines{"ok", "event Mute 1", "  = 0"}));
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "Script/store_panel.h"
 #include "Support/bench.h"
 
@@ -13,10 +11,9 @@ protected:
     MarvaneAssistant& panel() { return owner_.panel(); }
     Runtime::Store& store() { return owner_.store(); }
     Runtime::UserInput& person() { return store().input(); }
-    void click(std::string_view widget) { person().click(id(widget)); }
-    bool isLit(std::string_view shape) {
-        return store().get<Runtime::StoredShape>(id(shape)).fillStyle() ==
-               Widgets::FillStyle::solid;
+    void click(Widgets::WidgetId widget) { person().click(widget); }
+    bool isLit(Widgets::ShapeRef lamp) {
+        return store().get<Runtime::StoredShape>(lamp).state().isLit();
     }
 
     Script::StorePanel owner_;

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "Manager/Link/link_device.h"
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -16,7 +16,6 @@ namespace {
 using namespace std::chrono_literals;
 
 // Read-only mode takes it away from the person.
-constexpr auto kPowerButton = Layout::buttonRef("cmdOnOff");
 
 // Why a file can't be opened this way, if it can't.
 std::optional<std::string> obstacle(const std::string& file, std::ios::openmode mode) {
@@ -160,7 +159,7 @@ void ManagerSession::endReplayThatIsOver() {
 }
 
 bool ManagerSession::isReadOnly() const {
-    return !owner_.store().widget(kPowerButton.id).isEnabled();
+    return !owner_.store().widget(Layout::kCommon.powerButton).isEnabled();
 }
 
 }  // namespace Orvo::Manager

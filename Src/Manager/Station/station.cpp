@@ -2,15 +2,9 @@
 
 #include <utility>
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo::Manager {
-namespace {
-
-constexpr auto kLinkLamp = Layout::shapeRef("shpConnected");
-
-}  // namespace
-
 Station::Station(Script::PanelOwner& owner)
     : owner_(owner), renewalsBeforeDevice_(owner.onRenewed([this] { panelRenewed(); })) {
     hearBeforeDevice();
@@ -71,7 +65,7 @@ void Station::advance(Milliseconds elapsed) {
 }
 
 Situation Station::situation() const {
-    const auto& lamp = owner_.store().get<Runtime::StoredShape>(kLinkLamp.id);
+    const auto& lamp = owner_.store().get<Runtime::StoredShape>(Layout::kCommon.linkLamp);
     return {.connectedTo = isConnected() ? device_->name() : "",
             .isLinkUp = lamp.fillStyle() == Widgets::FillStyle::solid,
             .silence = isConnected() ? device_->sinceLastWord() : std::nullopt,

@@ -5,7 +5,7 @@
 
 #include "Orvo/generator/grid.h"
 #include "Orvo/generator/trace.h"
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
@@ -19,7 +19,7 @@ constexpr bool isChannel(Integer channel) { return channel >= 1 && channel <= kC
 constexpr std::size_t at(Integer channel) { return static_cast<std::size_t>(channel - 1); }
 
 constexpr int kPictureHeight =
-    Layout::describe(Layout::pictureRef("Picture1").id).place.height / Layout::kTwipsPerPixel;
+    Layout::describe(Layout::channel(1).scope).place.height / Layout::kTwipsPerPixel;
 constexpr float kSurfaceHeight = kPictureHeight - 2 * Runtime::kPictureBorder;
 
 double voltsOf(Integer sample) {

@@ -7,6 +7,7 @@
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/shortcuts.h"
 #include "Manager/Window/zoom.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
 
 // What the menus command.
@@ -14,7 +15,6 @@ namespace Orvo::Manager {
 namespace {
 
 constexpr auto kFullScreenHint = "F11 leaves full screen";
-constexpr auto kMessageLog = Layout::listRef("List1");
 
 QString channelName(Integer channel) { return "channel-" + QString::number(channel); }
 
@@ -42,8 +42,8 @@ void ManagerWindow::saveTrace(Integer channel) {
 
 QString ManagerWindow::messageLog() const {
     QStringList lines;
-    for (const String& line :
-         panel_->store().get<Runtime::StoredList>(kMessageLog.id).state().items) {
+    const auto& log = panel_->store().get<Runtime::StoredList>(Layout::kCommon.log);
+    for (const String& line : log.state().items) {
         lines += QString::fromUtf16(line.data(), qsizetype(line.size()));
     }
     return lines.join('\n');

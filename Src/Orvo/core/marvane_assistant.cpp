@@ -152,7 +152,8 @@ void MarvaneAssistant::Protection(Integer intChannel, Boolean blnValue) {
 }
 
 void MarvaneAssistant::Signal(Integer intChannel, Boolean blnValue) {
-    call<"Signal", &Panel::statusLamps, &StatusLamps::setSignal>(panel_, intChannel, blnValue);
+    call<"Signal", &Panel::statusLamps, &StatusLamps::setChannel, &Layout::Channel::signalLamp>(
+        panel_, intChannel, blnValue);
 }
 
 void MarvaneAssistant::AbilitaSlave(Boolean blnAbilita) {
@@ -168,31 +169,33 @@ void MarvaneAssistant::IdDevice(Integer intIdDevice) {
 }
 
 void MarvaneAssistant::VPPower(Integer intChannel, Integer intValue) {
-    call<"VPPower", &Panel::railReadouts, &RailReadouts::set, Rail::positivePower>(
+    call<"VPPower", &Panel::railReadouts, &RailReadouts::set, &Layout::Pair::positivePower>(
         panel_, intChannel, intValue);
 }
 
 void MarvaneAssistant::VPAux(Integer intChannel, Integer intValue) {
-    call<"VPAux", &Panel::railReadouts, &RailReadouts::set, Rail::positiveAux>(panel_, intChannel,
-                                                                               intValue);
+    call<"VPAux", &Panel::railReadouts, &RailReadouts::set, &Layout::Pair::positiveAux>(
+        panel_, intChannel, intValue);
 }
 
 void MarvaneAssistant::Clock(Integer intChannel, Boolean blnValue) {
-    call<"Clock", &Panel::statusLamps, &StatusLamps::setClock>(panel_, intChannel, blnValue);
+    call<"Clock", &Panel::statusLamps, &StatusLamps::setPair, &Layout::Pair::clockLamp>(
+        panel_, intChannel, blnValue);
 }
 
 void MarvaneAssistant::Ready(Integer intChannel, Boolean blnValue) {
-    call<"Ready", &Panel::statusLamps, &StatusLamps::setReady>(panel_, intChannel, blnValue);
+    call<"Ready", &Panel::statusLamps, &StatusLamps::setPair, &Layout::Pair::readyLamp>(
+        panel_, intChannel, blnValue);
 }
 
 void MarvaneAssistant::VNPower(Integer intChannel, Integer intValue) {
-    call<"VNPower", &Panel::railReadouts, &RailReadouts::set, Rail::negativePower>(
+    call<"VNPower", &Panel::railReadouts, &RailReadouts::set, &Layout::Pair::negativePower>(
         panel_, intChannel, intValue);
 }
 
 void MarvaneAssistant::VNAux(Integer intChannel, Integer intValue) {
-    call<"VNAux", &Panel::railReadouts, &RailReadouts::set, Rail::negativeAux>(panel_, intChannel,
-                                                                               intValue);
+    call<"VNAux", &Panel::railReadouts, &RailReadouts::set, &Layout::Pair::negativeAux>(
+        panel_, intChannel, intValue);
 }
 
 Boolean MarvaneAssistant::PowerOn() {

@@ -73,6 +73,11 @@ void PanelScreen::setZoom(double zoom) {
     layOut();
 }
 
+QWidget* PanelScreen::control(WidgetId widget) const {
+    if (widget == kTabs) return tabs_;
+    return controls_[widget] != nullptr ? &controls_[widget]->self() : nullptr;
+}
+
 void PanelScreen::layOut() {
     setFixedSize(scale_.panelSize());
     tabs_->layOut(scale_);

@@ -114,10 +114,10 @@ protected:
 TEST_F(LinkTest, ASocketCarriesCommandsAnswersAndEvents) {
     goOnline();
     EXPECT_EQ(ask("let Connected true\r\nget Mute 1\n"), "ok\n= 0\n");
-    EXPECT_TRUE(isLit("shpConnected"));
+    EXPECT_TRUE(isLit(kCommon.linkLamp));
     EXPECT_TRUE(station_.situation().isLinkUp);
     ask("on Mute let Mute 1 true\n");
-    click("Command12");
+    click(channel(1).muteButton);
     station_.advance(25ms);
     EXPECT_EQ(received(), "event Mute 1\n  ok\n");
     EXPECT_EQ(panel().Mute(1), Boolean(true));
@@ -127,10 +127,10 @@ TEST_F(LinkTest, APipeBringsCommands) {
     openPipe();
     send("let Connected true\n");
     station_.advance(25ms);
-    EXPECT_TRUE(isLit("shpConnected"));
+    EXPECT_TRUE(isLit(kCommon.linkLamp));
     hangUp();
     station_.advance(25ms);
-    EXPECT_FALSE(isLit("shpConnected"));
+    EXPECT_FALSE(isLit(kCommon.linkLamp));
 }
 
 TEST_F(LinkTest, ATerminalCarriesCommandsAndAnswers) {
@@ -149,14 +149,14 @@ TEST_F(LinkTest, ABreakShowsAndTheLinkComesBackFresh) {
     ask("let Connected true\non Mute get Mute 1\nlet Volume 1 -2");
     hangUp();
     station_.advance(25ms);
-    EXPECT_FALSE(isLit("shpConnected"));
+    EXPECT_FALSE(isLit(kCommon.linkLamp));
     EXPECT_TRUE(station_.situation().connectedTo.ends_with("(not there)"));
     station_.advance(999ms);
     EXPECT_LT(::accept(listener_, nullptr, nullptr), 0);
     station_.advance(25ms);
     pickUp();
     EXPECT_EQ(ask("get Mute 1\n"), "= 0\n");
-    click("Command12");
+    click(channel(1).muteButton);
     station_.advance(25ms);
     EXPECT_EQ(received(), "event Mute 1\n");
 }
@@ -211,7 +211,7 @@ TEST_F(LinkTest, TheLongestTraceIsOneLine) {
         station_.advance(25ms);
     }
     EXPECT_EQ(awaited("ok\n"), "ok\n");
-    click("Command12");
+    click(channel(1).muteButton);
     EXPECT_EQ(awaited("  ok\n"), "event Mute 1\n  ok\n");
     EXPECT_EQ(station_.traces().samples(1).bounds().upper, 32767);
 }
@@ -234,9 +234,9 @@ TEST_F(LinkTest, MayAskForAFreshPanelAlsoWhileItAnswersTheOldOne) {
     goOnline();
     EXPECT_EQ(ask("let Mute 1 true\nnew\nget Mute 1\n"), "ok\nok\n= 0\n");
     EXPECT_EQ(ask("on OnOff new\nlet Mute 2 true\n"), "ok\nok\n");
-    click("cmdOnOff");
+    click(kCommon.powerButton);
     EXPECT_EQ(ask("get Mute 2\n"), "event OnOff\n  ok\n= 0\n");
-    click("cmdReadInData");
+    click(kCommon.internalDataButton);
     EXPECT_EQ(ask("\n"), "event DownLoad\n") << "the fresh panel's buttons";
 }
 
@@ -245,7 +245,7 @@ TEST_F(LinkTest, WhoeverReadsNothingIsCutOff) {
     ask("on Mute members\n");
     bool isCutOff = false;
     for (int i = 0; i < 20'000 && !isCutOff; ++i) {
-        click("Command12");
+        click(channel(1).muteButton);
         if (i % 50 == 0) station_.advance(1ms);
         isCutOff = station_.situation().connectedTo.ends_with("(not there)");
     }

@@ -48,19 +48,21 @@ TEST_F(SessionTest, AReplayHasTheSameEventsAndEndsInTheSameState) {
     store().promptWith(&typist);
     session_->connectSimulator();
     session_->letPass(2s);
-    for (const char* widget : {"Command12", "cmdGo12", "cmdGo34", "cmdReadInData"}) {
+    for (const Widgets::WidgetId widget : std::initializer_list<Widgets::WidgetId>{
+             channel(1).muteButton, pair(1).startButton, pair(2).startButton,
+             kCommon.internalDataButton}) {
         click(widget);
         session_->letPass(333ms);
     }
-    person().press(id("ZelvinSlider1"));
+    person().press(channel(1).volumeSlider);
     for (int position = 5; position < 20; position += 3) {
-        person().move(id("ZelvinSlider1"), position);
+        person().move(channel(1).volumeSlider, position);
         session_->letPass(40ms);
     }
-    person().release(id("ZelvinSlider1"), Runtime::MouseButton::left,
+    person().release(channel(1).volumeSlider, Runtime::MouseButton::left,
                      Runtime::ReleasedWhere::elsewhere);
-    person().slide(id("ZelvinSlider3"), 9);
-    person().type(id("List1"), 18);
+    person().slide(pair(1).testSlider, 9);
+    person().type(kCommon.log, 18);
     session_->simulator()->set(Simulator::Fault::mainsFailure, true);
     // Late by far: the timers tick as often as they came due.
     session_->letPass(7s);
@@ -81,15 +83,16 @@ TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
     session_->connectSimulator();
     session_->letPass(2s);
     session_->startRecording(file_);
-    EXPECT_FALSE(isLit("shpConnected")) << "a fresh panel";
-    for (const char* widget : {"Command12", "cmdGo12", "cmdReadInData"}) {
+    EXPECT_FALSE(isLit(kCommon.linkLamp)) << "a fresh panel";
+    for (const Widgets::WidgetId widget : std::initializer_list<Widgets::WidgetId>{
+             channel(1).muteButton, pair(1).startButton, kCommon.internalDataButton}) {
         session_->letPass(1s);
         click(widget);
     }
     session_->letPass(1s);
     EXPECT_EQ(panel().Mute(1), kTrue);
     session_->stopRecording();
-    click("Command11");
+    click(channel(2).muteButton);
     session_->station().log().clear();
     session_->startReplay(file_);
     EXPECT_EQ(panel().Mute(1), kFalse);
@@ -172,9 +175,9 @@ TEST_F(SessionTest, AnErrorThatNoCallerWaitsForIsAmongTheEvents) {
         void before(const Runtime::Operation&) override { throw Error(7, "Gone"); }
     } saboteur;
     session_->station().log().clear();
-    click("Command12");
+    click(channel(1).muteButton);
     store().observeWith(&saboteur);
-    click("optN1");
+    click(channel(1).negative.option);
     store().observeWith(nullptr);
     EXPECT_EQ(session_->station().log().lines(),
               (std::deque<std::string>{"event Mute 1", "! 7 Gone"}));

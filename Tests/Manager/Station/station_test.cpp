@@ -50,14 +50,14 @@ TEST_F(StationTest, DisconnectingShowsTheLinkDownAndCallsTheValuesOld) {
 TEST_F(StationTest, NothingConnectedAnswersNoEventAnyMore) {
     station_.disconnect();
     station_.log().clear();
-    click("Command12");
+    click(channel(1).muteButton);
     EXPECT_EQ(station_.log().lines(), Lines({"event Mute 1"}));
 }
 
 TEST_F(StationTest, WhatTheDeviceAnswersStandsUnderTheEventOnAFreshPanelToo) {
     for (int i = 0; i < 2; ++i) {
         station_.log().clear();
-        click("Command12");
+        click(channel(1).muteButton);
         panel().Clock(1, true);
         EXPECT_EQ(station_.log().lines(),
                   Lines({"event Mute 1", "  let Mute 1 -1", "let Clock 1 -1"}));

@@ -140,7 +140,7 @@ TEST_F(WindowTest, TheEventViewShowsTheLastEventsAndIsBounded) {
     window_.session().connectNothing();
     window_.showEvents(true);
     for (std::size_t i = 0; i < EventLog::kMostLines + 50; ++i) {
-        window_.panelWidget().store().input().click(Tests::id("Command12"));
+        window_.panelWidget().store().input().click(channel(1).muteButton);
         if (i % 777 == 0) window_.refresh();
     }
     auto* sideways = window_.findChild<QPlainTextEdit*>()->horizontalScrollBar();
@@ -214,9 +214,9 @@ TEST_F(WindowTest, ClosingEndsWithAPromptOpen) {
     soon.setSingleShot(true);
     QObject::connect(&soon, &QTimer::timeout, &window_, &QWidget::close);
     soon.start(0);
-    window_.panelWidget().store().enable(Tests::id("Command1"), true);
-    window_.panelWidget().store().show(Tests::id("Command1"), true);
-    window_.panelWidget().store().input().click(Tests::id("Command1"));
+    window_.panelWidget().store().enable(kCommon.resetLogButton, true);
+    window_.panelWidget().store().show(kCommon.resetLogButton, true);
+    window_.panelWidget().store().input().click(kCommon.resetLogButton);
     EXPECT_FALSE(window_.isVisible());
     EXPECT_EQ(window_.findChild<QInputDialog*>(), nullptr);
 }

@@ -1,7 +1,6 @@
 #include <regex>
 #include <span>
 
-#include "Script/panel_bench.h"
 #include "Script/session.h"
 #include "Script/text_of.h"
 #include "Support/approved.h"
@@ -18,30 +17,31 @@ constexpr std::string_view kCommand = "> ";
 constexpr std::string_view kAnswer = "-> ";
 
 // A panel whose start-up is observed as well.
-class ObservedBench final : public Script::PanelBench {
+class ObservedPanel final : public Script::PanelOwner, public Script::Person {
 public:
-    explicit ObservedBench(OperationLog& log) : log_(log) { renew(); }
+    explicit ObservedPanel(OperationLog& log) : log_(log) { exchange(); }
 
-    void renew() override {
-        panel_.reset();
+    MarvaneAssistant& panel() override { return *panel_; }
+    Runtime::Store& store() override { return *store_; }
+
+private:
+    void exchange() override {
         const auto store = Runtime::Store::create();
         store->observeWith(&log_);
         panel_ = std::make_unique<MarvaneAssistant>(store);
-        take(*panel_, store);
-        takeErrors();
+        store_ = store;
     }
-    void shoot(const String& /*file*/) override {}
 
-private:
     OperationLog& log_;
+    std::shared_ptr<Runtime::Store> store_;
     std::unique_ptr<MarvaneAssistant> panel_;
 };
 
 // What the last of these commands does to a fresh panel.
 Operations run(std::span<const std::string> commands, std::optional<std::size_t> failAt = {}) {
     OperationLog log;
-    ObservedBench bench(log);
-    Script::Session session(bench, {}, [&](std::string_view answer) {
+    ObservedPanel panel(log);
+    Script::Session session(panel, panel, {}, [&](std::string_view answer) {
         if (answer != "ok") log.seen.push_back(std::string(kAnswer).append(answer));
     });
     for (const std::string& command : commands) {

@@ -10,9 +10,9 @@ struct Drawn {
     std::vector<Widgets::Point> points{};
 };
 
-Drawn drawnOn(Runtime::Store& store, const char* name) {
+Drawn drawnOn(Runtime::Store& store, Widgets::PictureRef scope) {
     Drawn drawn;
-    for (const auto& item : store.get<Runtime::StoredPicture>(id(name)).state().drawing) {
+    for (const auto& item : store.get<Runtime::StoredPicture>(scope).state().drawing) {
         if (const auto* trace = std::get_if<Runtime::DrawnPolyline>(&item)) {
             EXPECT_EQ(trace->colour, rgb(0, 255, 0));
             drawn.points = trace->points;
@@ -48,10 +48,10 @@ TEST_F(Trace, JoinsTheSamplesFromIndex1AndStopsWhereTheArrayDoes) {
         SCOPED_TRACE(row.label);
         panel_.DisegnaFormaDOnda(2, IntegerArray(1, {1, 2, 3}));
         EXPECT_EQ(errorOf([&] { panel_.DisegnaFormaDOnda(2, row.samples); }), row.error);
-        const Drawn drawn = drawnOn(store_, "Picture2");
+        const Drawn drawn = drawnOn(store_, channel(2).scope);
         EXPECT_EQ(drawn.grid, 19U);
         EXPECT_EQ(drawn.points.size(), row.points);
-        EXPECT_TRUE(drawnOn(store_, "Picture1").points.empty());
+        EXPECT_TRUE(drawnOn(store_, channel(1).scope).points.empty());
     }
 }
 

@@ -38,9 +38,9 @@ protected:
 using Heard = std::vector<std::string>;
 
 TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
-    constexpr auto kP1 = Layout::optionRef("optP1");
-    constexpr auto kN1 = Layout::optionRef("optN1");
-    constexpr auto kP3 = Layout::optionRef("optP3");
+    constexpr auto kP1 = channel(1).positive.option;
+    constexpr auto kN1 = channel(1).negative.option;
+    constexpr auto kP3 = channel(3).positive.option;
     store_[kP3].setValue(true);
     store_[kP1].setValue(true);
     person_.click(kN1.id);
@@ -56,7 +56,7 @@ TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
 }
 
 TEST_F(StoreTest, TicksOnceForAllTheTimeThatItMissed) {
-    store_[Layout::timerRef("tmrVirtualTemp34")].setEnabled(false);
+    store_[pair(2).testTimer].setEnabled(false);
     store_.catchUp(10s);
     EXPECT_EQ(takeHeard(), Heard{"tick tmrVirtualTemp12"});
     EXPECT_EQ(store_.untilNextTick(), 500ms);
@@ -72,7 +72,7 @@ TEST_F(StoreTest, LetsATickPassTimeItself) {
 }
 
 TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
-    constexpr auto kSlider = Layout::sliderRef("ZelvinSlider1");
+    constexpr auto kSlider = channel(1).volumeSlider;
     const auto& state = store_.get<Runtime::StoredSlider>(kSlider.id).state();
     store_[kSlider].setPosition(-40);
     EXPECT_EQ(store_[kSlider].position(), -40);
@@ -102,7 +102,7 @@ TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
 }
 
 TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
-    constexpr auto kPicture = Layout::pictureRef("Picture1");
+    constexpr auto kPicture = channel(1).scope;
     const std::vector<Widgets::Point> points{{0, 0}, {1, 1}, {2, 0}, {3, 1}};
     OperationLog log;
     log.failAt = 6;  // the third line

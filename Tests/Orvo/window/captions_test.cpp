@@ -82,7 +82,7 @@ TEST_F(CaptionsTest, EveryButtonHasRoomForItsCaption) {
 }
 
 TEST_F(CaptionsTest, EveryTabHasRoomForItsCaption) {
-    const auto& strip = control<QTabBar>("SSTab1");
+    const auto& strip = control<QTabBar>(kTabs);
     for (const double zoom : kZooms) {
         front_.setZoom(zoom);
         for (int tab = 0; tab < strip.count(); ++tab) {

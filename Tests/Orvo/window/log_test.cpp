@@ -18,8 +18,8 @@ protected:
     }
     [[nodiscard]] int rows() { return view_.model()->rowCount(); }
 
-    Widgets::List& list_ = store_[Widgets::ListRef{idOf("List1")}];
-    QAbstractItemView& view_ = control<QAbstractItemView>("List1");
+    Widgets::List& list_ = store_[kCommon.log];
+    QAbstractItemView& view_ = control<QAbstractItemView>(kCommon.log);
 
 private:
     int added_ = 0;

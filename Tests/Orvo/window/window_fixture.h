@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "Orvo/window/panel_screen.h"
+#include "Support/roles.h"
 
 namespace Orvo::Window {
 
@@ -38,11 +39,9 @@ protected:
         settle();
     }
 
-    static WidgetId idOf(std::string_view name) { return Layout::findWidget(name).value(); }
-
     template <class Widget = QWidget>
-    Widget& control(const char* name) {
-        return dynamic_cast<Widget&>(*front_.findChild<QWidget*>(name));
+    Widget& control(WidgetId widget) {
+        return dynamic_cast<Widget&>(*front_.control(widget));
     }
 
     void toTab(int tab) {

@@ -61,8 +61,9 @@ bool Page::repaintWidget(WidgetId id) {
 
 QRect Page::placeOf(WidgetId speaker) const {
     QRect place = boundsOf(speaker);
-    if (Layout::describe(speaker).style.kind != Layout::Kind::digit) return place;
-    for (const WidgetId digit : readoutOf(speaker)) place = place.united(boundsOf(digit));
+    const Layout::Readout* readout = readoutWith(speaker);
+    if (readout == nullptr) return place;
+    for (const WidgetId digit : readout->digits()) place = place.united(boundsOf(digit));
     return place;
 }
 
