@@ -13,6 +13,7 @@
 #include <variant>
 #include <vector>
 
+#include "Orvo/core/event_table.h"
 #include "Script/command.h"
 #include "Script/panel_owner.h"
 #include "Script/person.h"

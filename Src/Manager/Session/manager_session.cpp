@@ -15,8 +15,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Read-only mode takes it away from the person.
-
 // Why a file can't be opened this way, if it can't.
 std::optional<std::string> obstacle(const std::string& file, std::ios::openmode mode) {
     std::fstream stream(file, mode);

@@ -131,7 +131,7 @@ TEST_F(WindowTest, TellsOfARecordingOnAFreshPanelAndOfOneThatCannotBe) {
     window_.refresh();
     EXPECT_TRUE(window_.windowTitle().contains("Recording: "));
     EXPECT_EQ(label("Message"), "Recording from a fresh start to session.txt");
-    EXPECT_TRUE(window_.panelWidget().findChild<QWidget*>("SSTab1")->isVisible());
+    EXPECT_TRUE(window_.panelWidget().control(Layout::kTabs)->isVisible());
     window_.session().startRecording("/no/such/place");
     EXPECT_TRUE(window_.findChild<QMessageBox*>()->informativeText().contains("/no/such/place"));
 }

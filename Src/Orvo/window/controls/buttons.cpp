@@ -86,10 +86,10 @@ void OptionButton::selectNext(int step) {
     for (int i = 1; i < kCount; ++i) {
         const auto next = WidgetId((id() + kCount + step * i) % kCount);
         if (!Layout::areFellows(next, id()) || !store().acceptsInput(next)) continue;
-        const std::string_view name = Layout::describe(next).name;
-        if (auto* button = parentWidget()->findChild<QWidget*>(
-                QLatin1StringView(name.data(), qsizetype(name.size()))))
-            button->setFocus(Qt::TabFocusReason);
+        for (QObject* child : parentWidget()->children()) {
+            auto* fellow = dynamic_cast<OptionButton*>(child);
+            if (fellow != nullptr && fellow->id() == next) fellow->setFocus(Qt::TabFocusReason);
+        }
         return input().activate(next);
     }
 }
