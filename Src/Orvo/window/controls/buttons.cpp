@@ -11,9 +11,6 @@
 
 namespace Orvo::Window {
 
-CommandButton::CommandButton(Runtime::Store& store, WidgetId id, QWidget* parent)
-    : PressButton(store, id, parent) {}
-
 // The caption isn't Qt's text, which would replace the shortcut by its own.
 void CommandButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
@@ -28,11 +25,6 @@ void CommandButton::paintEvent(QPaintEvent*) {
     painter.drawText(rect().translated(sunk, sunk), Qt::AlignCenter | Qt::TextWordWrap,
                      toQt(description().caption));
     drawFocus(painter, *this, zoom());
-}
-
-OptionButton::OptionButton(Runtime::Store& store, WidgetId id, QWidget* parent)
-    : PressButton(store, id, parent) {
-    setCheckable(true);
 }
 
 void OptionButton::refresh() {
@@ -92,11 +84,6 @@ void OptionButton::selectNext(int step) {
         }
         return input().activate(next);
     }
-}
-
-PowerButton::PowerButton(Runtime::Store& store, WidgetId id, QWidget* parent)
-    : PressButton(store, id, parent) {
-    setCheckable(true);
 }
 
 void PowerButton::refresh() {
