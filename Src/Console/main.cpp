@@ -7,6 +7,7 @@
 
 #include "Console/options.h"
 #include "Console/terminal.h"
+#include "Script/buffered_output.h"
 #include "Script/completion.h"
 #include "Script/help.h"
 #include "Script/script_runner.h"

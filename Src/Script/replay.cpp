@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "Script/script_runner.h"
-
 namespace Orvo::Script {
 namespace {
 
@@ -17,11 +15,11 @@ constexpr auto kLongestMoment = 15ms;
 
 Replay::Replay(PanelOwner& owner, Person& person, const Grammar& grammar,
                const std::filesystem::path& script)
-    : name_(script.filename().string()),
-      lines_(script),
+    : lines_(script),
       person_(person),
       session_(
-          owner, *this, grammar, [](std::string_view) {}, UnawaitedErrors::areTheOwners) {}
+          owner, *this, grammar, [](std::string_view) {}, UnawaitedErrors::areTheOwners),
+      script_(session_, script.filename().string()) {}
 
 void Replay::advance(std::chrono::milliseconds elapsed) {
     silence_ += elapsed;
@@ -47,10 +45,8 @@ void Replay::runLine() {
     isOver_ = !std::getline(lines_, line);
     if (isOver_) return;
     silence_ = 0ms;
-    if (++lineNumber_ == 1) line = withoutByteOrderMark(line);
-    const auto complaint = session_.run(line);
-    if (complaint) complaint_ = placed(*complaint, name_, lineNumber_, line);
-    isOver_ = complaint || session_.hasQuit();
+    complaint_ = script_.run(line);
+    isOver_ = complaint_ || session_.hasQuit();
 }
 
 }  // namespace Orvo::Script

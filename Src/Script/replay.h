@@ -1,13 +1,12 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <string>
 
-#include "Script/session.h"
+#include "Script/script_runner.h"
 
 namespace Orvo::Script {
 
@@ -20,7 +19,7 @@ public:
            const std::filesystem::path& script);
 
     /// The file's name, in UTF-8.
-    [[nodiscard]] const std::string& name() const { return name_; }
+    [[nodiscard]] const std::string& name() const { return script_.name(); }
     void advance(std::chrono::milliseconds elapsed);
     /// The time since the last command.
     [[nodiscard]] std::chrono::milliseconds silence() const { return silence_; }
@@ -37,11 +36,10 @@ private:
 
     void runLine();
 
-    const std::string name_;
     std::ifstream lines_;
     Person& person_;
     Session session_;
-    std::size_t lineNumber_ = 0;
+    ScriptLines script_;
     std::chrono::milliseconds left_{0};  // of the wait that the script is in
     std::chrono::milliseconds silence_{0};
     bool isOver_ = false;
