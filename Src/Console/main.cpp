@@ -19,7 +19,7 @@ namespace {
 using namespace Orvo::Console;
 using namespace Orvo::Script;
 
-constexpr Grammar kGrammar{.speaker = Grammar::Speaker::anyone, .place = Place::inMemory};
+constexpr Grammar kGrammar{.place = Place::inMemory};
 
 int talk() {
     StorePanel panel;

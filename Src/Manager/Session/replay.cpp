@@ -1,8 +1,8 @@
-#include "Script/replay.h"
+#include "Manager/Session/replay.h"
 
 #include <algorithm>
 
-namespace Orvo::Script {
+namespace Orvo::Manager {
 namespace {
 
 using namespace std::chrono_literals;
@@ -13,12 +13,13 @@ constexpr auto kLongestMoment = 15ms;
 
 }  // namespace
 
-Replay::Replay(PanelOwner& owner, Person& person, const Grammar& grammar,
+Replay::Replay(Script::PanelOwner& owner, Script::Person& person,
                const std::filesystem::path& script)
     : lines_(script),
       person_(person),
       session_(
-          owner, *this, grammar, [](std::string_view) {}, UnawaitedErrors::areTheOwners),
+          owner, *this, {.place = Script::Place::inWindow}, [](std::string_view) {},
+          Script::UnawaitedErrors::areTheOwners),
       script_(session_, script.filename().string()) {}
 
 void Replay::advance(std::chrono::milliseconds elapsed) {
@@ -49,4 +50,4 @@ void Replay::runLine() {
     isOver_ = complaint_ || session_.hasQuit();
 }
 
-}  // namespace Orvo::Script
+}  // namespace Orvo::Manager
