@@ -2,7 +2,7 @@
 
 #include <QAbstractButton>
 
-#include "Manager/Window/file_saver.h"
+#include "Manager/Window/files.h"
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/pointed_input.h"
 #include "Orvo/window/drawing/text.h"
