@@ -15,8 +15,9 @@ namespace {
 constexpr auto kHead = R"(# Speed, beside others
 
 Written by `Tools/benchmark`; don't edit. Each figure is the least of many rounds, in which we and our
-rivals take turns, in processor time of the whole process. The figures belong to one machine; what
-counts are the ratios, ours to theirs. "7x less" is good, "7x" is not.
+rivals take turns, in processor time of the whole process. The figures belong to one machine, and to
+the library as it was when this page was last written; what counts are the ratios, ours to theirs.
+"7x less" is good, "7x" is not.
 
 )";
 

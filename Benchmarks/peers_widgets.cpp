@@ -5,7 +5,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "bench.h"
 
 namespace Orvo::Benchmarks {
@@ -122,7 +122,7 @@ WidgetPanel::WidgetPanel(Integer tab) {
         page->resize(size());
         page->setVisible(page == pages_[tab]);
     }
-    std::vector<QWidget*> widgets(Layout::kWidgetCount);
+    std::vector<RowWidget*> widgets(Layout::kWidgetCount);
     for (Widgets::WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
         const Layout::Widget& row = Layout::describe(id);
         const auto& [left, top, right, bottom] = row.place;
@@ -137,8 +137,8 @@ WidgetPanel::WidgetPanel(Integer tab) {
         widgets[id] = widget;
         if (row.style.kind == Kind::digit) digits_.push_back(widget);
         if (isLamp(row)) lamps_.push_back(widget);
-        if (row.name.starts_with("lblConnected")) states_.push_back(widget);
     }
+    for (const Layout::Pair& pair : Layout::kPairs) states_.push_back(widgets[pair.linkText]);
 }
 
 void WidgetPanel::pushEverything(int turn) {

@@ -18,7 +18,7 @@ namespace {
 
 std::unique_ptr<QWidget> makeManager() {
     auto window = std::make_unique<Manager::ManagerWindow>();
-    window->connectSimulator();
+    window->session().connectSimulator();
     window->open();
     return window;
 }

@@ -66,6 +66,19 @@ Rival letByMethod(Limits limits) {
     return {Role::peer, "QMetaMethod::invoke", repeated(makeProperties, call), limits};
 }
 
+// A panel on which each call is told of.
+struct Listened : Bench {
+    CallListener nobody;
+    Connection listening = panel.listen(nobody);
+};
+
+Row listened() {
+    const auto call = [](Bench& bench, int turn) { bench.panel.Signal(1, turn % 2 == 0); };
+    return {.measure = "let Signal, typed, with a listener",
+            .ours = repeated([] { return std::make_unique<Listened>(); }, call),
+            .rivals = {{Role::floor, "without a listener", repeated(makeBench, call)}}};
+}
+
 // What a panel raises its events with, and a host's sink.
 struct Sounding final : MarvaneAssistantEvents {
     void VolumeChange(Integer& intChannel, Integer& intVolume) override {
@@ -110,6 +123,7 @@ std::vector<Row> callRows() {
         {.measure = "let Signal, typed",
          .ours = panelCall([](Panel& panel, Integer turn) { panel.Signal(1, turn % 2 == 0); }),
          .rivals = {virtualLet({.must = times(5), .aim = times(4)}), setFlag({})}},
+        listened(),
         {.measure = "let IdDevice, typed",
          .ours = panelCall([](Panel& panel, Integer turn) { panel.IdDevice(turn); }),
          .rivals = {virtualLet({.must = times(13), .aim = times(8)}), setNumber({})}},

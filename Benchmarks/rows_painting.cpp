@@ -76,7 +76,8 @@ Contender copyOfWindow() {
 }
 
 QRect railPlace() {
-    return placeOf(Places::kRail.front().id).united(placeOf(Places::kRail.back().id));
+    const auto& places = Layout::pair(1).positivePower.places;
+    return placeOf(places.front()).united(placeOf(places.back()));
 }
 
 Row everything() {
@@ -112,7 +113,7 @@ Row lamp() {
                 [](MarvaneAssistant& panel, int turn) { panel.Signal(1, turn % 2 == 0); }),
             .rivals = {{Role::floor,
                         "a child widget with a kept picture",
-                        keptPicture(placeOf(Places::kLamp.id)),
+                        keptPicture(placeOf(Layout::channel(1).signalLamp)),
                         {.must = times(3)}}}};
 }
 
@@ -135,7 +136,7 @@ Contender listLine(int lines) {
     static const QString line = "12:00:00  Power bus +: 118 V";
     const auto make = [lines] {
         auto list = std::make_unique<QListWidget>();
-        list->resize(placeOf(Places::kLog.id).size());
+        list->resize(placeOf(Layout::kCommon.log).size());
         list->setUniformItemSizes(true);
         for (int i = 0; i < lines; ++i) list->addItem(line);
         return list;

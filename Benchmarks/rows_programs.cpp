@@ -13,7 +13,7 @@ namespace {
 
 bool hasAllTraces(Manager::ManagerWindow& window) {
     for (Integer channel = 1; channel <= Manager::kChannels; ++channel) {
-        if (!window.station().traces().has(channel)) return false;
+        if (!window.session().station().traces().has(channel)) return false;
     }
     return true;
 }
@@ -21,9 +21,9 @@ bool hasAllTraces(Manager::ManagerWindow& window) {
 std::unique_ptr<Manager::ManagerWindow> makePlayingManager(int zoom) {
     auto window = std::make_unique<Manager::ManagerWindow>(
         Manager::Options{.zoom = zoom, .tab = Layout::kFirstPairTab + 1});
-    window->connectSimulator();
+    window->session().connectSimulator();
     window->open();
-    window->resize(2 * placeOf(Layout::kTabs.id).size());
+    window->resize(2 * placeOf(Layout::kTabs).size());
     constexpr qint64 kPatience = 10'000;
     QElapsedTimer sinceStart;
     sinceStart.start();
@@ -31,8 +31,8 @@ std::unique_ptr<Manager::ManagerWindow> makePlayingManager(int zoom) {
         if (sinceStart.elapsed() > kPatience) throw std::runtime_error("the traces don't come");
         shareOfCore(100);
     }
-    for (const auto button : Places::kStartButtons) {
-        window->panelWidget().store().input().click(button.id);
+    for (const Layout::Pair& pair : Layout::kPairs) {
+        window->panelWidget().store().input().click(pair.startButton);
     }
     shareOfCore(1000);
     return window;

@@ -11,7 +11,7 @@ namespace {
 constexpr int kMany = 32767;
 constexpr int kFew = 1000;
 
-QSize scopeSize() { return placeOf(Places::kScope.id).size(); }
+QSize scopeSize() { return placeOf(Layout::channel(1).scope).size(); }
 
 // One scope of a panel, into a picture of its own.
 class PanelScope : public Tracer {
@@ -27,7 +27,7 @@ protected:
 
 private:
     const std::unique_ptr<Window::PanelWidget> panel_ = makePanel(Layout::kFirstPairTab);
-    QWidget& scope_ = controlOf(*panel_, Places::kScope.id);
+    QWidget& scope_ = *panel_->control(Layout::channel(1).scope);
     QImage picture_{scope_.size(), QImage::Format_RGB32};
 };
 

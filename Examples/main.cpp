@@ -2,7 +2,7 @@
 #include <cstdio>
 
 #include <Orvo/core/marvane_assistant.h>
-#include <Orvo/layout/layout.h>
+#include <Orvo/layout/roles.h>
 #include <Orvo/store/store.h>
 
 class Host : public Orvo::MarvaneAssistantEvents {
@@ -26,8 +26,8 @@ int main() {
 
     panel.Connected(true);
     panel.VPPower(1, 118);
-    store->input().click(Orvo::Layout::buttonRef("cmdOnOff").id);
-    store->input().click(Orvo::Layout::buttonRef("Command11").id);
+    store->input().click(Orvo::Layout::kCommon.powerButton);
+    store->input().click(Orvo::Layout::channel(2).muteButton);
 
     const bool isRight = bool(panel.PowerOn()) && bool(panel.Mute(2)) && !bool(panel.Mute(1));
     std::puts(isRight ? "on, channel 2 muted" : "the host was not heard");

@@ -8,7 +8,7 @@ namespace Orvo::Artwork {
 
 namespace {
 
-constexpr QRectF kPlace = placeOf("Image1");
+constexpr QRectF kPlace = placeOf(Layout::kCommon.background);
 constexpr QColor kEdge(182, 188, 199);
 constexpr QColor kRule(150, 155, 170);
 constexpr QColor kFine(224, 227, 233);
@@ -91,7 +91,7 @@ void draw(QPainter& painter) {
     // The log's frame.
     painter.setPen(QPen(kRule, kPixel));
     painter.setBrush(QColor(58, 66, 80));
-    painter.drawRoundedRect(placeOf("List1").adjusted(-45, -30, 30, 30), 30, 30);
+    painter.drawRoundedRect(placeOf(Layout::kCommon.log).adjusted(-45, -30, 30, 30), 30, 30);
     drawPlate(painter, {450, 5520, 9810, 1170}, kPlate);
     drawDevice(painter, {735, 5745, 4200, 720});
 }

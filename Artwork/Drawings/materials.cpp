@@ -56,8 +56,9 @@ QPainterPath waveThrough(const QRectF& place, double swing) {
     return wave;
 }
 
-void drawRecessFor(QPainter& painter, std::string_view frame, QColor edge, QMarginsF margins) {
-    const auto& style = Layout::describe(Layout::findWidget(frame).value()).style;
+void drawRecessAround(QPainter& painter, Layout::WidgetId held, QColor edge, QMarginsF margins) {
+    const Layout::WidgetId frame = Layout::describe(held).container;
+    const auto& style = Layout::describe(frame).style;
     drawRecess(painter, placeOf(frame).marginsAdded(margins), Window::toQt(style.back), edge);
 }
 

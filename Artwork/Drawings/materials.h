@@ -1,12 +1,10 @@
 #pragma once
 
-#include <string_view>
-
 #include <QColor>
 #include <QPainterPath>
 #include <QRectF>
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 class QPainter;
 
@@ -16,8 +14,8 @@ namespace Orvo::Artwork {
 constexpr double kPixel = Layout::kTwipsPerPixel;
 
 /// A widget's place on its tab.
-constexpr QRectF placeOf(std::string_view widget) {
-    const auto& place = Layout::describe(Layout::findWidget(widget).value()).place;
+constexpr QRectF placeOf(Layout::WidgetId widget) {
+    const auto& place = Layout::describe(widget).place;
     return QRectF(place.left, place.top, place.width, place.height);
 }
 
@@ -45,7 +43,8 @@ void drawRecess(QPainter& painter, const QRectF& place, QColor fill, QColor edge
 /// A period of a wave from the left to the right; it turns at half of the swing from the middle.
 QPainterPath waveThrough(const QRectF& place, double swing);
 
-/// A recess in the frame's own colour, this much larger than the frame all round.
-void drawRecessFor(QPainter& painter, std::string_view frame, QColor edge, QMarginsF margins);
+/// A recess for the frame that holds a widget: in the frame's own colour, this much larger all
+/// round.
+void drawRecessAround(QPainter& painter, Layout::WidgetId held, QColor edge, QMarginsF margins);
 
 }  // namespace Orvo::Artwork

@@ -9,7 +9,7 @@ namespace Orvo::Artwork {
 
 namespace {
 
-constexpr QRectF kPlace = placeOf("Image4");
+constexpr QRectF kPlace = placeOf(Layout::pair(1).background);
 constexpr QColor kEdge(80, 92, 112);
 constexpr QColor kWire(110, 123, 144);
 constexpr QColor kInk(30, 34, 42);
@@ -86,13 +86,16 @@ void drawPlates(QPainter& painter) {
 }
 
 void drawRecesses(QPainter& painter) {
-    drawRecessFor(painter, "Frame12", {112, 108, 98}, {45, 60, 270, 60});  // and the Start button
-    drawRecessFor(painter, "Frame11", {84, 64, 168}, {45, 60, 45, 60});
-    drawRecessFor(painter, "Frame6", kEdge, {30, 30, 75, 30});
-    drawRecessFor(painter, "Frame7", kEdge, {30, 30, 75, 30});
-    drawRecessFor(painter, "Frame8", kEdge, {45, 45, 45, 45});
-    drawRecessFor(painter, "Frame9", kEdge, {45, 45, 45, 45});
-    drawRecessFor(painter, "Frame10", {168, 168, 168}, {45, 45, 45, 45});
+    const Layout::Pair& pair = Layout::pair(1);
+    const Layout::Channel& upper = Layout::channel(1);
+    const Layout::Channel& lower = Layout::channel(2);
+    drawRecessAround(painter, pair.waves[0], {112, 108, 98}, {45, 60, 270, 60});  // and Start
+    drawRecessAround(painter, upper.positive.option, {84, 64, 168}, {45, 60, 45, 60});
+    drawRecessAround(painter, upper.volumeSlider, kEdge, {30, 30, 75, 30});
+    drawRecessAround(painter, lower.volumeSlider, kEdge, {30, 30, 75, 30});
+    drawRecessAround(painter, pair.positivePower.places[0], kEdge, {45, 45, 45, 45});
+    drawRecessAround(painter, pair.positiveAux.places[0], kEdge, {45, 45, 45, 45});
+    drawRecessAround(painter, pair.clockLamp, {168, 168, 168}, {45, 45, 45, 45});
 }
 
 void drawConnections(QPainter& painter) {

@@ -10,7 +10,7 @@
 #include "Script/completion.h"
 #include "Script/help.h"
 #include "Script/script_runner.h"
-#include "Script/store_bench.h"
+#include "Script/store_panel.h"
 
 // orvo-console: the panel script on the in-memory runtime.
 namespace {
@@ -21,9 +21,10 @@ using namespace Orvo::Script;
 constexpr Grammar kGrammar{.speaker = Grammar::Speaker::anyone, .place = Place::inMemory};
 
 int talk() {
-    StoreBench bench;
+    StorePanel panel;
     BufferedOutput output;
-    Session session(bench, kGrammar, [&output](std::string_view line) { output.line(line); });
+    Session session(panel, panel, kGrammar,
+                    [&output](std::string_view line) { output.line(line); });
     Terminal terminal([](std::string_view before, std::string_view typed) {
         return completions(before, typed, kGrammar);
     });
@@ -56,8 +57,8 @@ int run(const Options& options) {
     if (options.wish == Options::Wish::help) return print(std::string(kUsage));
     if (options.wish == Options::Wish::version) return print("orvo-console " ORVO_VERSION);
     if (!options.file && ::isatty(STDIN_FILENO) != 0) return talk();
-    StoreBench bench;
-    return runScript(bench, kGrammar, options.file.value_or("-"), options.atComplaint);
+    StorePanel panel;
+    return runScript(panel, panel, kGrammar, options.file.value_or("-"), options.atComplaint);
 }
 
 void complain(const std::string& text) { std::fprintf(stderr, "orvo-console: %s\n", text.c_str()); }

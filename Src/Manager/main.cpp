@@ -22,7 +22,7 @@ int end(const Ending& ending) {
 int showWindow(const Options& options) {
     try {
         ManagerWindow window(options);
-        options.link ? window.connectLink(*options.link) : window.connectSimulator();
+        options.link ? window.connectLink(*options.link) : window.session().connectSimulator();
         window.open();
         return QApplication::exec();
     } catch (const std::system_error& failure) {

@@ -1,9 +1,11 @@
 #include "Reference/reference.h"
 
+#include <fstream>
+#include <iterator>
 #include <span>
 
+#include "Reference/header_comments.h"
 #include "Reference/reference_prose.h"
-#include "Reference/reference_texts.h"
 #include "Script/help.h"
 #include "Script/text_of.h"
 
@@ -70,42 +72,33 @@ std::string memberRow(const Member& member) {
                   hasResult ? nameOf(member.result) : ""});
 }
 
-std::string eventRow(const Event& event) {
-    return cells(
-        {std::to_string(event.dispatchId), code(event.name), parametersText(event.parameters())});
-}
-
 std::string memberTable() {
     std::string text = heading({"number", "member", "kind", "dispatch id", "parameters", "result"});
     for (const Member& member : kMembers) text += memberRow(member);
     return text + '\n';
 }
 
-std::string memberTexts() {
-    std::string text = heading({"member", "effect", "units and ranges", "errors"});
-    for (const MemberText& row : kMemberTexts) {
-        text += cells({code(row.name), row.text, row.values, row.errors});
+std::string memberContracts() {
+    std::string text = heading({"member", "kind", "effect", "units and ranges", "errors"});
+    for (const Member& member : kMembers) {
+        const auto& [name, effect, values, errors] = member.contract;
+        text += cells({code(name), nameOf(member.kind), effect, values, errors});
     }
     return text + '\n';
 }
 
 std::string eventTable() {
-    std::string text = heading({"dispatch id", "event", "arguments"});
-    for (const Event& event : kEvents) text += eventRow(event);
-    return text + '\n';
-}
-
-std::string eventTexts() {
-    std::string text = heading({"event", "raised when", "units and ranges"});
-    for (const EventText& row : kEventTexts) {
-        text += cells({code(row.name), row.text, row.values});
+    std::string text =
+        heading({"dispatch id", "event", "arguments", "raised when", "units and ranges"});
+    for (const Event& event : kEvents) {
+        text += cells({std::to_string(event.dispatchId), code(event.name),
+                       parametersText(event.parameters()), event.contract.effect,
+                       event.contract.values});
     }
     return text;
 }
 
-}  // namespace
-
-std::string scriptReference() {
+std::string scriptPage() {
     std::string text(kScriptIntroduction);
     text.append(kHostIntroduction).append(commandsOf(Side::host));
     text.append(kPersonIntroduction).append(commandsOf(Side::person));
@@ -113,10 +106,27 @@ std::string scriptReference() {
     return text.append(kScriptEnd);
 }
 
-std::string interfaceReference() {
+std::string interfacePage() {
     std::string text(kInterfaceIntroduction);
-    text.append(memberTable()).append(memberTexts());
-    return text.append(kEventsIntroduction).append(eventTable()).append(eventTexts());
+    text.append(kMemberRules).append("\n").append(memberTable()).append(memberContracts());
+    text.append("## Events\n\n").append(kEventRules).append("\n");
+    return text.append(eventTable());
+}
+
+}  // namespace
+
+std::string textIn(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<DerivedFile> derivedFiles(const std::filesystem::path& root) {
+    const auto members = root / "Src/Orvo/core/interface.h";
+    const auto events = root / "Src/Orvo/core/events.h";
+    return {{root / "Docs/panel-script.md", scriptPage()},
+            {root / "Docs/interface.md", interfacePage()},
+            {members, withMemberContracts(textIn(members))},
+            {events, withEventContracts(textIn(events))}};
 }
 
 }  // namespace Orvo::Script

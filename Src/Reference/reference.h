@@ -1,14 +1,21 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
+#include <vector>
 
-// The reference pages, written from the tables.
 namespace Orvo::Script {
 
-/// Docs/panel-script.md: the language.
-std::string scriptReference();
+/// A file of the source tree that is written from the tables: a page, or a header's comments.
+struct DerivedFile {
+    std::filesystem::path path;
+    std::string text;
+};
 
-/// Docs/interface.md: the members and events of the panel.
-std::string interfaceReference();
+/// All of them, as they have to be in the tree with this root.
+std::vector<DerivedFile> derivedFiles(const std::filesystem::path& root);
+
+/// What is in a file now; empty when there is none.
+std::string textIn(const std::filesystem::path& path);
 
 }  // namespace Orvo::Script

@@ -14,7 +14,7 @@ in front of it.
 
 - `orvo-console [FILE]` runs it on the in-memory runtime: no window, and a clock that only `wait`
   moves. Without FILE it reads standard input; at a terminal it asks for commands, edits and
-  completes them, and knows `help` and `help COMMAND` besides.
+  completes them, and knows `help` and `help NAME` besides.
 - `marvane-manager --script FILE` runs it on the window.
 
 Both give the same answers, byte for byte, for every command that both know. A script ends at the
@@ -161,27 +161,12 @@ constexpr std::string_view kInterfaceIntroduction = R"(# The panel's interface
 
 <!-- Generated from the tables: cmake --build BUILD --target reference -->
 
-Integer is a 16-bit, Long a 32-bit signed number; String is length-counted UTF-16 text; Boolean is a
-16-bit value, true is -1 and false is 0. A member that is given a Boolean takes any value but 0 as
-true, and returns -1 or 0, except `ReadOnly`. Parameters are passed by reference and only read,
-unless the table says otherwise. A let's last parameter is the new value.
-
-An index outside a member's range does nothing, or reads false, unless the table says otherwise.
-
-Every member may end with error 1001 when it is called from another thread than the panel's, and
-1002 while the panel is being released. A late-bound call has these errors besides: 6 when a number
-leaves the parameter's range, 13 when a value can't be converted to its type, 383 for a property
-that can only be read, 394 for one that can only be written, 438 when there is no such member, 450
-for a wrong number of arguments. What a member wrote before an error stays written.
+A late-bound call passes parameters by reference, unless the table says otherwise, and they are only
+read. It has these errors besides a member's own: 6 when a number leaves the parameter's range, 13
+when a value can't be converted to its type, 383 for a property that can only be read, 394 for one
+that can only be written, 438 when there is no such member, 450 for a wrong number of arguments.
 
 ## Members
-
-)";
-
-constexpr std::string_view kEventsIntroduction = R"(## Events
-
-Arguments are references to copies made for each call: assigning to them changes nothing in the
-panel. A handler may call the panel, and release it.
 
 )";
 

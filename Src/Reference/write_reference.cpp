@@ -1,23 +1,30 @@
+#include <exception>
 #include <fstream>
 #include <iostream>
-#include <string>
+#include <stdexcept>
 
 #include "Reference/reference.h"
 
-// Writes the reference pages into a directory.
+// Writes what is derived from the tables into a source tree.
 namespace {
 
-bool write(const std::string& path, const std::string& text) {
-    return bool(std::ofstream(path, std::ios::binary) << text << std::flush);
+using Orvo::Script::DerivedFile;
+
+// A header that is up to date keeps its time, and with it whatever was built from it.
+void write(const DerivedFile& file) {
+    if (Orvo::Script::textIn(file.path) == file.text) return;
+    std::ofstream out(file.path, std::ios::binary);
+    if (!(out << file.text << std::flush))
+        throw std::runtime_error("Can't write " + file.path.string());
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    using namespace Orvo::Script;
-    const std::string directory = argc == 2 ? argv[1] : ".";
-    const bool isWritten = write(directory + "/panel-script.md", scriptReference()) &&
-                           write(directory + "/interface.md", interfaceReference());
-    if (!isWritten) std::cerr << "Can't write into " << directory << '\n';
-    return isWritten ? 0 : 1;
+    try {
+        for (const auto& file : Orvo::Script::derivedFiles(argc == 2 ? argv[1] : ".")) write(file);
+    } catch (const std::exception& failure) {
+        std::cerr << failure.what() << '\n';
+        return 1;
+    }
 }

@@ -2,14 +2,21 @@
 
 #include <utility>
 
-namespace Orvo::Script {
+#include "Script/literals.h"
+#include "Script/text_of.h"
+
+namespace Orvo::Script::Detail {
 namespace {
 
+constexpr WordKind kDispatchId{.name = "DISPID"};
+constexpr WordKind kArgument{.name = "argument"};
 constexpr std::array kMemberKinds{MemberKind::get, MemberKind::let, MemberKind::method};
-constexpr Long kHighestKeyCode = 0xFFFF;
+constexpr auto kMemberKindWords = std::to_array<std::string_view>({"get", "let", "call"});
+constexpr WordKind kMemberKind{.choices = kMemberKindWords};
 
-String takeText(Arguments& arguments, std::string_view what) {
-    return std::get<String>(literal(arguments.take(what), ValueType::string));
+template <class Value>
+Value take(Arguments& arguments, const WordKind& kind, ValueType type) {
+    return std::get<Value>(literal(arguments.take(kind), type));
 }
 
 const Member* memberOf(Long dispatchId, MemberKind kind) {
@@ -22,7 +29,7 @@ const Member* memberOf(Long dispatchId, MemberKind kind) {
 std::vector<Value> takeTyped(Arguments& arguments, const Member& member) {
     std::vector<Value> values;
     for (const Parameter& parameter : member.parameters()) {
-        values.push_back(literal(arguments.take(parameter.name), parameter.type));
+        values.push_back(literal(arguments.take({.name = parameter.name}), parameter.type));
     }
     return values;
 }
@@ -39,150 +46,100 @@ Value lateBound(const Word& word, const Member* member, std::size_t position) {
 std::vector<Value> takeNatural(Arguments& arguments, const Member* member) {
     std::vector<Value> values;
     while (!arguments.isAtEnd()) {
-        values.push_back(lateBound(arguments.take("argument"), member, values.size()));
+        values.push_back(lateBound(arguments.take(kArgument), member, values.size()));
     }
     return values;
 }
 
 }  // namespace
 
-WidgetId takeWidget(Arguments& arguments, std::string_view what, std::span<const Kind> kinds) {
-    const Word& word = arguments.take(what);
+WidgetId takeWidget(Arguments& arguments, const WordKind& kind, bool (*fits)(Kind)) {
+    const Word& word = arguments.take(kind);
     const auto widget = Layout::findWidget(word.source);
     if (!widget) {
         throw Misunderstood{"there is no widget " + excerpt(word.source), word.offset};
     }
-    const Kind kind = Layout::describe(*widget).style.kind;
-    if (kinds.empty() || std::find(kinds.begin(), kinds.end(), kind) != kinds.end()) {
-        return *widget;
-    }
-    throw Misunderstood{excerpt(word.source) + " is a " + std::string(nameOf(kind)), word.offset};
+    const Kind found = Layout::describe(*widget).style.kind;
+    if (fits(found)) return *widget;
+    throw Misunderstood{excerpt(word.source) + " is a " + std::string(nameOf(found)), word.offset};
 }
 
-AnyWidget AnyWidget::take(Arguments& arguments) { return {takeWidget(arguments, kWords, {})}; }
-
-Touchable Touchable::take(Arguments& arguments) {
-    using enum Kind;
-    static constexpr std::array kKinds{label, shape, line,    frame, button, option, check,
-                                       combo, list,  picture, image, tabs,   digit,  slider};
-    return {takeWidget(arguments, kWords, kKinds)};
+std::optional<WidgetId> takeWidgetOrScreen(Arguments& arguments, const WordKind& kind) {
+    if (arguments.isAtEnd()) return kWidget.take(arguments);
+    if (!arguments.isNext(kScreen.front())) return takeWidget(arguments, kind, isAny);
+    arguments.take(kind);
+    return std::nullopt;
 }
 
-ItemHolder ItemHolder::take(Arguments& arguments) {
-    return {takeWidget(arguments, kWords, std::array{Kind::combo, Kind::list})};
+std::size_t takeChoice(Arguments& arguments, const WordKind& kind) {
+    const Word& word = arguments.take(kind);
+    const auto found = std::find(kind.choices.begin(), kind.choices.end(), word.source);
+    if (found != kind.choices.end()) return std::size_t(found - kind.choices.begin());
+    throw Misunderstood{excerpt(word.source) + " is none of " + textOf(kind), word.offset};
 }
 
-Slider Slider::take(Arguments& arguments) {
-    return {takeWidget(arguments, kWords, std::array{Kind::slider})};
-}
-
-Combo Combo::take(Arguments& arguments) {
-    return {takeWidget(arguments, kWords, std::array{Kind::combo})};
-}
-
-Picture Picture::take(Arguments& arguments) {
-    return {takeWidget(arguments, kWords, std::array{Kind::picture})};
-}
-
-Shown Shown::take(Arguments& arguments) {
-    if (!arguments.isNext(kScreen)) return {AnyWidget::take(arguments).id};
-    arguments.take(kWords);
-    return {Layout::kNoWidget};
-}
-
-std::size_t takeChoice(Arguments& arguments, std::string_view words) {
-    const Word& word = arguments.take(words);
-    for (std::size_t choice = 0, at = 0; at <= words.size(); ++choice) {
-        const std::size_t end = std::min(words.find('|', at), words.size());
-        if (word.source == words.substr(at, end - at)) return choice;
-        at = end + 1;
-    }
-    throw Misunderstood{excerpt(word.source) + " is none of " + std::string(words), word.offset};
-}
-
-Button Button::take(Arguments& arguments) {
-    if (arguments.isAtEnd()) return {Runtime::MouseButton::left};
-    const std::string_view choices = kWords.substr(1, kWords.size() - 2);
-    return {static_cast<Runtime::MouseButton>(takeChoice(arguments, choices))};
-}
-
-LayoutProperty LayoutProperty::take(Arguments& arguments) {
-    return {static_cast<Property>(takeChoice(arguments, kWords))};
-}
-
-Truth Truth::take(Arguments& arguments) { return {takeChoice(arguments, kWords) == 0}; }
-
-PointerNumber PointerNumber::take(Arguments& arguments) {
-    using enum Widgets::Pointer;
-    return {takeChoice(arguments, kWords) == 0 ? standard : hourglass};
-}
-
-Long takeNumber(Arguments& arguments, std::string_view what, Long lowest, Long highest) {
-    const Word& word = arguments.take(what);
+Long takeNumber(Arguments& arguments, const WordKind& kind, Long lowest, Long highest) {
+    const Word& word = arguments.take(kind);
     const Long value = std::get<Long>(literal(word, ValueType::longInteger));
     if (value >= lowest && value <= highest) return value;
     throw Misunderstood{
-        std::string(what) + " is " + std::to_string(lowest) + " to " + std::to_string(highest),
+        textOf(kind) + " is " + std::to_string(lowest) + " to " + std::to_string(highest),
         word.offset};
 }
 
-Position Position::take(Arguments& arguments) {
-    return {std::get<Integer>(literal(arguments.take(kWords), ValueType::integer))};
+int takePosition(Arguments& arguments, const WordKind& kind) {
+    return take<Integer>(arguments, kind, ValueType::integer);
 }
 
-KeyCode KeyCode::take(Arguments& arguments) {
-    return {static_cast<Integer>(takeNumber(arguments, kWords, 0, kHighestKeyCode))};
+String takeText(Arguments& arguments, const WordKind& kind) {
+    return take<String>(arguments, kind, ValueType::string);
 }
 
-TabNumber TabNumber::take(Arguments& arguments) {
-    constexpr Long kLast = Long{Layout::kTabCaptions.size()} - 1;
-    return {static_cast<Integer>(takeNumber(arguments, kWords, 0, kLast))};
+std::optional<String> takeAnswer(Arguments& arguments, const WordKind& kind) {
+    if (!arguments.isNext(kCancel.front())) return takeText(arguments, kind);
+    arguments.take(kind);
+    return std::nullopt;
 }
 
-Milliseconds Milliseconds::take(Arguments& arguments) {
-    const Long time = takeNumber(arguments, kWords, 0, std::numeric_limits<Long>::max());
-    return {std::chrono::milliseconds(time)};
+Runtime::Ports takePorts(Arguments& arguments, const WordKind& kind) {
+    Runtime::Ports ports;
+    while (!arguments.isAtEnd()) ports.emplace_back().PortName = takeText(arguments, kind);
+    return ports;
 }
 
-Text Text::take(Arguments& arguments) { return {takeText(arguments, kWords)}; }
-File File::take(Arguments& arguments) { return {takeText(arguments, kWords)}; }
-
-Answer Answer::take(Arguments& arguments) {
-    const Word& word = arguments.take(kWords);
-    if (word.source == "cancel") return {std::nullopt};
-    return {std::get<String>(literal(word, ValueType::string))};
-}
-
-EventName EventName::take(Arguments& arguments) {
-    const Word& word = arguments.take(kWords);
+const Event* takeEvent(Arguments& arguments, const WordKind& kind) {
+    const Word& word = arguments.take(kind);
     const auto* found = std::find_if(kEvents.begin(), kEvents.end(),
                                      [&](const Event& row) { return row.name == word.source; });
-    if (found != kEvents.end()) return {found};
+    if (found != kEvents.end()) return found;
     throw Misunderstood{"there is no event " + excerpt(word.source), word.offset};
 }
 
-MemberName MemberName::take(Arguments& arguments) {
-    const Word& word = arguments.take(kWords);
-    if (const auto dispatchId = dispatchIdOf(word.source)) return {*dispatchId};
+std::vector<std::string_view> eventNames(const Grammar& /*grammar*/) {
+    std::vector<std::string_view> names;
+    for (const Event& event : kEvents) names.push_back(event.name);
+    return names;
+}
+
+Long takeMember(Arguments& arguments, const WordKind& kind) {
+    const Word& word = arguments.take(kind);
+    if (const auto dispatchId = dispatchIdOf(word.source)) return *dispatchId;
     throw Misunderstood{"there is no member " + excerpt(word.source), word.offset};
 }
 
-Nested Nested::take(Arguments& arguments) { return {arguments.takeCommand()}; }
-
-Call takeCall(Arguments& arguments, MemberKind kind) {
-    const Long dispatchId = MemberName::take(arguments).dispatchId;
+Call takeCall(Arguments& arguments, const WordKind& name, MemberKind kind) {
+    const Long dispatchId = takeMember(arguments, name);
     const Member* member = memberOf(dispatchId, kind);
     auto values =
         member != nullptr ? takeTyped(arguments, *member) : takeNatural(arguments, nullptr);
     return {dispatchId, kind, std::move(values)};
 }
 
-LateCall LateCall::take(Arguments& arguments) {
-    const Long dispatchId =
-        std::get<Long>(literal(arguments.take("DISPID"), ValueType::longInteger));
-    const MemberKind kind = kMemberKinds[takeChoice(arguments, "get|let|call")];
+Call takeLateCall(Arguments& arguments, const WordKind& /*kind*/) {
+    const Long dispatchId = take<Long>(arguments, kDispatchId, ValueType::longInteger);
+    const MemberKind kind = takeOneOf<kMemberKinds>(arguments, kMemberKind);
     auto values = takeNatural(arguments, memberOf(dispatchId, kind));
-    return {{dispatchId, kind, std::move(values)}};
+    return {dispatchId, kind, std::move(values)};
 }
 
-}  // namespace Orvo::Script
+}  // namespace Orvo::Script::Detail

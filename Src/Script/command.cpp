@@ -8,11 +8,23 @@
 namespace Orvo::Script {
 namespace {
 
+using Verb = Runtime::Deed::Verb;
+
 // Commands that stand in one another: "on EVENT on EVENT …".
 constexpr std::size_t kDeepestNesting = 64;
 
-Action parseRest(Arguments& arguments) {
-    const Word& name = arguments.take("command");
+std::vector<std::string_view> commandNames(const Grammar& grammar) {
+    std::vector<std::string_view> names;
+    for (const Command& command : kCommands) {
+        if (isAllowed(command, grammar)) names.push_back(command.name);
+    }
+    return names;
+}
+
+constexpr WordKind kName{.name = "command", .names = commandNames};
+
+ParsedCommand parseRest(Arguments& arguments) {
+    const Word& name = arguments.take(kName);
     const Command* command = findCommand(name.source);
     if (command == nullptr) {
         throw Misunderstood{"there is no command " + excerpt(name.source), name.offset};
@@ -20,12 +32,34 @@ Action parseRest(Arguments& arguments) {
     if (!isAllowed(*command, arguments.grammar())) {
         throw Misunderstood{std::string(command->name) + " is not for here", name.offset};
     }
-    Action action = command->parse(arguments);
+    ParsedCommand parsed = command->parse(arguments);
     arguments.expectEnd();
-    return action;
+    return parsed;
 }
 
+constexpr const Command* commandWith(Verb verb) {
+    return std::find_if(kCommands.begin(), kCommands.end(),
+                        [verb](const Command& row) { return row.verb == verb; });
+}
+
+constexpr bool isEveryDeedACommand() {
+    for (int verb = 0; verb <= int(Verb::tab); ++verb) {
+        const bool isCommand = commandWith(Verb(verb)) != kCommands.end();
+        if (!isCommand && Verb(verb) != Verb::move) return false;
+    }
+    return true;
+}
+static_assert(isEveryDeedACommand());
+
 }  // namespace
+
+std::string textOf(const WordKind& kind) {
+    std::string text(kind.name);
+    for (const std::string_view choice : kind.choices) {
+        text.append(text.empty() ? "" : "|").append(choice);
+    }
+    return text;
+}
 
 Arguments::Arguments(std::span<const Word> words, const Grammar& grammar, std::size_t depth)
     : words_(words),
@@ -33,9 +67,10 @@ Arguments::Arguments(std::span<const Word> words, const Grammar& grammar, std::s
       depth_(depth),
       end_(words.empty() ? 0 : words.back().offset + words.back().source.size()) {}
 
-const Word& Arguments::take(std::string_view what) {
-    if (words_.empty()) throw Misunderstood{std::string(what) + " is missing", end_};
+const Word& Arguments::take(const WordKind& kind) {
+    if (words_.empty()) throw Misunderstood{textOf(kind) + " is missing", end_};
     const Word& word = words_.front();
+    if (word.form == Word::Form::sought) throw Sought{kind};
     words_ = words_.subspan(1);
     return word;
 }
@@ -46,7 +81,7 @@ void Arguments::expectEnd() const {
     throw Misunderstood{"nothing takes " + excerpt(word.source), word.offset};
 }
 
-Action Arguments::takeCommand() {
+ParsedCommand Arguments::takeCommand() {
     if (!words_.empty() && depth_ == kDeepestNesting) {
         throw Misunderstood{"this is nested too deeply", words_.front().offset};
     }
@@ -69,9 +104,14 @@ bool isAllowed(const Command& command, const Grammar& grammar) {
     return command.place == Place::anywhere || command.place == grammar.place;
 }
 
-Action parse(std::span<const Word> words, const Grammar& grammar) {
+ParsedCommand parse(std::span<const Word> words, const Grammar& grammar) {
     Arguments arguments(words, grammar);
     return parseRest(arguments);
+}
+
+std::string commandText(const Runtime::Deed& deed) {
+    const Command* command = commandWith(deed.verb == Verb::move ? Verb::slide : deed.verb);
+    return std::string(command->name) + command->wordsOf(deed);
 }
 
 }  // namespace Orvo::Script

@@ -3,10 +3,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "Orvo/store/deed.h"
 #include "Script/words.h"
 
 // Commands as the language's table has them, and how a line becomes one.
@@ -16,7 +19,7 @@ class Session;
 
 /// A command with its arguments, to be carried out now or when an event is raised: its closing
 /// line. Throws Error for "!", and Misunderstood for "?".
-using Action = std::function<std::string(Session&)>;
+using ParsedCommand = std::function<std::string(Session&)>;
 
 /// Whose commands these are.
 enum class Side : std::uint8_t { host, person, looking };
@@ -34,13 +37,32 @@ struct Grammar {
     Place place = Place::inMemory;
 };
 
+/// What may stand in one place of a command.
+struct WordKind {
+    enum class Presence : std::uint8_t { required, optional };
+
+    std::string_view name{};                      ///< what it is called: "WIDGET"
+    std::span<const std::string_view> choices{};  ///< words that stand there as they are
+    Presence presence = Presence::required;
+    /// The names that may stand there; null when there is no list of them.
+    std::vector<std::string_view> (*names)(const Grammar& grammar) = nullptr;
+};
+
+/// "WIDGET|Screen".
+std::string textOf(const WordKind& kind);
+
+/// What is thrown when the sought word is taken: what may stand in its place.
+struct Sought {
+    WordKind kind;
+};
+
 /// The words of a command that have not been taken yet.
 class Arguments {
 public:
     Arguments(std::span<const Word> words, const Grammar& grammar, std::size_t depth = 0);
 
-    /// The next word, which is a `what`. Throws Misunderstood when there is none.
-    const Word& take(std::string_view what);
+    /// The next word. Throws Misunderstood when there is none.
+    const Word& take(const WordKind& kind);
     [[nodiscard]] bool isAtEnd() const { return words_.empty(); }
     [[nodiscard]] bool isNext(std::string_view word) const {
         return !words_.empty() && words_.front().source == word;
@@ -48,7 +70,7 @@ public:
     void expectEnd() const;
 
     /// The rest as a command of its own.
-    Action takeCommand();
+    ParsedCommand takeCommand();
 
     [[nodiscard]] const Grammar& grammar() const { return grammar_; }
 
@@ -63,10 +85,14 @@ private:
 struct Command {
     std::string_view name;
     Side side = Side::host;
-    std::string_view words;  ///< what follows the name
+    std::span<const WordKind> words;  ///< what follows the name
     std::string_view help;
-    Action (*parse)(Arguments& arguments) = nullptr;
+    ParsedCommand (*parse)(Arguments& arguments) = nullptr;
     Place place = Place::anywhere;
+
+    // Of a command that is a deed.
+    std::optional<Runtime::Deed::Verb> verb{};
+    std::string (*wordsOf)(const Runtime::Deed& deed) = nullptr;
 };
 
 /// All commands, in the order of the reference page.
@@ -78,6 +104,9 @@ const Command* findCommand(std::string_view name);
 bool isAllowed(const Command& command, const Grammar& grammar);
 
 /// Takes all words. Throws Misunderstood.
-Action parse(std::span<const Word> words, const Grammar& grammar);
+ParsedCommand parse(std::span<const Word> words, const Grammar& grammar);
+
+/// The command that does the same. A held slider that is moved is let go of.
+std::string commandText(const Runtime::Deed& deed);
 
 }  // namespace Orvo::Script

@@ -1,109 +1,140 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <string_view>
 #include <tuple>
-#include <type_traits>
 #include <utility>
 
+#include "Script/argument_types.h"
 #include "Script/host_side.h"
 #include "Script/looking.h"
 #include "Script/person_side.h"
+#include "Script/text_of.h"
 
 // The language's commands, one row each.
 namespace Orvo::Script {
 namespace Detail {
 
-template <class Function>
-struct CommandSignature;
+template <const auto&... kArguments>
+inline constexpr std::array<WordKind, sizeof...(kArguments)> kWords{kArguments...};
 
-template <class... Arguments>
-struct CommandSignature<std::string (*)(Session&, Arguments...)> {
-    using Values = std::tuple<std::remove_cvref_t<Arguments>...>;
-};
-
-template <class Values>
-struct Taken;
-
-template <class... Values>
-struct Taken<std::tuple<Values...>> {
-    /// Whether a row's words are those of the values.
-    static consteval bool fits(std::string_view words) {
-        std::string_view blank;
-        for (const std::string_view next :
-             std::array<std::string_view, sizeof...(Values)>{Values::kWords...}) {
-            for (const std::string_view part : {std::exchange(blank, " "), next}) {
-                if (!words.starts_with(part)) return false;
-                words.remove_prefix(part.size());
-            }
-        }
-        return words.empty();
-    }
-
-    // Braces, so that the values are taken from left to right.
-    static std::tuple<Values...> from([[maybe_unused]] Arguments& arguments) {
-        return std::tuple<Values...>{Values::take(arguments)...};
-    }
-};
-
-template <auto kFunction>
-Action parseCommand(Arguments& arguments) {
-    using Values = typename CommandSignature<decltype(kFunction)>::Values;
-    return [values = Taken<Values>::from(arguments)](Session& session) {
+// Braces, so that the values are taken from left to right.
+template <auto kFunction, const auto&... kArguments>
+ParsedCommand parseCommand([[maybe_unused]] Arguments& arguments) {
+    return [values = std::tuple{kArguments.take(arguments)...}](Session& session) {
         return std::apply([&session](const auto&... value) { return kFunction(session, value...); },
                           values);
     };
 }
 
-template <auto kFunction>
-consteval Command command(std::string_view name, Side side, std::string_view words,
-                          std::string_view help, Place place = Place::anywhere) {
-    using Values = typename CommandSignature<decltype(kFunction)>::Values;
-    if (!Taken<Values>::fits(words)) throw "the words are not the function's";
-    return {name, side, words, help, &parseCommand<kFunction>, place};
+template <auto kFunction, const auto&... kArguments>
+consteval Command command(std::string_view name, Side side, std::string_view help,
+                          Place place = Place::anywhere) {
+    return {name, side, kWords<kArguments...>, help, &parseCommand<kFunction, kArguments...>,
+            place};
+}
+
+// Which part of a deed an argument is, by its type.
+template <class Value>
+constexpr Value Runtime::Deed::*kPart = nullptr;
+template <>
+inline constexpr auto kPart<WidgetId> = &Runtime::Deed::widget;
+template <>
+inline constexpr auto kPart<Runtime::MouseButton> = &Runtime::Deed::button;
+template <>
+inline constexpr auto kPart<int> = &Runtime::Deed::number;
+template <>
+inline constexpr auto kPart<String> = &Runtime::Deed::text;
+
+template <class Value>
+void take(Runtime::Deed& deed, const Argument<Value>& argument, Arguments& arguments) {
+    deed.*kPart<Value> = argument.take(arguments);
+}
+
+// Who says nothing of a widget means the tabs.
+template <Runtime::Deed::Verb kVerb, const auto&... kArguments>
+ParsedCommand parseDeed(Arguments& arguments) {
+    Runtime::Deed deed{.verb = kVerb, .widget = Layout::kTabs.id};
+    (take(deed, kArguments, arguments), ...);
+    return
+        [deed = std::move(deed)](Session& session) { return PersonSide::perform(session, deed); };
+}
+
+inline std::string wordOf(WidgetId widget) {
+    return ' ' + std::string(Layout::describe(widget).name);
+}
+inline std::string wordOf(int number) { return ' ' + std::to_string(number); }
+inline std::string wordOf(const String& text) { return ' ' + textOf(StringView(text)); }
+// The first button goes without saying.
+inline std::string wordOf(Runtime::MouseButton button) {
+    const auto place = static_cast<std::size_t>(button);
+    return place == 0 ? "" : ' ' + std::string(Runtime::kMouseButtonNames[place]);
+}
+
+template <class Value>
+std::string wordOf(const Argument<Value>& /*argument*/, const Runtime::Deed& deed) {
+    return wordOf(deed.*kPart<Value>);
+}
+
+template <const auto&... kArguments>
+std::string wordsOf(const Runtime::Deed& deed) {
+    return (wordOf(kArguments, deed) + ...);
+}
+
+template <Runtime::Deed::Verb kVerb, const auto&... kArguments>
+consteval Command deed(std::string_view name, std::string_view help) {
+    return {.name = name,
+            .side = Side::person,
+            .words = kWords<kArguments...>,
+            .help = help,
+            .parse = &parseDeed<kVerb, kArguments...>,
+            .verb = kVerb,
+            .wordsOf = &wordsOf<kArguments...>};
 }
 
 consteval auto commandTable() {
     using enum Side;
+    using Do = Runtime::Deed::Verb;
     namespace H = HostSide;
     namespace P = PersonSide;
     namespace L = Looking;
     // clang-format off
     return std::to_array<Command>({
-        command<&H::let>      ("let",      host,    "NAME [INDEX] VALUE",               "Writes a property."),
-        command<&H::get>      ("get",      host,    "NAME [INDEX]",                     "Reads a property."),
-        command<&H::call>     ("call",     host,    "NAME [ARGUMENT …]",                "Calls a method."),
-        command<&H::invoke>   ("invoke",   host,    "DISPID get|let|call [ARGUMENT …]", "The same, late-bound, by dispatch id; the panel converts the arguments."),
-        command<&H::id>       ("id",       host,    "NAME",                             "The dispatch id of a member."),
-        command<&H::members>  ("members",  host,    "",                                 "Lists the members in interface order: number, name, kind, dispatch id."),
-        command<&H::events>   ("events",   host,    "",                                 "Lists the events: dispatch id, name, arguments."),
-        command<&H::on>       ("on",       host,    "EVENT COMMAND …",                  "From now on the host answers the event with this command; several for one event run in the order given."),
-        command<&H::off>      ("off",      host,    "EVENT",                            "Forgets the commands given for the event."),
-        command<&H::renew>    ("new",      host,    "",                                 "Releases the panel and creates a fresh one; forgets what `on`, `answer`, `meanwhile` and `set` have said."),
+        command<H::call, kLet>               ("let",       host,    "Writes a property."),
+        command<H::call, kGet>               ("get",       host,    "Reads a property."),
+        command<H::call, kCall>              ("call",      host,    "Calls a method."),
+        command<H::call, kLateCall>          ("invoke",    host,    "The same, late-bound, by dispatch id; the panel converts the arguments."),
+        command<H::id, kMember>              ("id",        host,    "The dispatch id of a member."),
+        command<H::members>                  ("members",   host,    "Lists the members in interface order: number, name, kind, dispatch id."),
+        command<H::events>                   ("events",    host,    "Lists the events: dispatch id, name, arguments."),
+        command<H::on, kEvent, kNested>      ("on",        host,    "From now on the host answers the event with this command; several for one event run in the order given."),
+        command<H::off, kEvent>              ("off",       host,    "Forgets the commands given for the event."),
+        command<H::renew>                    ("new",       host,    "Releases the panel and creates a fresh one; forgets what `on`, `answer`, `meanwhile` and `set` have said."),
 
-        command<&P::click>    ("click",    person,  "WIDGET [left|right|middle]",       "A mouse button, the left one unless another is named, is pressed and released over the widget."),
-        command<&P::release>  ("release",  person,  "WIDGET [left|right|middle]",       "The button is pressed on the widget, dragged off it and released: no click, but the widget gets the release."),
-        command<&P::activate> ("activate", person,  "WIDGET",                           "The widget is activated from the keyboard."),
-        command<&P::key>      ("key",      person,  "WIDGET CODE",                      "A key with this character code, 0 to 65535, is typed while the widget has the focus."),
-        command<&P::pick>     ("pick",     person,  "COMBO TEXT",                       "The item with this text is picked from the drop-down list."),
-        command<&P::slide>    ("slide",    person,  "SLIDER POSITION",                  "The slider is moved to this position, or to the bound nearest to it, and let go."),
-        command<&P::hold>     ("hold",     person,  "SLIDER",                           "The slider's button is pressed and kept pressed."),
-        command<&P::drop>     ("drop",     person,  "SLIDER",                           "The slider's button is let go."),
-        command<&P::tab>      ("tab",      person,  "NUMBER",                           "This tab of the panel, counted from 0, is selected."),
-        command<&P::answer>   ("answer",   person,  "TEXT|cancel",                      "What is typed at the next input prompt that has no answer yet, or that it is cancelled."),
-        command<&P::meanwhile>("meanwhile",person,  "COMMAND …",                        "Queues a command for the midst of another: it is carried out when the panel next raises an event or opens a prompt, before that is done with."),
-        command<&P::resume>   ("resume",   person,  "",                                 "Ends what is queued for one event; what is queued behind it is for the next one, or for a prompt."),
-        command<&P::wait>     ("wait",     person,  "MILLISECONDS",                     "Time passes; timers that come due tick, in order."),
+        deed<Do::click, kOnScreen, kButton>  ("click",              "A mouse button, the left one unless another is named, is pressed and released over the widget."),
+        deed<Do::release, kOnScreen, kButton>("release",            "The button is pressed on the widget, dragged off it and released: no click, but the widget gets the release."),
+        deed<Do::activate, kOnScreen>        ("activate",           "The widget is activated from the keyboard."),
+        deed<Do::key, kOnScreen, kKeyCode>   ("key",                "A key with this character code, 0 to 65535, is typed while the widget has the focus."),
+        deed<Do::pick, kCombo, kText>        ("pick",               "The item with this text is picked from the drop-down list."),
+        deed<Do::slide, kSlider, kPosition>  ("slide",              "The slider is moved to this position, or to the bound nearest to it, and let go."),
+        deed<Do::hold, kSlider>              ("hold",               "The slider's button is pressed and kept pressed."),
+        deed<Do::drop, kSlider>              ("drop",               "The slider's button is let go."),
+        deed<Do::tab, kTab>                  ("tab",                "This tab of the panel, counted from 0, is selected."),
+        command<P::answer, kAnswer>          ("answer",    person,  "What is typed at the next input prompt that has no answer yet, or that it is cancelled."),
+        command<P::meanwhile, kNested>       ("meanwhile", person,  "Queues a command for the midst of another: it is carried out when the panel next raises an event or opens a prompt, before that is done with."),
+        command<P::resume>                   ("resume",    person,  "Ends what is queued for one event; what is queued behind it is for the next one, or for a prompt."),
+        command<P::wait, kMilliseconds>      ("wait",      person,  "Time passes; timers that come due tick, in order."),
 
-        command<&L::show>     ("show",     looking, "WIDGET|Screen",                    "What a widget, or the screen, shows."),
-        command<&L::items>    ("items",    looking, "WIDGET",                           "Lists the items of a list or combo box."),
-        command<&L::drawing>  ("drawing",  looking, "PICTURE",                          "Lists what has been drawn on a picture surface since it was last cleared.", Place::inMemory),
-        command<&L::widgets>  ("widgets",  looking, "",                                 "Lists the widgets: name, kind, container."),
-        command<&L::set>      ("set",      looking, "WIDGET enabled|visible true|false","Changes the layout under the panel's feet."),
-        command<&L::pointer>  ("pointer",  looking, "0|11",                             "Sets the screen's pointer, as a host does that takes the panel's hourglass away."),
-        command<&L::shot>     ("shot",     looking, "FILE",                             "Writes a PNG picture of the panel as it stands on the screen.", Place::inWindow),
-        command<&L::quit>     ("quit",     looking, "",                                 "Ends the program."),
+        command<L::show, kWidgetOrScreen>    ("show",      looking, "What a widget, or the screen, shows."),
+        command<L::items, kItemHolder>       ("items",     looking, "Lists the items of a list or combo box."),
+        command<L::drawing, kPicture>        ("drawing",   looking, "Lists what has been drawn on a picture surface since it was last cleared.", Place::inMemory),
+        command<L::widgets>                  ("widgets",   looking, "Lists the widgets: name, kind, container."),
+        command<L::set, kWidget, kProperty, kTruth>
+                                             ("set",       looking, "Changes the layout under the panel's feet."),
+        command<L::pointer, kPointer>        ("pointer",   looking, "Sets the screen's pointer, as a host does that takes the panel's hourglass away."),
+        command<L::spooler, kPorts>          ("spooler",   looking, "The ports that the print spooler has from now on, for `GetAvailablePorts`; without a name it has none, and its enumeration fails.", Place::inMemory),
+        command<L::shot, kFile>              ("shot",      looking, "Writes a PNG picture of the panel as it stands on the screen.", Place::inWindow),
+        command<L::quit>                     ("quit",      looking, "Ends the program."),
     });
     // clang-format on
 }

@@ -3,6 +3,9 @@
 #include <array>
 #include <utility>
 
+#include "Orvo/core/event_table.h"
+#include "Orvo/core/member_table.h"
+#include "Orvo/values/ignoring_case.h"
 #include "Script/command.h"
 #include "Script/text_of.h"
 
@@ -41,19 +44,47 @@ std::string helpOnAll(const Grammar& grammar) {
     return text;
 }
 
+// A member or an event, as it is called or raised.
+template <class Row>
+std::string helpOn(std::string text, const Row& row) {
+    for (const Parameter& parameter : row.parameters()) text.append(" ").append(parameter.name);
+    return text + '\n' + contractText(row.contract, '\n') + '\n';
+}
+
 std::string helpOn(std::string_view name, const Grammar& grammar) {
-    if (name == kHelp) return "help [COMMAND] lists the commands, or says what one of them does";
+    if (name == kHelp)
+        return "help [NAME] lists the commands, or says what a command, a member or an event does";
+    std::string text;
     const Command* command = findCommand(name);
-    const bool isKnown = command != nullptr && isAllowed(*command, grammar);
-    if (!isKnown) return "There is no command " + excerpt(name) + " here";
-    return usage(*command) + '\n' + std::string(command->help);
+    if (command != nullptr && isAllowed(*command, grammar)) {
+        text = usage(*command) + '\n' + std::string(command->help) + '\n';
+    }
+    for (const Member& member : kMembers) {
+        if (equalIgnoringCase(member.name, name)) text += helpOn(commandText(member, {}), member);
+    }
+    for (const Event& event : kEvents) {
+        if (event.name == name) text += helpOn(eventText(event, {}), event);
+    }
+    if (text.empty()) return "There is no command, member or event " + excerpt(name) + " here";
+    text.pop_back();
+    return text;
 }
 
 }  // namespace
 
 std::string usage(const Command& command) {
     std::string text(command.name);
-    if (!command.words.empty()) text.append(" ").append(command.words);
+    for (const WordKind& kind : command.words) {
+        const bool isOptional = kind.presence == WordKind::Presence::optional;
+        text += isOptional ? " [" + textOf(kind) + ']' : ' ' + textOf(kind);
+    }
+    return text;
+}
+
+std::string contractText(const Contract& contract, char between) {
+    std::string text(contract.effect);
+    if (!contract.values.empty()) (text += between).append(contract.values);
+    if (!contract.errors.empty()) (text += between).append("Error ").append(contract.errors);
     return text;
 }
 
@@ -63,7 +94,7 @@ std::optional<std::string> help(std::string_view line, const Grammar& grammar) {
         if (words.empty() || words.front().source != kHelp) return std::nullopt;
         if (words.size() == 1) return helpOnAll(grammar);
         if (words.size() == 2) return helpOn(words[1].source, grammar);
-        return "help takes one command, not " + excerpt(words[2].source) + " too";
+        return "help takes one name, not " + excerpt(words[2].source) + " too";
     } catch (const Misunderstood&) {
         return std::nullopt;
     }

@@ -2,36 +2,19 @@
 
 #include "Script/answers.h"
 #include "Script/session.h"
+#include "Script/text_of.h"
 
 namespace Orvo::Script::HostSide {
-namespace {
 
-std::string carriedOut(Session& session, const Call& call) {
-    const InvokeResult result = session.bench().invoke(call.dispatchId, call.kind, call.arguments);
+std::string call(Session& session, const Call& call) {
+    const InvokeResult result =
+        session.owner().panel().invoke(call.dispatchId, call.kind, call.arguments);
     if (result.error) throw Error(*result.error);
     return typeOf(result.value) == ValueType::none ? ok() : resultIs(textOf(result.value));
 }
 
-}  // namespace
-
-std::string let(Session& session, const NamedCall<MemberKind::let>& member) {
-    return carriedOut(session, member.call);
-}
-
-std::string get(Session& session, const NamedCall<MemberKind::get>& member) {
-    return carriedOut(session, member.call);
-}
-
-std::string call(Session& session, const NamedCall<MemberKind::method>& member) {
-    return carriedOut(session, member.call);
-}
-
-std::string invoke(Session& session, const LateCall& member) {
-    return carriedOut(session, member.call);
-}
-
-std::string id(Session& /*session*/, const MemberName& member) {
-    return resultIs(dispatchIdText(member.dispatchId));
+std::string id(Session& /*session*/, Long dispatchId) {
+    return resultIs(dispatchIdText(dispatchId));
 }
 
 std::string members(Session& session) {
@@ -52,13 +35,13 @@ std::string events(Session& session) {
     return resultIs(std::to_string(kEvents.size()));
 }
 
-std::string on(Session& session, const EventName& name, const Nested& command) {
-    session.remember(*name.event, command.action);
+std::string on(Session& session, const Event* event, const ParsedCommand& command) {
+    session.remember(*event, command);
     return ok();
 }
 
-std::string off(Session& session, const EventName& name) {
-    session.forget(*name.event);
+std::string off(Session& session, const Event* event) {
+    session.forget(*event);
     return ok();
 }
 

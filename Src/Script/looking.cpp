@@ -5,6 +5,7 @@
 
 #include "Script/answers.h"
 #include "Script/session.h"
+#include "Script/text_of.h"
 
 namespace Orvo::Script::Looking {
 namespace {
@@ -34,8 +35,7 @@ std::string properties(const StoredLabel& label) {
 }
 
 std::string properties(const StoredShape& shape) {
-    const bool isSolid = shape.state().fillStyle == Widgets::FillStyle::solid;
-    return property("fill", std::string_view(isSolid ? "solid" : "transparent"));
+    return property("fill", std::string_view(shape.state().isLit() ? "solid" : "transparent"));
 }
 
 std::string properties(const StoredLine& line) { return property("color", line.state().colour); }
@@ -86,40 +86,7 @@ std::string properties(const StoredSlider& slider) {
            enabled(slider) + property("held", state.isHeld);
 }
 
-std::string propertiesOf(const Store& widgets, WidgetId id) {
-    switch (Layout::describe(id).style.kind) {
-        case Kind::label:
-            return properties(widgets.get<StoredLabel>(id));
-        case Kind::shape:
-            return properties(widgets.get<StoredShape>(id));
-        case Kind::line:
-            return properties(widgets.get<StoredLine>(id));
-        case Kind::button:
-            return properties(widgets.get<StoredButton>(id));
-        case Kind::option:
-            return properties(widgets.get<StoredOption>(id));
-        case Kind::check:
-            return properties(widgets.get<StoredCheck>(id));
-        case Kind::combo:
-            return properties(widgets.get<StoredCombo>(id));
-        case Kind::list:
-            return properties(widgets.get<StoredList>(id));
-        case Kind::picture:
-            return properties(widgets.get<StoredPicture>(id));
-        case Kind::timer:
-            return properties(widgets.get<StoredTimer>(id));
-        case Kind::tabs:
-            return properties(widgets.get<StoredTabs>(id));
-        case Kind::digit:
-            return properties(widgets.get<StoredDigit>(id));
-        case Kind::slider:
-            return properties(widgets.get<StoredSlider>(id));
-        case Kind::frame:
-        case Kind::image:
-            break;
-    }
-    return {};
-}
+std::string properties(const StoredStill& /*still*/) { return {}; }
 
 template <class Items>
 std::string listed(Session& session, const Items& items) {
@@ -160,38 +127,38 @@ private:
 };
 
 std::string_view containerOf(const Layout::Widget& widget) {
-    if (widget.container == Layout::kNoWidget) return "MarvaneAssistant";
+    if (widget.container == Layout::kPanel) return "MarvaneAssistant";
     return Layout::describe(widget.container).name;
 }
 
 }  // namespace
 
 std::string describe(const Store& widgets, WidgetId widget) {
-    const Kind kind = Layout::describe(widget).style.kind;
+    const Kind kind = Layout::kindOf(widget);
     const bool showsItself = kind != Kind::timer;
     return std::string(nameOf(kind)) +
            (showsItself ? property("visible", widgets.widget(widget).isVisible()) : "") +
-           propertiesOf(widgets, widget);
+           widgets.visit(widget, [](const auto& stored) { return properties(stored); });
 }
 
-std::string show(Session& session, const Shown& widget) {
-    const Store& widgets = session.bench().widgets();
-    if (widget.id != Layout::kNoWidget) return resultIs(describe(widgets, widget.id));
+std::string show(Session& session, std::optional<WidgetId> widget) {
+    const Store& widgets = session.person().store();
+    if (widget) return resultIs(describe(widgets, *widget));
     return resultIs("screen" + property("pointer", static_cast<int>(widgets.pointer())));
 }
 
-std::string items(Session& session, const ItemHolder& widget) {
-    const Store& widgets = session.bench().widgets();
-    if (Layout::describe(widget.id).style.kind == Kind::combo) {
-        return listed(session, widgets.get<StoredCombo>(widget.id).state().items);
+std::string items(Session& session, WidgetId widget) {
+    const Store& widgets = session.person().store();
+    if (Layout::kindOf(widget) == Kind::combo) {
+        return listed(session, widgets.get<StoredCombo>(widget).state().items);
     }
-    return listed(session, widgets.get<StoredList>(widget.id).state().items);
+    return listed(session, widgets.get<StoredList>(widget).state().items);
 }
 
-std::string drawing(Session& session, const Picture& picture) {
+std::string drawing(Session& session, WidgetId picture) {
     DrawingList list(session);
-    const auto& widgets = session.bench().widgets();
-    for (const Drawn& drawn : widgets.get<StoredPicture>(picture.id).state().drawing) {
+    const Store& widgets = session.person().store();
+    for (const Drawn& drawn : widgets.get<StoredPicture>(picture).state().drawing) {
         std::visit(list, drawn);
     }
     return resultIs(std::to_string(list.count()));
@@ -208,24 +175,28 @@ std::string widgets(Session& session) {
     return resultIs(std::to_string(Layout::kWidgetCount));
 }
 
-std::string pointer(Session& session, const PointerNumber& number) {
-    session.bench().widgets().mousePointer().setPointer(number.pointer);
-    return ok();
-}
-
-std::string set(Session& session, const AnyWidget& widget, const LayoutProperty& property,
-                const Truth& value) {
-    Store& widgets = session.bench().widgets();
-    if (property.property == LayoutProperty::enabled) {
-        widgets.enable(widget.id, value.value);
+std::string set(Session& session, WidgetId widget, LayoutProperty property, bool value) {
+    Store& widgets = session.person().store();
+    if (property == LayoutProperty::enabled) {
+        widgets.enable(widget, value);
     } else {
-        widgets.show(widget.id, value.value);
+        widgets.show(widget, value);
     }
     return ok();
 }
 
-std::string shot(Session& session, const File& file) {
-    session.bench().shoot(file.name);
+std::string pointer(Session& session, Widgets::Pointer pointer) {
+    session.person().store().mousePointer().setPointer(pointer);
+    return ok();
+}
+
+std::string spooler(Session& session, const Runtime::Ports& ports) {
+    session.person().connectPorts(ports);
+    return ok();
+}
+
+std::string shot(Session& session, const String& file) {
+    session.person().shoot(file);
     return ok();
 }
 

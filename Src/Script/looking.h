@@ -12,14 +12,14 @@ namespace Orvo::Script::Looking {
 /// A widget as `show` prints it.
 std::string describe(const Runtime::Store& widgets, WidgetId widget);
 
-std::string show(Session& session, const Shown& widget);
-std::string items(Session& session, const ItemHolder& widget);
-std::string drawing(Session& session, const Picture& picture);
+std::string show(Session& session, std::optional<WidgetId> widget);
+std::string items(Session& session, WidgetId widget);
+std::string drawing(Session& session, WidgetId picture);
 std::string widgets(Session& session);
-std::string pointer(Session& session, const PointerNumber& number);
-std::string set(Session& session, const AnyWidget& widget, const LayoutProperty& property,
-                const Truth& value);
-std::string shot(Session& session, const File& file);
+std::string set(Session& session, WidgetId widget, LayoutProperty property, bool value);
+std::string pointer(Session& session, Widgets::Pointer pointer);
+std::string spooler(Session& session, const Runtime::Ports& ports);
+std::string shot(Session& session, const String& file);
 std::string quit(Session& session);
 
 }  // namespace Orvo::Script::Looking

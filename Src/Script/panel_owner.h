@@ -1,10 +1,10 @@
 #pragma once
 
 #include <functional>
-#include <list>
-#include <memory>
+#include <utility>
 
 #include "Orvo/core/marvane_assistant.h"
+#include "Orvo/core/receivers.h"
 #include "Orvo/store/store.h"
 
 namespace Orvo::Script {
@@ -12,26 +12,7 @@ namespace Orvo::Script {
 /// Owns a panel with its widgets, and exchanges both for fresh ones. Whoever works with them
 /// subscribes, and asks for them anew after each exchange.
 class PanelOwner {
-    struct Subscriber;
-    using Subscribers = std::list<std::shared_ptr<Subscriber>>;
-
 public:
-    /// Lasts until it is destroyed; it may outlive the owner.
-    class [[nodiscard]] Subscription {
-    public:
-        Subscription() = default;
-        Subscription(Subscription&& other) noexcept = default;
-        Subscription& operator=(Subscription&& other) noexcept;
-        ~Subscription();
-
-    private:
-        friend class PanelOwner;
-        explicit Subscription(std::shared_ptr<Subscriber> subscriber)
-            : subscriber_(std::move(subscriber)) {}
-
-        std::shared_ptr<Subscriber> subscriber_;
-    };
-
     virtual ~PanelOwner() = default;
 
     /// Of the present panel; no longer valid once it is exchanged.
@@ -40,12 +21,19 @@ public:
 
     /// Releases the panel and creates a fresh one; also from within a handler of one of its events
     /// or notifications.
-    void renew();
+    void renew() {
+        subscribers_.tell([](const Subscriber& subscriber) { subscriber.ending(); });
+        exchange();
+        subscribers_.tell([](const Subscriber& subscriber) { subscriber.renewed(); });
+    }
 
     /// `renewed` is called whenever a fresh panel stands in the place of the old one, and nothing
     /// is connected to it yet; `ending` when the old one is about to go. Subscribers are called in
     /// the order in which they subscribed.
-    Subscription onRenewed(std::function<void()> renewed, std::function<void()> ending = {});
+    Connection onRenewed(
+        std::function<void()> renewed, std::function<void()> ending = [] {}) {
+        return subscribers_.add({std::move(renewed), std::move(ending)});
+    }
 
 protected:
     /// Puts a fresh panel in the place of the present one.
@@ -55,12 +43,9 @@ private:
     struct Subscriber {
         std::function<void()> renewed;
         std::function<void()> ending;
-        bool isSubscribed = true;
     };
 
-    void tell(std::function<void()> Subscriber::*what);
-
-    Subscribers subscribers_;
+    Receivers<Subscriber> subscribers_;
 };
 
 }  // namespace Orvo::Script

@@ -1,70 +1,34 @@
 #include "Script/person_side.h"
 
-#include <algorithm>
-
 #include "Script/answers.h"
 #include "Script/session.h"
+#include "Script/text_of.h"
 
 namespace Orvo::Script::PersonSide {
+namespace {
 
-std::string click(Session& session, const Touchable& widget, const Button& button) {
-    session.bench().person().click(widget.id, button.button);
-    return ok();
+bool isForNoItem(const Runtime::Deed& deed, const Runtime::Store& store) {
+    return deed.verb == Runtime::Deed::Verb::pick && store.acceptsInput(deed.widget) &&
+           !store.get<Runtime::StoredCombo>(deed.widget).hasItem(deed.text);
 }
 
-std::string release(Session& session, const Touchable& widget, const Button& button) {
-    session.bench().person().dragOff(widget.id, button.button);
-    return ok();
-}
+}  // namespace
 
-std::string activate(Session& session, const Touchable& widget) {
-    session.bench().person().activate(widget.id);
-    return ok();
-}
-
-std::string key(Session& session, const Touchable& widget, const KeyCode& code) {
-    session.bench().person().type(widget.id, code.value);
-    return ok();
-}
-
-std::string pick(Session& session, const Combo& combo, const Text& item) {
-    const Runtime::Store& widgets = session.bench().widgets();
-    const auto& items = widgets.get<Runtime::StoredCombo>(combo.id).state().items;
-    if (!widgets.acceptsInput(combo.id)) return ok();
-    if (std::find(items.begin(), items.end(), item.value) == items.end()) {
-        throw Misunderstood{"the list has no item " + textOf(StringView(item.value))};
+std::string perform(Session& session, const Runtime::Deed& deed) {
+    if (isForNoItem(deed, session.person().store())) {
+        throw Misunderstood{"the list has no item " + textOf(StringView(deed.text))};
     }
-    session.bench().person().pick(combo.id, item.value);
+    session.person().perform(deed);
     return ok();
 }
 
-std::string slide(Session& session, const Slider& slider, const Position& position) {
-    session.bench().person().slide(slider.id, position.value);
+std::string answer(Session& session, const std::optional<String>& text) {
+    session.queueAnswer(text);
     return ok();
 }
 
-std::string hold(Session& session, const Slider& slider) {
-    session.bench().person().hold(slider.id);
-    return ok();
-}
-
-std::string drop(Session& session, const Slider& slider) {
-    session.bench().person().drop(slider.id);
-    return ok();
-}
-
-std::string tab(Session& session, const TabNumber& number) {
-    session.bench().person().selectTab(number.value);
-    return ok();
-}
-
-std::string answer(Session& session, const Answer& answer) {
-    session.queueAnswer(answer.text);
-    return ok();
-}
-
-std::string meanwhile(Session& session, const Nested& command) {
-    session.queueAction(command.action);
+std::string meanwhile(Session& session, const ParsedCommand& command) {
+    session.queueCommand(command);
     return ok();
 }
 
@@ -73,8 +37,8 @@ std::string resume(Session& session) {
     return ok();
 }
 
-std::string wait(Session& session, const Milliseconds& time) {
-    session.bench().person().wait(time.value);
+std::string wait(Session& session, std::chrono::milliseconds time) {
+    session.person().wait(time);
     return ok();
 }
 

@@ -21,8 +21,11 @@ RecordFile::RecordFile(const std::string& path)
     : path_(path),
       descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kForTheOwner)) {
     if (descriptor_ < 0) throw std::system_error(errno, std::generic_category(), path);
-    // A file that was there already keeps its mode otherwise; what is no file has none to change.
-    static_cast<void>(::fchmod(descriptor_, kForTheOwner));
+    // A file that was there already keeps its mode otherwise; a device's is the system's.
+    struct stat status {};
+    if (::fstat(descriptor_, &status) == 0 && S_ISREG(status.st_mode)) {
+        static_cast<void>(::fchmod(descriptor_, kForTheOwner));
+    }
     isSeekable_ = ::lseek(descriptor_, 0, SEEK_CUR) >= 0;
 }
 

@@ -5,7 +5,7 @@
 #include <utility>
 #include <variant>
 
-#include "Script/deed_text.h"
+#include "Script/command.h"
 #include "Script/text_of.h"
 
 namespace Orvo::Script {
@@ -20,38 +20,40 @@ bool isText(const Value& value) { return std::holds_alternative<String>(value); 
 
 }  // namespace
 
-Recorder::Recorder(const std::string& file, MarvaneAssistant& panel, Runtime::Store& store,
-                   Answers answers)
-    : file_(file), answers_(answers) {
+Recorder::Recorder(const std::string& file, PanelOwner& owner, Answers answers)
+    : owner_(owner),
+      file_(file),
+      answers_(answers),
+      renewals_(owner.onRenewed([this] { hear(); }, [this] { panelEnds(); })) {
     file_.begin(kHeading);
-    panelBegins(panel, store);
+    hear();
 }
 
 Recorder::~Recorder() {
-    store_->input().observeWith(nullptr);
+    store().input().observeWith(nullptr);
     writeWait();
+}
+
+void Recorder::hear() {
+    time_ = store().now();
+    store().input().observeWith(this);
+    calls_ = owner_.panel().listen(*this);
+    events_ = owner_.panel().connect([this](Long dispatchId, std::span<Value> arguments) {
+        raised(eventWith(dispatchId), arguments);
+    });
 }
 
 void Recorder::panelEnds() {
     writeWait();
     write("new");
-    store_->input().observeWith(nullptr);
-    actions_.clear();
+    store().input().observeWith(nullptr);
+    ongoing_.clear();
     resumptions_ = 0;
-}
-
-void Recorder::panelBegins(MarvaneAssistant& panel, Runtime::Store& store) {
-    store_ = &store;
-    time_ = store.now();
-    store.input().observeWith(this);
-    events_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
-        raised(eventWith(dispatchId), arguments);
-    });
 }
 
 void Recorder::pointerIsSet() {
     writeWait();
-    write("pointer " + std::to_string(static_cast<Integer>(store_->pointer())));
+    write("pointer " + std::to_string(static_cast<Integer>(store().pointer())));
 }
 
 void Recorder::called(const Member& member, std::span<const Value> arguments) {
@@ -67,30 +69,30 @@ void Recorder::failed(const Member& /*member*/, const Error& error) {
 
 void Recorder::does(const Runtime::Deed& deed) {
     const bool isMove = deed.verb == Runtime::Deed::Verb::move;
-    begin(deedText(deed), isMove ? std::optional(deed.widget) : std::nullopt);
+    begin(commandText(deed), isMove ? std::optional(deed.widget) : std::nullopt);
 }
 
 void Recorder::did() {
-    if (actions_.empty()) return;
-    const Action deed = actions_.back();
+    if (ongoing_.empty()) return;
+    const Ongoing deed = ongoing_.back();
     end();
     // The language moves a slider and lets go of it in one.
     const auto& slider = deed.movedSlider;
-    if (slider && store_->get<Runtime::StoredSlider>(*slider).state().isHeld) {
-        write(deedText({.verb = Runtime::Deed::Verb::hold, .widget = *slider}));
+    if (slider && store().get<Runtime::StoredSlider>(*slider).state().isHeld) {
+        write(commandText({.verb = Runtime::Deed::Verb::hold, .widget = *slider}));
     }
-    if (deed.isOver && store_->pointer() == Widgets::Pointer::hourglass) pointerIsSet();
+    const bool isBusy = store().pointer() == Widgets::Pointer::hourglass;
+    if (deed.state == State::over && isBusy) pointerIsSet();
 }
 
 void Recorder::answered(const std::optional<String>& answer) {
-    if (actions_.empty() || actions_.back().isOver) return;
+    if (ongoing_.empty() || ongoing_.back().state == State::over) return;
     const bool isTold = answer && answers_ == Answers::inFull;
     writeWait();
     file_.putBefore("answer " + (isTold ? textOf(StringView(*answer)) : "cancel") + '\n');
     // No event takes what stands behind an answer that it hasn't got.
     resumptions_ = 0;
-    actions_.back().hasStopped = false;
-    actions_.back().isOver = answer && !isTold;
+    ongoing_.back().state = answer && !isTold ? State::over : State::running;
 }
 
 void Recorder::raised(const Event& event, std::span<const Value> arguments) {
@@ -104,27 +106,26 @@ void Recorder::raised(const Event& event, std::span<const Value> arguments) {
 void Recorder::begin(std::string_view command, std::optional<Widgets::WidgetId> movedSlider) {
     writeWait();
     write(command);
-    actions_.push_back({.movedSlider = movedSlider});
+    ongoing_.push_back({.movedSlider = movedSlider});
 }
 
 void Recorder::end() {
-    if (actions_.empty()) return;
-    if (actions_.back().hasStopped) ++resumptions_;
-    actions_.pop_back();
+    if (ongoing_.empty()) return;
+    if (ongoing_.back().state == State::stopped) ++resumptions_;
+    ongoing_.pop_back();
 }
 
+// At an event or a prompt; what it was stopped at before is done with.
 void Recorder::stop() {
     writeWait();
-    if (actions_.empty()) return;
-    Action& action = actions_.back();
-    action.isWritten = true;
-    if (!action.isOver && std::exchange(action.hasStopped, true)) ++resumptions_;
+    if (ongoing_.empty() || ongoing_.back().state == State::over) return;
+    if (std::exchange(ongoing_.back().state, State::stopped) == State::stopped) ++resumptions_;
 }
 
-// The first tick after a wait comes of that; what follows it at once does, too.
 bool Recorder::isInTheMidst() const {
-    return std::any_of(actions_.begin(), actions_.end(),
-                       [](const Action& action) { return action.isWritten && !action.isOver; });
+    return std::any_of(ongoing_.begin(), ongoing_.end(), [](const Ongoing& ongoing) {
+        return ongoing.state == State::running || ongoing.state == State::stopped;
+    });
 }
 
 void Recorder::write(std::string_view command) {
@@ -133,13 +134,13 @@ void Recorder::write(std::string_view command) {
         resumptions_ = 0;
         return file_.begin(line);
     }
-    std::string resumptions;
-    for (; resumptions_ > 0; --resumptions_) resumptions += "resume\n";
-    file_.putBefore(resumptions + "meanwhile " + line);
+    std::string queued;
+    for (; resumptions_ > 0; --resumptions_) queued += "resume\n";
+    file_.putBefore(queued + "meanwhile " + line);
 }
 
 void Recorder::writeWait() {
-    auto time = store_->now() - std::exchange(time_, store_->now());
+    auto time = store().now() - std::exchange(time_, store().now());
     while (time.count() > 0) {
         const auto wait = std::min(time, kLongestWait);
         write("wait " + std::to_string(wait.count()));

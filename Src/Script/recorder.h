@@ -8,8 +8,7 @@
 #include <vector>
 
 #include "Orvo/core/call_listener.h"
-#include "Orvo/core/marvane_assistant.h"
-#include "Orvo/store/store.h"
+#include "Script/panel_owner.h"
 #include "Script/record_file.h"
 
 namespace Orvo::Script {
@@ -23,47 +22,49 @@ enum class Answers : std::uint8_t { asCancelled, inFull };
 /// comes of an answer that it doesn't hold is not repeated.
 ///
 /// The store's clock must be run by hand: each timer then ticks in the replay as it ticked here.
-class Recorder final : public CallListener, private Runtime::InputObserver {
+class Recorder final : private CallListener, private Runtime::InputObserver {
 public:
-    /// Begins with the panel fresh, and sees the person and the events by itself; the calls it must
-    /// be told. It must be the first that hears the panel's events. Panel and store live at least
-    /// as long. Throws std::system_error when the file can't be opened.
-    Recorder(const std::string& file, MarvaneAssistant& panel, Runtime::Store& store,
-             Answers answers);
+    /// Begins with the panel fresh, and goes on with later ones. It must be the first that hears
+    /// the panel's events. Throws std::system_error when the file can't be opened.
+    Recorder(const std::string& file, PanelOwner& owner, Answers answers);
     ~Recorder() override;
     Recorder(const Recorder&) = delete;
     Recorder& operator=(const Recorder&) = delete;
 
-    /// The panel is about to be exchanged for a fresh one, and has been.
-    void panelEnds();
-    void panelBegins(MarvaneAssistant& panel, Runtime::Store& store);
-
     /// The host has set the screen's pointer.
     void pointerIsSet();
+
+private:
+    /// Where something stands in the script.
+    enum class State : std::uint8_t {
+        unwritten,  ///< a tick: part of the wait that is written once the tick raises or asks
+        running,
+        stopped,  ///< at an event or a prompt, for what is queued for that
+        /// A prompt was given what the recording doesn't hold. The replay cancels that and is done:
+        /// what else comes of it here comes after it there.
+        over,
+    };
+
+    /// A call, a deed or a tick, while it lasts.
+    struct Ongoing {
+        State state = State::running;
+        std::optional<Widgets::WidgetId> movedSlider = std::nullopt;
+    };
 
     void called(const Member& member, std::span<const Value> arguments) override;
     void returned(const Member& member, const Value& result) override;
     void failed(const Member& member, const Error& error) override;
-
-private:
-    // What goes on: a call, a deed, or a tick that something may come of.
-    struct Action {
-        bool isWritten = true;
-        std::optional<Widgets::WidgetId> movedSlider = std::nullopt;
-        // For an event or a prompt.
-        bool hasStopped = false;
-        // A prompt of it was given what the recording doesn't hold. The replay cancels that and is
-        // done with it: what else comes of it comes after it.
-        bool isOver = false;
-    };
-
     void does(const Runtime::Deed& deed) override;
     void did() override;
     void asks() override { stop(); }
     void answered(const std::optional<String>& answer) override;
-    void ticks() override { actions_.push_back({.isWritten = false}); }
+    void ticks() override { ongoing_.push_back({.state = State::unwritten}); }
     void ticked() override { end(); }
     void raised(const Event& event, std::span<const Value> arguments);
+
+    void hear();
+    void panelEnds();
+    Runtime::Store& store() { return owner_.store(); }
 
     void begin(std::string_view command, std::optional<Widgets::WidgetId> movedSlider = {});
     void end();
@@ -73,14 +74,16 @@ private:
     void write(std::string_view command);
     void writeWait();
 
+    PanelOwner& owner_;
     RecordFile file_;
-    Runtime::Store* store_ = nullptr;
     Answers answers_;
     std::chrono::milliseconds time_{0};
-    std::vector<Action> actions_;
-    // Events that are done with, which the script must resume from before it can go on.
+    std::vector<Ongoing> ongoing_;  // each in the midst of the one before
+    // How many events are done with, for whose end the script has no "resume" yet.
     int resumptions_ = 0;
+    Connection renewals_;
     Connection events_;
+    Connection calls_;
 };
 
 }  // namespace Orvo::Script

@@ -30,9 +30,10 @@ int open(const std::string& file) {
 
 }  // namespace
 
-ScriptRunner::ScriptRunner(Bench& bench, const Grammar& grammar, int descriptor, std::string name,
-                           AtComplaint atComplaint, std::function<void()> beforeWaiting)
-    : session_(bench, grammar, [this](std::string_view line) { output_.line(line); }),
+ScriptRunner::ScriptRunner(PanelOwner& owner, Person& person, const Grammar& grammar,
+                           int descriptor, std::string name, AtComplaint atComplaint,
+                           std::function<void()> beforeWaiting)
+    : session_(owner, person, grammar, [this](std::string_view line) { output_.line(line); }),
       lines_(descriptor,
              [this, beforeWaiting = std::move(beforeWaiting)] {
                  output_.flush();
@@ -71,11 +72,11 @@ std::string_view withoutByteOrderMark(std::string_view line) {
     return line;
 }
 
-Status runScript(Bench& bench, const Grammar& grammar, const std::string& file,
+Status runScript(PanelOwner& owner, Person& person, const Grammar& grammar, const std::string& file,
                  AtComplaint atComplaint, const std::function<void(int)>& beforeWaiting) {
     const bool isInput = file == "-";
     const int descriptor = isInput ? STDIN_FILENO : open(file);
-    ScriptRunner script(bench, grammar, descriptor, isInput ? "<stdin>" : file, atComplaint,
+    ScriptRunner script(owner, person, grammar, descriptor, isInput ? "<stdin>" : file, atComplaint,
                         [&] { beforeWaiting(descriptor); });
     return script.run() ? done : notUnderstood;
 }

@@ -21,8 +21,9 @@ enum class AtComplaint : std::uint8_t { stop, goOn };
 class ScriptRunner {
 public:
     /// `beforeWaiting` is called before every read, which may wait for whoever writes.
-    ScriptRunner(Bench& bench, const Grammar& grammar, int descriptor, std::string name,
-                 AtComplaint atComplaint, std::function<void()> beforeWaiting = {});
+    ScriptRunner(PanelOwner& owner, Person& person, const Grammar& grammar, int descriptor,
+                 std::string name, AtComplaint atComplaint,
+                 std::function<void()> beforeWaiting = {});
 
     /// Whether every command was understood. Throws std::system_error when reading or writing
     /// fails.
@@ -53,7 +54,7 @@ enum Status { done, notUnderstood, cannotRun };
 /// Runs the script of a file, of standard input for "-". `beforeWaiting` is told what is read from.
 /// Throws std::system_error when the file can't be opened or read.
 Status runScript(
-    Bench& bench, const Grammar& grammar, const std::string& file, AtComplaint atComplaint,
-    const std::function<void(int descriptor)>& beforeWaiting = [](int) {});
+    PanelOwner& owner, Person& person, const Grammar& grammar, const std::string& file,
+    AtComplaint atComplaint, const std::function<void(int descriptor)>& beforeWaiting = [](int) {});
 
 }  // namespace Orvo::Script

@@ -49,9 +49,41 @@ private:
     Session& session_;
 };
 
-Session::Session(Bench& bench, const Grammar& grammar, Output output)
-    : bench_(bench), grammar_(grammar), output_(std::move(output)) {
-    bench_.tell(this);
+Session::Session(PanelOwner& owner, Person* person, const Grammar& grammar, Output output,
+                 UnawaitedErrors errors)
+    : owner_(owner),
+      person_(person),
+      grammar_(grammar),
+      output_(std::move(output)),
+      errors_(errors),
+      renewals_(owner.onRenewed([this] { connect(); })) {
+    connect();
+}
+
+Session::Session(PanelOwner& owner, Person& person, const Grammar& grammar, Output output,
+                 UnawaitedErrors errors)
+    : Session(owner, &person, grammar, std::move(output), errors) {}
+
+Session::Session(PanelOwner& owner, const Grammar& grammar, Output output)
+    : Session(owner, nullptr, grammar, std::move(output), UnawaitedErrors::areTheOwners) {}
+
+Session::~Session() {
+    if (person_ != nullptr) person_->store().promptWith(prompterBefore_);
+    if (errors_ == UnawaitedErrors::closeTheCommand) owner_.panel().setErrorHandler({});
+}
+
+void Session::connect() {
+    MarvaneAssistant& panel = owner_.panel();
+    events_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
+        raised(eventWith(dispatchId), arguments);
+    });
+    if (person_ != nullptr) {
+        prompterBefore_ = person_->store().prompter();
+        person_->store().promptWith(this);
+    }
+    if (errors_ == UnawaitedErrors::closeTheCommand) {
+        panel.setErrorHandler([this](const Error& error) { failed(error); });
+    }
 }
 
 std::optional<Misunderstood> Session::run(std::string_view text) {
@@ -67,9 +99,9 @@ std::optional<Misunderstood> Session::run(std::string_view text) {
 
 void Session::row(std::string_view text) { line("- " + std::string(text)); }
 
-void Session::remember(const Event& event, Action action) {
+void Session::remember(const Event& event, ParsedCommand command) {
     if (handlersOf(event).size() == kMostHandlers) throw Errors::outOfMemory();
-    handlersOf(event).push_back(std::make_shared<Handler>(Handler{std::move(action)}));
+    handlersOf(event).push_back(std::make_shared<Handler>(Handler{std::move(command)}));
 }
 
 void Session::forget(const Event& event) {
@@ -77,10 +109,14 @@ void Session::forget(const Event& event) {
     handlersOf(event).clear();
 }
 
-void Session::renew() {
+void Session::forgetHandlers() {
     for (const Event& event : kEvents) forget(event);
+}
+
+void Session::renew() {
+    forgetHandlers();
     queue_.clear();
-    bench_.renew();
+    owner_.renew();
 }
 
 void Session::raised(const Event& event, std::span<const Value> arguments) {
@@ -93,7 +129,7 @@ void Session::raised(const Event& event, std::span<const Value> arguments) {
 
 void Session::handle(const Handlers& handlers) {
     for (const auto& handler : handlers) {
-        if (!handler->isForgotten && !isExhausted_) perform(handler->action);
+        if (!handler->isForgotten && !isExhausted_) perform(handler->command);
     }
 }
 
@@ -106,14 +142,14 @@ std::optional<What> Session::takeQueued() {
 }
 
 void Session::performQueued() {
-    while (const auto action = takeQueued<Action>()) perform(*action);
+    while (const auto command = takeQueued<ParsedCommand>()) perform(*command);
 }
 
 void Session::failed(const Error& error) {
     if (frame_ != nullptr && !frame_->error) frame_->error = error;
 }
 
-std::optional<String> Session::asked(const Widgets::Question& question) {
+std::optional<String> Session::ask(const Widgets::Question& question) {
     std::optional<String> answer = queuedAnswer();
     const std::string typed = answer ? textOf(StringView(*answer)) : "cancel";
     line("prompt " + textOf(StringView(question.text)) + ' ' + textOf(StringView(question.title)) +
@@ -131,18 +167,18 @@ std::optional<String> Session::queuedAnswer() {
     return answer ? answer->text : std::nullopt;
 }
 
-void Session::perform(const Action& action) {
+void Session::perform(const ParsedCommand& command) {
     if (depth_ > kDeepest) {
         isExhausted_ = true;
         return line(failure(outOfStackSpace()));
     }
-    line(closingLine(action));
+    line(closingLine(command));
 }
 
-std::string Session::closingLine(const Action& action) {
+std::string Session::closingLine(const ParsedCommand& command) {
     Frame frame(*this);
     try {
-        std::string closing = action(*this);
+        std::string closing = command(*this);
         return frame.error ? failure(*frame.error) : closing;
     } catch (const Error& error) {
         return failure(error);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -12,48 +13,57 @@
 #include <variant>
 #include <vector>
 
-#include "Script/bench.h"
 #include "Script/command.h"
+#include "Script/panel_owner.h"
+#include "Script/person.h"
 
 namespace Orvo::Script {
 
-/// Carries out panel script on a bench, one line after the other, and hands out the lines of the
+/// What becomes of the panel's errors that nobody waits for.
+enum class UnawaitedErrors : std::uint8_t { closeTheCommand, areTheOwners };
+
+/// Carries out panel script on a panel, one line after the other, and hands out the lines of the
 /// answers as they arise, without line breaks.
-class Session final : public PanelListener {
+class Session final : private Runtime::Prompter {
 public:
     using Output = std::function<void(std::string_view line)>;
 
-    /// The session hears of the panel for as long as it lives.
-    Session(Bench& bench, const Grammar& grammar, Output output);
-    ~Session() override { bench_.tell(nullptr); }
+    /// Plays both sides of the panel for as long as it lives: prompts are its own to answer.
+    Session(PanelOwner& owner, Person& person, const Grammar& grammar, Output output,
+            UnawaitedErrors errors = UnawaitedErrors::closeTheCommand);
+    /// Plays the host alone, with a grammar that knows no other side. Prompts and errors stay with
+    /// the panel's owner.
+    Session(PanelOwner& owner, const Grammar& grammar, Output output);
+    ~Session() override;
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
     /// Answers one line. What was not understood of it, if anything, in a handler too.
     std::optional<Misunderstood> run(std::string_view text);
     [[nodiscard]] bool hasQuit() const { return hasQuit_; }
+    /// Whether an event or a prompt is being handled.
+    [[nodiscard]] bool isInTheMidst() const { return depth_ > 0; }
 
     // What the commands work with.
 
-    [[nodiscard]] Bench& bench() const { return bench_; }
+    [[nodiscard]] PanelOwner& owner() const { return owner_; }
+    [[nodiscard]] Person& person() const { return *person_; }
     /// One row of a listing.
     void row(std::string_view text);
-    void remember(const Event& event, Action action);
+    void remember(const Event& event, ParsedCommand command);
     void forget(const Event& event);
+    /// Of all events.
+    void forgetHandlers();
     /// What the person does at the next prompt that has no answer yet.
     void queueAnswer(std::optional<String> answer) {
         queue_.emplace_back(Answer{std::move(answer)});
     }
     /// What is done in the midst of a command, when the panel next raises an event or opens a
     /// prompt; and where that ends for an event.
-    void queueAction(Action action) { queue_.emplace_back(std::move(action)); }
+    void queueCommand(ParsedCommand command) { queue_.emplace_back(std::move(command)); }
     void queueResumption() { queue_.emplace_back(Resumption{}); }
     void renew();
     void quit() { hasQuit_ = true; }
-
-    void raised(const Event& event, std::span<const Value> arguments) override;
-    void failed(const Error& error) override;
-    std::optional<String> asked(const Widgets::Question& question) override;
 
 private:
     class Frame;
@@ -61,7 +71,7 @@ private:
 
     // What the host does when an event is raised, until it is forgotten.
     struct Handler {
-        Action action;
+        ParsedCommand command;
         bool isForgotten = false;
     };
     using Handlers = std::vector<std::shared_ptr<Handler>>;
@@ -70,7 +80,14 @@ private:
         std::optional<String> text;
     };
     struct Resumption {};
-    using Queued = std::variant<Answer, Action, Resumption>;
+    using Queued = std::variant<Answer, ParsedCommand, Resumption>;
+
+    Session(PanelOwner& owner, Person* person, const Grammar& grammar, Output output,
+            UnawaitedErrors errors);
+    void connect();
+    void raised(const Event& event, std::span<const Value> arguments);
+    void failed(const Error& error);
+    std::optional<String> ask(const Widgets::Question& question) override;
 
     void handle(const Handlers& handlers);
     void performQueued();
@@ -78,15 +95,18 @@ private:
     template <class What>
     std::optional<What> takeQueued();
 
-    void perform(const Action& action);
-    std::string closingLine(const Action& action);
+    void perform(const ParsedCommand& command);
+    std::string closingLine(const ParsedCommand& command);
     std::string complaint(const Misunderstood& misunderstood);
     void line(std::string_view text);
     Handlers& handlersOf(const Event& event);
 
-    Bench& bench_;
-    Grammar grammar_;
-    Output output_;
+    PanelOwner& owner_;
+    Person* const person_;
+    const Grammar grammar_;
+    const Output output_;
+    const UnawaitedErrors errors_;
+    Runtime::Prompter* prompterBefore_ = nullptr;
     std::array<Handlers, kEvents.size()> handlers_;
     std::deque<Queued> queue_;
     Frame* frame_ = nullptr;
@@ -94,6 +114,8 @@ private:
     bool isExhausted_ = false;
     bool hasQuit_ = false;
     std::optional<Misunderstood> firstComplaint_;
+    Connection renewals_;
+    Connection events_;
 };
 
 }  // namespace Orvo::Script

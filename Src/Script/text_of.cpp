@@ -13,15 +13,11 @@ namespace {
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 constexpr std::size_t kLongestExcerpt = 40;
 
-// By the values of ValueType, of MemberKind and of Kind.
+// By the values of ValueType and of MemberKind.
 constexpr auto kTypeNames = std::to_array<std::string_view>(
     {"value", "Boolean", "Integer", "Long", "number", "String", "Integer array"});
 constexpr auto kMemberKindNames = std::to_array<std::string_view>({"method", "get", "let"});
-constexpr auto kKindNames = std::to_array<std::string_view>(
-    {"label", "shape", "line", "frame", "button", "option", "check", "combo", "list", "picture",
-     "image", "timer", "tabs", "digit", "slider"});
 static_assert(kTypeNames.size() == static_cast<std::size_t>(ValueType::array) + 1);
-static_assert(kKindNames.size() == static_cast<std::size_t>(Widgets::Kind::slider) + 1);
 
 std::string hexadecimal(std::uint32_t value, std::size_t width) {
     std::string digits(width, '0');
@@ -142,7 +138,6 @@ std::string_view nameOf(MemberKind kind) {
 }
 
 std::string_view nameOf(ValueType type) { return kTypeNames[static_cast<std::size_t>(type)]; }
-std::string_view nameOf(Widgets::Kind kind) { return kKindNames[static_cast<std::size_t>(kind)]; }
 
 std::string excerpt(std::string_view source) {
     const String text = fromUtf8(source.substr(0, 4 * kLongestExcerpt));

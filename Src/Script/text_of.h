@@ -9,7 +9,6 @@
 #include "Orvo/core/value.h"
 #include "Orvo/values/error.h"
 #include "Orvo/values/types.h"
-#include "Orvo/widgets/kind.h"
 #include "Orvo/widgets/widgets.h"
 
 // Values as the language prints them; a word that is printed is read back as the same value.
@@ -38,7 +37,6 @@ std::string dispatchIdText(Long dispatchId);
 
 std::string_view nameOf(ValueType type);
 std::string_view nameOf(MemberKind kind);
-std::string_view nameOf(Widgets::Kind kind);
 
 /// A piece of a line, as a complaint quotes it: shortened when it is long.
 std::string excerpt(std::string_view source);

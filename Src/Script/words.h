@@ -20,12 +20,17 @@ struct Misunderstood {
 
 /// One word of a line.
 struct Word {
-    enum class Form : std::uint8_t { bare, quoted, array };
+    enum class Form : std::uint8_t {
+        bare,
+        quoted,
+        array,
+        sought,  ///< stands for the word that a completion is sought for
+    };
 
     Form form = Form::bare;
-    std::string_view source;  ///< as it stands in the line
-    std::size_t offset = 0;   ///< in bytes from the start of the line
-    String text{};            ///< of a quoted word, its escapes replaced
+    std::string_view source{};  ///< as it stands in the line
+    std::size_t offset = 0;     ///< in bytes from the start of the line
+    String text{};              ///< of a quoted word, its escapes replaced
     IntegerArray array{};
 };
 

@@ -58,36 +58,36 @@ void Amplifier::set(Fault fault, bool isOn) {
     }
 }
 
-void Amplifier::obey(const Command& command) {
-    std::visit([this](const auto& one) { carryOut(one); }, command);
+void Amplifier::obey(const Request& request) {
+    std::visit([this](const auto& one) { carryOut(one); }, request);
 }
 
-void Amplifier::carryOut(const SwitchPower& command) {
-    if (hasMains()) isSwitchedOn_ = command.isOn;
+void Amplifier::carryOut(const SwitchPower& request) {
+    if (hasMains()) isSwitchedOn_ = request.isOn;
 }
 
-void Amplifier::carryOut(const SetMute& command) {
+void Amplifier::carryOut(const SetMute& request) {
     for (Integer i = 1; i <= channelCount(); ++i) {
-        if (command.channel == 0 || command.channel == i) channel(i).setMuted(command.isMuted);
+        if (request.channel == 0 || request.channel == i) channel(i).setMuted(request.isMuted);
     }
 }
 
-void Amplifier::carryOut(const SetVolume& command) {
-    if (exists(command.channel)) channel(command.channel).setVolume(command.decibels);
+void Amplifier::carryOut(const SetVolume& request) {
+    if (exists(request.channel)) channel(request.channel).setVolume(request.decibels);
 }
 
-void Amplifier::carryOut(const StartGenerator& command) {
-    if (!exists(command.channel)) return;
-    pairs_[pairOf(command.channel)].startGenerator(inPair(command.channel), command.signal,
-                                                   command.input);
+void Amplifier::carryOut(const StartGenerator& request) {
+    if (!exists(request.channel)) return;
+    pairs_[pairOf(request.channel)].startGenerator(inPair(request.channel), request.signal,
+                                                   request.input);
 }
 
-void Amplifier::carryOut(const SetVirtualTemperature& command) {
-    if (command.pair < 1 || command.pair * kChannelsPerPair > channelCount()) return;
-    pairs_[static_cast<std::size_t>(command.pair - 1)].setVirtualTemperature(command.degrees);
+void Amplifier::carryOut(const SetVirtualTemperature& request) {
+    if (request.pair < 1 || request.pair * kChannelsPerPair > channelCount()) return;
+    pairs_[static_cast<std::size_t>(request.pair - 1)].setVirtualTemperature(request.degrees);
 }
 
-void Amplifier::carryOut(const SetInformation& command) { information_ = command.information; }
+void Amplifier::carryOut(const SetInformation& request) { information_ = request.information; }
 
 bool Amplifier::hasMains() const { return now_ > kMainsDelay && !has(Fault::mainsFailure); }
 
@@ -153,12 +153,12 @@ void Amplifier::addPairs(std::vector<Reading>& readings) const {
     }
 }
 
-std::vector<Trace> Amplifier::traces() const {
-    std::vector<Trace> traces;
+std::vector<ScopeFrame> Amplifier::scopeFrames() const {
+    std::vector<ScopeFrame> frames;
     for (Integer i = 1; i <= channelCount(); ++i) {
-        traces.push_back({i, pairs_[pairOf(i)].frame(inPair(i))});
+        frames.push_back({i, pairs_[pairOf(i)].frame(inPair(i))});
     }
-    return traces;
+    return frames;
 }
 
 std::vector<std::string> Amplifier::internalData() const {

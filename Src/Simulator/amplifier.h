@@ -15,7 +15,7 @@ namespace Orvo::Simulator {
 
 enum class PowerAtStart : std::uint8_t { off, on };
 
-/// The amplifier: four channels in two pairs, on a clock of its own. The same seed, commands and
+/// The amplifier: four channels in two pairs, on a clock of its own. The same seed, requests and
 /// steps give the same life. It knows neither link nor panel.
 class Amplifier {
 public:
@@ -26,7 +26,7 @@ public:
     void step();
 
     /// Does what the host asks for, as far as there is mains and the channel or pair exists.
-    void obey(const Command& command);
+    void obey(const Request& request);
 
     /// Faults of the link are none of its own.
     void set(Fault fault, bool isOn);
@@ -34,18 +34,18 @@ public:
     /// All readings, in the order in which they are best shown.
     [[nodiscard]] std::vector<Reading> readings() const;
     /// A frame for the scope of each channel that is there.
-    [[nodiscard]] std::vector<Trace> traces() const;
+    [[nodiscard]] std::vector<ScopeFrame> scopeFrames() const;
     /// Its internal data, as lines of text.
     [[nodiscard]] std::vector<std::string> internalData() const;
 
 private:
-    void carryOut(const SwitchPower& command);
-    void carryOut(const SetMute& command);
-    void carryOut(const SetVolume& command);
-    void carryOut(const StartGenerator& command);
-    void carryOut(const SetVirtualTemperature& command);
-    void carryOut(const SetInformation& command);
-    void carryOut(const AskInternalData& /*command*/) {}
+    void carryOut(const SwitchPower& request);
+    void carryOut(const SetMute& request);
+    void carryOut(const SetVolume& request);
+    void carryOut(const StartGenerator& request);
+    void carryOut(const SetVirtualTemperature& request);
+    void carryOut(const SetInformation& request);
+    void carryOut(const AskInternalData& /*request*/) {}
 
     [[nodiscard]] bool has(Fault fault) const { return faults_.test(indexOf(fault)); }
     [[nodiscard]] bool hasMains() const;

@@ -27,20 +27,19 @@ constexpr std::size_t indexOf(Fault fault) { return static_cast<std::size_t>(fau
 /// For a menu, in the order of the faults.
 struct FaultRow {
     Fault fault;
-    std::string_view name;         ///< one word
     std::string_view description;  ///< as a menu shows it
 };
 
 constexpr std::array<FaultRow, kFaultCount> kFaults{{
-    {Fault::linkLoss, "link", "Link lost"},
-    {Fault::garbledReplies, "garbled", "Replies garbled"},
-    {Fault::mainsFailure, "mains", "Mains failure"},
-    {Fault::secondPairMissing, "pair34", "Second pair missing"},
-    {Fault::overTemperature, "heat", "Over-temperature"},
-    {Fault::shortOnChannel1, "short1", "Short circuit on channel 1"},
-    {Fault::shortOnChannel2, "short2", "Short circuit on channel 2"},
-    {Fault::shortOnChannel3, "short3", "Short circuit on channel 3"},
-    {Fault::shortOnChannel4, "short4", "Short circuit on channel 4"},
+    {Fault::linkLoss, "Link lost"},
+    {Fault::garbledReplies, "Replies garbled"},
+    {Fault::mainsFailure, "Mains failure"},
+    {Fault::secondPairMissing, "Second pair missing"},
+    {Fault::overTemperature, "Over-temperature"},
+    {Fault::shortOnChannel1, "Short circuit on channel 1"},
+    {Fault::shortOnChannel2, "Short circuit on channel 2"},
+    {Fault::shortOnChannel3, "Short circuit on channel 3"},
+    {Fault::shortOnChannel4, "Short circuit on channel 4"},
 }};
 
 }  // namespace Orvo::Simulator

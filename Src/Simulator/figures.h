@@ -82,7 +82,7 @@ namespace LinkFigures {
 constexpr Milliseconds kLatency{40};              ///< one way
 constexpr Milliseconds kStartUp{200};             ///< until the amplifier at the other end talks
 constexpr Milliseconds kStatusInterval{100};      ///< between two reports of all readings
-constexpr Milliseconds kTraceInterval{50};        ///< between two frames of each scope
+constexpr Milliseconds kFrameInterval{50};        ///< between two frames of each scope
 constexpr Milliseconds kSilenceIsLoss{600};       ///< after which the host takes the link for lost
 constexpr Milliseconds kAnswerIsDue{500};         ///< after which the host waits no longer
 constexpr Milliseconds kQuickTestPace{400};       ///< between two rows of the quick test

@@ -13,7 +13,7 @@
 // What goes over the link.
 namespace Orvo::Simulator {
 
-// The host's commands. Channels count from 1 to 4, pairs from 1 to 2, as the panel counts them.
+// What the host asks for. Channels count from 1 to 4, pairs from 1 to 2, as the panel counts them.
 
 struct SwitchPower {
     bool isOn = false;
@@ -49,12 +49,12 @@ struct SetInformation {
 };
 struct AskInternalData {};
 
-using Command = std::variant<SwitchPower, SetMute, SetVolume, StartGenerator, SetVirtualTemperature,
+using Request = std::variant<SwitchPower, SetMute, SetVolume, StartGenerator, SetVirtualTemperature,
                              SetInformation, AskInternalData>;
 
-struct Request {
+struct SentRequest {
     std::uint32_t number = 0;
-    Command command;
+    Request request;
 };
 
 // What the amplifier sends.
@@ -89,18 +89,18 @@ struct Status {
     std::optional<std::uint32_t> answered;  ///< the request that has just been obeyed
 };
 
-/// A scope's frame: samples from index 1 on, as the panel draws them.
-struct Trace {
+/// Samples from index 1 on, as the panel draws them.
+struct ScopeFrame {
     Integer channel = 0;
     IntegerArray samples;
 };
 
 /// Lines for the message log.
-struct Page {
+struct InternalData {
     std::vector<std::string> lines;
 };
 
-using Content = std::variant<Status, Trace, Page>;
+using Content = std::variant<Status, ScopeFrame, InternalData>;
 
 struct Message {
     Content content;

@@ -4,24 +4,20 @@
 #include <utility>
 #include <vector>
 
+#include "Orvo/generator/grid.h"
+#include "Orvo/generator/trace.h"
+
 namespace Orvo::Simulator {
 namespace {
 
-// The panel draws sample s at (1.07 s - 8.96) / 255 of the height of its scopes, 95 pixels. On
-// these its grid has a mark every 10 pixels, for 30 V, the one for 0 V at 50.
-constexpr double kHeight = 95;
-constexpr double kPixelsPerVolt = 10.0 / 30;
-constexpr double kSamplesPerPixel = 255 / (1.07 * kHeight);
-constexpr double kZero = 50 * kSamplesPerPixel + 8.96 / 1.07;
-constexpr double kSamplesPerVolt = kPixelsPerVolt * kSamplesPerPixel;
+constexpr float kScopeHeight = 95;  // pixels
 
 }  // namespace
 
 Integer sampleOf(double volts) {
-    return static_cast<Integer>(std::lround(kZero - volts * kSamplesPerVolt));
+    const double y = gridY(volts, kScopeHeight);
+    return static_cast<Integer>(std::lround(sampleAt(y, double{kScopeHeight})));
 }
-
-double voltsOf(Integer sample) { return (kZero - sample) / kSamplesPerVolt; }
 
 IntegerArray scopeFrame(const std::function<double(double place)>& volts) {
     std::vector<Integer> samples;

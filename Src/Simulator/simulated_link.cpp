@@ -17,16 +17,16 @@ Amplifier& SimulatedLink::amplifier() {
 
 void SimulatedLink::step() {
     now_ += kStep;
-    toAmplifier_.deliver(now_, [this](const Request& request) { obey(request); });
+    toAmplifier_.deliver(now_, [this](const SentRequest& sent) { obey(sent); });
     amplifier().step();
     if (now_ % kStatusInterval == Milliseconds(0)) replyStatus(std::nullopt);
-    if (now_ % kTraceInterval != Milliseconds(0)) return;
-    for (Trace& trace : amplifier().traces()) reply(std::move(trace));
+    if (now_ % kFrameInterval != Milliseconds(0)) return;
+    for (ScopeFrame& frame : amplifier().scopeFrames()) reply(std::move(frame));
 }
 
-std::uint32_t SimulatedLink::send(Command command) {
+std::uint32_t SimulatedLink::send(Request request) {
     ++sent_;
-    if (isUp()) toAmplifier_.put(now_, {sent_, std::move(command)});
+    if (isUp()) toAmplifier_.put(now_, {sent_, std::move(request)});
     return sent_;
 }
 
@@ -55,12 +55,12 @@ void SimulatedLink::restart() {
     upAt_ = now_ + kStartUp;
 }
 
-void SimulatedLink::obey(const Request& request) {
-    amplifier().obey(request.command);
-    if (std::holds_alternative<AskInternalData>(request.command)) {
-        reply(Page{amplifier().internalData()});
+void SimulatedLink::obey(const SentRequest& sent) {
+    amplifier().obey(sent.request);
+    if (std::holds_alternative<AskInternalData>(sent.request)) {
+        reply(InternalData{amplifier().internalData()});
     }
-    replyStatus(request.number);
+    replyStatus(sent.number);
 }
 
 void SimulatedLink::replyStatus(std::optional<std::uint32_t> answered) {

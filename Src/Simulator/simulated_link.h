@@ -22,8 +22,8 @@ public:
     /// Lets `kStep` pass.
     void step();
 
-    /// Sends a command on its way. The number of the request, which rises from 1.
-    std::uint32_t send(Command command);
+    /// Sends a request on its way. The number of the request, which rises from 1.
+    std::uint32_t send(Request request);
     /// Hands over the messages that have arrived.
     void receive(const std::function<void(const Message&)>& receiver);
 
@@ -38,7 +38,7 @@ private:
     Amplifier& amplifier();
     [[nodiscard]] bool isUp() const;
     void restart();
-    void obey(const Request& request);
+    void obey(const SentRequest& sent);
     void reply(Content content);
     void replyStatus(std::optional<std::uint32_t> answered);
 
@@ -49,7 +49,7 @@ private:
     std::bitset<kFaultCount> faults_;
     Milliseconds now_{0};
     Milliseconds upAt_ = LinkFigures::kStartUp;
-    DelayLine<Request> toAmplifier_{LinkFigures::kLatency};
+    DelayLine<SentRequest> toAmplifier_{LinkFigures::kLatency};
     DelayLine<Message> toHost_{LinkFigures::kLatency};
     std::uint32_t sent_ = 0;
 };

@@ -28,7 +28,7 @@ struct Kind {
     int depth = 0;  // as a bitmap's header has it; 0 for others
 };
 
-TEST(PicturesTest, AreOfTheirKindsAndSizes) {
+TEST(Pictures, AreOfTheirKindsAndSizes) {
     const Kind kinds[] = {{"common-tab.bmp", "BMP", {629, 453}, 16},
                           {"pair-tab.jpg", "JPG", {700, 432}, 0},
                           {"toolbox.bmp", "BMP", {16, 15}, 4},
@@ -43,7 +43,7 @@ TEST(PicturesTest, AreOfTheirKindsAndSizes) {
 }
 
 // The length that a record says it has leads to the next; the header has counted them.
-TEST(PicturesTest, MetafilesAreWellFormed) {
+TEST(Pictures, MetafilesAreWellFormed) {
     for (const char* file : {"power-up.emf", "power-down.emf"}) {
         constexpr quint32 kEnd = 14;
         const QByteArray bytes = kept(file);
@@ -76,7 +76,7 @@ int difference(const QByteArray& a, const QByteArray& b) {
     return largest;
 }
 
-TEST(PicturesTest, AreWhatTheDrawingsMakeToday) {
+TEST(Pictures, AreWhatTheDrawingsMakeToday) {
     for (const Picture& picture : pictures()) {
         const QByteArray file = kept(picture.file);
         const QByteArray made = picture.make();

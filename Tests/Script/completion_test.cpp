@@ -16,7 +16,7 @@ Words completions(std::string_view before, std::string_view typed) {
     return completions(before, typed, kInMemory);
 }
 
-TEST(Completion, offersWhatMayStandInThePlace) {
+TEST(Completion, OffersWhatMayStandInThePlace) {
     EXPECT_EQ(completions("", "he"), Words{"help"});
     EXPECT_EQ(completions("help ", "in"), Words{"invoke"});
     EXPECT_EQ(completions("help let ", "in"), Words{});
@@ -43,7 +43,7 @@ TEST(Completion, offersWhatMayStandInThePlace) {
     EXPECT_EQ(completions("nonsense ", ""), Words{});
 }
 
-TEST(Help, isThereForEveryCommandOfAPlace) {
+TEST(Help, IsThereForEveryCommandOfAPlace) {
     for (const Grammar& grammar : {kInMemory, kInWindow}) {
         for (const Command& command : allCommands()) {
             const bool isKnown = isAllowed(command, grammar);
@@ -53,11 +53,19 @@ TEST(Help, isThereForEveryCommandOfAPlace) {
             EXPECT_EQ(listed != std::string::npos, isKnown) << command.name;
         }
     }
-    EXPECT_EQ(help("help shot", kInMemory), "There is no command \"shot\" here");
-    EXPECT_EQ(help("help nonsense", kInWindow), "There is no command \"nonsense\" here");
-    EXPECT_EQ(help("help let x", kInMemory), "help takes one command, not \"x\" too");
-    EXPECT_TRUE(help("help help", kInMemory)->starts_with("help [COMMAND] "));
+    EXPECT_EQ(help("help shot", kInMemory), "There is no command, member or event \"shot\" here");
+    EXPECT_EQ(help("help nonsense", kInWindow),
+              "There is no command, member or event \"nonsense\" here");
+    EXPECT_EQ(help("help let x", kInMemory), "help takes one name, not \"x\" too");
+    EXPECT_TRUE(help("help help", kInMemory)->starts_with("help [NAME] "));
     EXPECT_FALSE(help("get Mute 1", kInMemory));
+}
+
+TEST(Help, givesTheContractsOfWhatHasTheName) {
+    EXPECT_EQ(help("help reset", kInMemory), "event reset\nNever raised.");
+    EXPECT_EQ(help("help poweron", kInMemory),
+              "get PowerOn\nThe power state: false at first, then as the host wrote it.\n"
+              "let PowerOn Status\nShows the power state.");
 }
 
 }  // namespace

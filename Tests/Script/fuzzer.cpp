@@ -7,9 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "Orvo/layout/roles.h"
 #include "Script/looking.h"
 #include "Script/session.h"
-#include "Script/store_bench.h"
+#include "Script/store_panel.h"
 #include "Script/text_of.h"
 
 // Runs mutated commands: console_fuzzer DIRECTORY [SECONDS [SEED]]. The commands come from the
@@ -83,20 +84,19 @@ private:
 };
 
 /// Everything that can be seen of the panel.
-std::string stateOf(StoreBench& bench) {
+std::string stateOf(StorePanel& panel) {
     std::string state;
     const auto keep = [&state](std::string_view line) { state.append(line) += '\n'; };
-    const Runtime::Store& widgets = bench.widgets();
+    const Runtime::Store& widgets = panel.store();
     for (Widgets::WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
         keep(Looking::describe(widgets, id));
     }
     for (const std::string_view name : {"ReadOnly", "IdDevice"}) {
-        keep(textOf(bench.invoke(*dispatchIdOf(name), MemberKind::get, {}).value));
+        keep(textOf(panel.panel().invoke(*dispatchIdOf(name), MemberKind::get).value));
     }
     keep(std::to_string(widgets.now().count()));
     keep(std::to_string(static_cast<int>(widgets.pointer())));
-    for (const String& item :
-         widgets.get<Runtime::StoredList>(Layout::listRef("List1").id).state().items) {
+    for (const String& item : widgets.get<Runtime::StoredList>(Layout::kCommon.log).state().items) {
         keep(textOf(StringView(item)));
     }
     return state;
@@ -110,7 +110,7 @@ public:
         const std::string before = state_;
         answers_.clear();
         const bool isComplaint = session_.run(line).has_value();
-        state_ = stateOf(bench_);
+        state_ = stateOf(panel_);
         if (answers_.empty()) return before == state_ ? "" : "silence has changed the panel";
         for (const std::string& answer : answers_) {
             if (isClosing(answer) != (&answer == &answers_.back())) return "not one closing line";
@@ -128,10 +128,10 @@ private:
     }
 
     Lines answers_;
-    StoreBench bench_;
+    StorePanel panel_;
     Session session_{
-        bench_, {}, [this](std::string_view answer) { answers_.emplace_back(answer); }};
-    std::string state_ = stateOf(bench_);
+        panel_, panel_, {}, [this](std::string_view answer) { answers_.emplace_back(answer); }};
+    std::string state_ = stateOf(panel_);
 };
 
 // Ticks by the million are slow, not wrong.

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "Script/store_bench.h"
+#include "Orvo/layout/roles.h"
+#include "Script/store_panel.h"
 #include "Script/text_of.h"
 
 namespace {
@@ -16,14 +17,19 @@ struct SessionTest : testing::Test {
     Lines answersTo(std::string_view line, Grammar::Speaker speaker = Grammar::Speaker::anyone) {
         Lines answers;
         const auto keep = [&](std::string_view answer) { answers.emplace_back(answer); };
-        Session(bench, {.speaker = speaker}, keep).run(line);
+        const Grammar grammar{.speaker = speaker};
+        if (speaker == Grammar::Speaker::device) {
+            Session(panel, grammar, keep).run(line);
+        } else {
+            Session(panel, panel, grammar, keep).run(line);
+        }
         return answers;
     }
 
-    StoreBench bench;
+    StorePanel panel;
 };
 
-TEST_F(SessionTest, aDeviceMaySendTheHostsCommandsOnly) {
+TEST_F(SessionTest, ADeviceMaySendTheHostsCommandsOnly) {
     for (const Command& command : allCommands()) {
         if (command.side == Side::host) continue;
         for (const std::string before : {"", "on Mute ", "on Mute on OnOff "}) {
@@ -35,11 +41,11 @@ TEST_F(SessionTest, aDeviceMaySendTheHostsCommandsOnly) {
     EXPECT_EQ(answersTo("on Mute let Mute 1 true", Grammar::Speaker::device), Lines{"ok"});
 }
 
-TEST_F(SessionTest, eventsThatNoCommandCausedAreAnsweredToo) {
+TEST_F(SessionTest, EventsThatNoCommandCausedAreAnsweredToo) {
     Lines answers;
-    Session session(bench, {}, [&](std::string_view line) { answers.emplace_back(line); });
+    Session session(panel, panel, {}, [&](std::string_view line) { answers.emplace_back(line); });
     session.run("on Mute get PowerOn");
-    bench.person().click(*Layout::findWidget("Command12"), Runtime::MouseButton::left);
+    panel.store().input().click(Orvo::Layout::channel(1).muteButton);
     EXPECT_EQ(answers, (Lines{"ok", "event Mute 1", "  = 0"}));
 }
 
@@ -51,15 +57,15 @@ struct Saboteur final : Runtime::OperationObserver {
     Long number = 1000;
 };
 
-TEST_F(SessionTest, theFirstOfSeveralErrorsOfHandlersClosesTheCommand) {
+TEST_F(SessionTest, TheFirstOfSeveralErrorsOfHandlersClosesTheCommand) {
     Saboteur saboteur;
-    bench.widgets().observeWith(&saboteur);
+    panel.store().observeWith(&saboteur);
     EXPECT_EQ(answersTo("wait 3000"), Lines{"! 1001 Sabotage"});
     EXPECT_EQ(saboteur.number, 1004);
     EXPECT_EQ(answersTo("get PowerOn"), Lines{"= 0"});
 }
 
-TEST_F(SessionTest, commandsMayBeNestedButNotWithoutEnd) {
+TEST_F(SessionTest, CommandsMayBeNestedButNotWithoutEnd) {
     const auto nested = [](int depth) {
         std::string line;
         for (int i = 0; i < depth; ++i) line += "on Mute ";
@@ -70,7 +76,7 @@ TEST_F(SessionTest, commandsMayBeNestedButNotWithoutEnd) {
     EXPECT_EQ(answersTo(nested(100000)), Lines{"? this is nested too deeply"});
 }
 
-TEST_F(SessionTest, aLineThatIsNotUtf8IsRefused) {
+TEST_F(SessionTest, ALineThatIsNotUtf8IsRefused) {
     for (const std::string_view line : {"get Mute 1\xFF", "call TrimStr \"\xC0\x80\"",
                                         "call TrimStr \"\xED\xA0\x80\"", "\xE2\x82"}) {
         EXPECT_EQ(answersTo(line), Lines{"? the line is not UTF-8"}) << line;
@@ -79,7 +85,7 @@ TEST_F(SessionTest, aLineThatIsNotUtf8IsRefused) {
     EXPECT_EQ(answersTo("get PowerOn\r"), Lines{"= 0"});
 }
 
-TEST(Text, isReadBackAsItWasPrinted) {
+TEST(Text, IsReadBackAsItWasPrinted) {
     EXPECT_EQ(textOf(IntegerArray()), "[]");
     EXPECT_EQ(textOf(IntegerArray(1, {})), "1:[]");
     EXPECT_EQ(textOf(IntegerArray(1, {7, -8})), "[7 -8]");

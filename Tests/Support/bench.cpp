@@ -13,12 +13,6 @@ std::string textOf(const Value& value) {
 
 }  // namespace
 
-Widgets::WidgetId id(std::string_view name) {
-    const auto found = Layout::findWidget(name);
-    EXPECT_TRUE(found.has_value()) << name;
-    return found.value_or(0);
-}
-
 std::string lineOf(Long dispatchId, std::span<const Value> arguments) {
     std::string line(eventWith(dispatchId).name);
     for (const Value& argument : arguments) line += ' ' + textOf(argument);
@@ -34,32 +28,30 @@ PanelTest::PanelTest() {
     });
 }
 
-bool PanelTest::isLit(std::string_view shape) const {
-    return store_.get<Runtime::StoredShape>(id(shape)).state().fillStyle ==
-           Widgets::FillStyle::solid;
+bool PanelTest::isLit(Widgets::ShapeRef lamp) const {
+    return store_.get<Runtime::StoredShape>(lamp).state().isLit();
 }
 
-String PanelTest::caption(std::string_view label) const {
-    return store_.get<Runtime::StoredLabel>(id(label)).state().caption;
+String PanelTest::caption(Widgets::LabelRef label) const {
+    return store_.get<Runtime::StoredLabel>(label).state().caption;
 }
 
-bool PanelTest::isEnabled(std::string_view widget) const {
-    return store_.widget(id(widget)).isEnabled();
+bool PanelTest::isEnabled(Widgets::WidgetId widget) const {
+    return store_.widget(widget).isEnabled();
 }
 
-bool PanelTest::isChecked(std::string_view check) const {
-    return store_.get<Runtime::StoredCheck>(id(check)).state().value ==
-           Widgets::CheckValue::checked;
+bool PanelTest::isChecked(Widgets::CheckRef check) const {
+    return store_.get<Runtime::StoredCheck>(check).state().value == Widgets::CheckValue::checked;
 }
 
-Integer PanelTest::position(std::string_view slider) const {
-    return store_.get<Runtime::StoredSlider>(id(slider)).state().position;
+Integer PanelTest::position(Widgets::SliderRef slider) const {
+    return store_.get<Runtime::StoredSlider>(slider).state().position;
 }
 
-std::string PanelTest::digits(const std::vector<std::string_view>& names) const {
+std::string PanelTest::digits(const Layout::Readout& readout) const {
     std::string shown;
-    for (const std::string_view name : names) {
-        const auto digit = store_.get<Runtime::StoredDigit>(id(name)).state().digit;
+    for (const auto place : readout.digits()) {
+        const auto digit = store_.get<Runtime::StoredDigit>(place).state().digit;
         shown += digit ? std::to_string(*digit) : "_";
     }
     return shown;

@@ -4,14 +4,13 @@
 #include <ostream>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "Orvo/core/marvane_assistant.h"
-#include "Orvo/layout/layout.h"
 #include "Orvo/store/store.h"
+#include "Support/roles.h"
 
 namespace Orvo {
 
@@ -38,9 +37,6 @@ public:
 
 std::unique_ptr<Bench> makeBench();
 
-/// The widget of a name, which must exist.
-Widgets::WidgetId id(std::string_view name);
-
 /// An event as a line: "WaveForm 1 1 2".
 std::string lineOf(Long dispatchId, std::span<const Value> arguments);
 
@@ -51,13 +47,13 @@ protected:
 
     PanelTest();
 
-    [[nodiscard]] bool isLit(std::string_view shape) const;
-    [[nodiscard]] String caption(std::string_view label) const;
-    [[nodiscard]] bool isEnabled(std::string_view widget) const;
-    [[nodiscard]] bool isChecked(std::string_view check) const;
-    [[nodiscard]] Integer position(std::string_view slider) const;
-    /// The digits of several widgets, "_" for one that is dark.
-    [[nodiscard]] std::string digits(const std::vector<std::string_view>& names) const;
+    [[nodiscard]] bool isLit(Widgets::ShapeRef lamp) const;
+    [[nodiscard]] String caption(Widgets::LabelRef label) const;
+    [[nodiscard]] bool isEnabled(Widgets::WidgetId widget) const;
+    [[nodiscard]] bool isChecked(Widgets::CheckRef check) const;
+    [[nodiscard]] Integer position(Widgets::SliderRef slider) const;
+    /// Its digits, "_" for one that is dark.
+    [[nodiscard]] std::string digits(const Layout::Readout& readout) const;
 
     /// What has been raised and reported since the last call.
     Lines takeLines();

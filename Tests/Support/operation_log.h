@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -11,45 +12,41 @@ namespace Orvo::Tests {
 
 using Operations = std::vector<std::string>;
 
-template <class... Visitors>
-struct Overloaded : Visitors... {
-    using Visitors::operator()...;
-};
-template <class... Visitors>
-Overloaded(Visitors...) -> Overloaded<Visitors...>;
-
-/// Writes down what is done to the widgets, and may let one of the operations fail.
+/// Writes down what is done to the widgets, a line each: "Shape34 setFillStyle 0". It may let one
+/// of the operations fail.
 class OperationLog final : public Runtime::OperationObserver {
 public:
-    explicit OperationLog(std::optional<std::size_t> failAt = {}) : failAt_(failAt) {}
-
     void before(const Runtime::Operation& operation) override {
         seen.push_back(textOf(operation));
-        if (seen.size() - 1 == failAt_) throw Error(7, "Gone");
+        if (seen.size() - 1 == failAt) throw Error(7, "Gone");
     }
 
     Operations seen;
+    std::optional<std::size_t> failAt;  // its place among those seen
 
 private:
-    static std::string textOf(Widgets::Point point) {
-        return std::to_string(point.x) + ',' + std::to_string(point.y);
-    }
     static std::string textOf(const Runtime::Operation& operation) {
-        const auto value =
-            std::visit(Overloaded{[](std::monostate) { return std::string(); },
-                                  [](auto number) { return std::to_string(number); },
-                                  [](StringView text) { return toUtf8(text); },
-                                  [](Colour colour) { return testing::PrintToString(colour); },
-                                  [](const Runtime::LineSegment& line) {
-                                      return textOf(line.from) + ' ' + textOf(line.to);
-                                  }},
-                       operation.value);
-        return std::to_string(operation.widget) + ' ' +
-               std::to_string(static_cast<int>(operation.verb)) + ' ' +
-               std::to_string(operation.tab) + ' ' + value;
+        std::ostringstream out;
+        out << (operation.widget ? Layout::describe(*operation.widget).name : "Screen") << ' '
+            << nameOf(operation.verb);
+        if (isOfTab(operation.verb)) out << ' ' << operation.tab;
+        std::visit([&](const auto& value) { write(out, value); }, operation.value);
+        return out.str();
+    }
+    static bool isOfTab(Runtime::Verb verb) {
+        return verb == Runtime::Verb::readTabEnabled || verb == Runtime::Verb::setTabEnabled;
     }
 
-    std::optional<std::size_t> failAt_;
+    static void write(std::ostream& /*out*/, std::monostate /*none*/) {}
+    static void write(std::ostream& out, auto number) { out << ' ' << number; }
+    static void write(std::ostream& out, StringView text) { out << " \"" << toUtf8(text) << '"'; }
+    static void write(std::ostream& out, Colour colour) {
+        out << ' ' << testing::PrintToString(colour);
+    }
+    static void write(std::ostream& out, const Runtime::LineSegment& line) {
+        out << ' ' << line.from.x << ',' << line.from.y << ' ' << line.to.x << ',' << line.to.y;
+        write(out, line.colour);
+    }
 };
 
 }  // namespace Orvo::Tests

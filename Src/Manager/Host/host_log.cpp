@@ -6,8 +6,10 @@
 #include "Orvo/values/text.h"
 #include "Simulator/internal_data.h"
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 namespace {
+
+using namespace Simulator;
 
 constexpr int kMostLines = 1000;
 
@@ -51,4 +53,4 @@ void HostLog::tell(Milliseconds now, const Reading& reading) {
     }
 }
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

@@ -2,8 +2,10 @@
 
 #include <array>
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 namespace {
+
+using namespace Simulator;
 
 using Panel = MarvaneAssistantInterface;
 
@@ -61,17 +63,17 @@ PanelMirror::Effect PanelMirror::show(const Reading& reading) {
     return isChanged ? Effect::changed : Effect::shown;
 }
 
-void PanelMirror::show(const Trace& trace) {
-    const auto [shown, isNew] = traces_.try_emplace(trace.channel);
-    if (!isNew && shown->second == trace.samples) return;
-    shown->second = trace.samples;
-    panel_.DisegnaFormaDOnda(trace.channel, trace.samples);
+void PanelMirror::show(const ScopeFrame& frame) {
+    const auto [shown, isNew] = frames_.try_emplace(frame.channel);
+    if (!isNew && shown->second == frame.samples) return;
+    shown->second = frame.samples;
+    panel_.DisegnaFormaDOnda(frame.channel, frame.samples);
 }
 
 void PanelMirror::clearSecondPair() {
     for (const Integer channel : kSecondPairChannels) {
         for (const Item item : kClearedByChannel) show({item, channel, 0});
-        traces_.erase(channel);
+        frames_.erase(channel);
         panel_.DisegnaAssi(channel);
     }
     for (const Item item : kClearedByPair) show({item, kSecondPair, 0});
@@ -85,12 +87,12 @@ void PanelMirror::repeat(Item item) {
 
 void PanelMirror::repeatAll() {
     for (auto& [place, shown] : readings_) shown.isToRepeat = true;
-    traces_.clear();
+    frames_.clear();
 }
 
 void PanelMirror::forget() {
     readings_.clear();
-    traces_.clear();
+    frames_.clear();
 }
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

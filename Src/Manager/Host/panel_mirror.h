@@ -7,7 +7,7 @@
 #include "Orvo/core/interface.h"
 #include "Simulator/message.h"
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 
 /// What the panel was last told, so that it is told only what changed.
 class PanelMirror {
@@ -18,16 +18,16 @@ public:
     explicit PanelMirror(MarvaneAssistantInterface& panel) : panel_(panel) {}
 
     /// Shows a reading unless the panel shows it already.
-    Effect show(const Reading& reading);
+    Effect show(const Simulator::Reading& reading);
     /// The same for a frame of a scope.
-    void show(const Trace& trace);
+    void show(const Simulator::ScopeFrame& frame);
     /// Nothing is lit, measured or drawn any more of a second pair that is missing. Its volumes
     /// stay: there is none that means nothing.
     void clearSecondPair();
 
     /// The next readings of this item are shown even if nothing has changed, as the panel may have
     /// changed by itself.
-    void repeat(Item item);
+    void repeat(Simulator::Item item);
     /// The same for whatever there is.
     void repeatAll();
     /// What comes next is another amplifier's.
@@ -40,8 +40,8 @@ private:
     };
 
     MarvaneAssistantInterface& panel_;
-    std::map<std::pair<Item, Integer>, Shown> readings_;
-    std::map<Integer, IntegerArray> traces_;
+    std::map<std::pair<Simulator::Item, Integer>, Shown> readings_;
+    std::map<Integer, IntegerArray> frames_;
 };
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

@@ -3,9 +3,10 @@
 #include <array>
 #include <cstddef>
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 namespace {
 
+using namespace Simulator;
 using namespace Figures;
 
 struct Row {
@@ -59,4 +60,4 @@ std::optional<QuickTestRun::Result> QuickTestRun::step(Milliseconds now,
     return Result{passed_, static_cast<int>(kRows.size())};
 }
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

@@ -5,8 +5,10 @@
 #include <string_view>
 #include <variant>
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 namespace {
+
+using namespace Simulator;
 
 // In the order of the signals.
 constexpr std::array<std::string_view, kSignalCount> kSignalNames{"100 Hz", "1 kHz", "10 kHz",
@@ -44,8 +46,8 @@ std::string text(const AskInternalData& /*request*/) { return "Internal data"; }
 
 }  // namespace
 
-std::string describe(const Command& command) {
-    return std::visit([](const auto& request) { return text(request); }, command);
+std::string describe(const Request& request) {
+    return std::visit([](const auto& one) { return text(one); }, request);
 }
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

@@ -4,9 +4,9 @@
 
 #include "Simulator/message.h"
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 
 /// What a request asks for, as the log says it: Channel 1: 100 Hz to the negative input.
-std::string describe(const Command& command);
+std::string describe(const Simulator::Request& request);
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

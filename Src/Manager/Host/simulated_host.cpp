@@ -7,23 +7,25 @@
 #include "Manager/Host/request_text.h"
 #include "Orvo/values/text.h"
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 
+using namespace Simulator;
 using namespace LinkFigures;
 
 SimulatedHost::SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed, PowerAtStart power)
-    : SimulatedHost(panel, panel, seed, power) {}
-
-SimulatedHost::SimulatedHost(MarvaneAssistant& panel, MarvaneAssistantInterface& members,
-                             std::uint32_t seed, PowerAtStart power)
-    : panel_(members),
-      link_(members.IdDevice(), seed, power),
-      mirror_(members),
-      sliders_(members),
-      quickTest_(members),
-      log_(members),
+    : panel_(panel),
+      seed_(seed),
+      link_(panel.IdDevice(), seed, power),
+      mirror_(panel),
+      sliders_(panel),
+      quickTest_(panel),
+      log_(panel),
       connection_(panel.connect(*this)) {
     disconnect();
+}
+
+std::string SimulatedHost::name() const {
+    return "Simulated amplifier (seed " + std::to_string(seed_) + ")";
 }
 
 void SimulatedHost::advance(Milliseconds elapsed) {
@@ -98,9 +100,9 @@ void SimulatedHost::runQuickTest() {
     }
 }
 
-bool SimulatedHost::ask(const Command& command) {
+bool SimulatedHost::ask(const Request& request) {
     if (isConnected_) {
-        awaited_.add(now_, {link_.send(command), command});
+        awaited_.add(now_, {link_.send(request), request});
     } else {
         tell("Not connected");
     }
@@ -110,28 +112,28 @@ bool SimulatedHost::ask(const Command& command) {
 // The link keeps the order, so what was asked before and hasn't been answered is lost.
 void SimulatedHost::hearAnswer(std::uint32_t number) {
     giveUp(awaited_.takeUpTo(number - 1));
-    for (const Request& request : awaited_.takeUpTo(number)) confirm(request.command);
+    for (const SentRequest& sent : awaited_.takeUpTo(number)) confirm(sent.request);
 }
 
-void SimulatedHost::confirm(const Command& command) {
-    if (std::holds_alternative<SwitchPower>(command)) mirror_.repeat(Item::power);
-    if (const auto* volume = std::get_if<SetVolume>(&command)) sliders_.ended(volume->channel);
-    if (std::holds_alternative<StartGenerator>(command)) tell(describe(command));
+void SimulatedHost::confirm(const Request& request) {
+    if (std::holds_alternative<SwitchPower>(request)) mirror_.repeat(Item::power);
+    if (const auto* volume = std::get_if<SetVolume>(&request)) sliders_.ended(volume->channel);
+    if (std::holds_alternative<StartGenerator>(request)) tell(describe(request));
 }
 
-void SimulatedHost::giveUp(const std::vector<Request>& lost) {
-    for (const Request& request : lost) giveUp(request.command);
+void SimulatedHost::giveUp(const std::vector<SentRequest>& lost) {
+    for (const SentRequest& sent : lost) giveUp(sent.request);
     if (!lost.empty()) showStatus();
 }
 
-void SimulatedHost::giveUp(const Command& command) {
-    if (std::holds_alternative<AskInternalData>(command) && isConnected_) {
-        if (!awaited_.has<AskInternalData>()) ask(command);
+void SimulatedHost::giveUp(const Request& request) {
+    if (std::holds_alternative<AskInternalData>(request) && isConnected_) {
+        if (!awaited_.has<AskInternalData>()) ask(request);
         return;
     }
-    tell("No answer: " + describe(command));
-    if (std::holds_alternative<SwitchPower>(command)) panel_.PowerOn(panel_.PowerOn());
-    if (const auto* volume = std::get_if<SetVolume>(&command)) sliders_.ended(volume->channel);
+    tell("No answer: " + describe(request));
+    if (std::holds_alternative<SwitchPower>(request)) panel_.PowerOn(panel_.PowerOn());
+    if (const auto* volume = std::get_if<SetVolume>(&request)) sliders_.ended(volume->channel);
 }
 
 void SimulatedHost::receive(const Message& message) {
@@ -174,9 +176,9 @@ void SimulatedHost::show(const Reading& reading) {
     if (reading.value == 0) mirror_.clearSecondPair();
 }
 
-void SimulatedHost::take(const Page& page) {
+void SimulatedHost::take(const InternalData& data) {
     tell("Internal data");
-    for (const std::string& line : page.lines) log_.add(line);
+    for (const std::string& line : data.lines) log_.add(line);
 }
 
 void SimulatedHost::connect() {
@@ -206,4 +208,4 @@ void SimulatedHost::noticeSilence() {
     disconnect();
 }
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "Manager/Host/awaited_requests.h"
@@ -8,12 +10,13 @@
 #include "Manager/Host/panel_mirror.h"
 #include "Manager/Host/quick_test_run.h"
 #include "Manager/Host/volume_sliders.h"
+#include "Manager/Station/device.h"
 #include "Orvo/core/marvane_assistant.h"
 #include "Simulator/fault.h"
 #include "Simulator/message.h"
 #include "Simulator/simulated_link.h"
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 
 /// A host with a simulated amplifier at the other end of its link.
 ///
@@ -29,21 +32,19 @@ namespace Orvo::Simulator {
 ///
 /// The same seed, panel and calls give the same life. It ends before the panel does, and is used
 /// on the panel's thread.
-class SimulatedHost final : private MarvaneAssistantEvents {
+class SimulatedHost final : public Device, private MarvaneAssistantEvents {
 public:
     explicit SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed = 1,
-                           PowerAtStart power = PowerAtStart::on);
-    /// Hears the events of `panel`, but calls the members of `members`: something that notes down
-    /// what it hands on to the panel.
-    SimulatedHost(MarvaneAssistant& panel, MarvaneAssistantInterface& members,
-                  std::uint32_t seed = 1, PowerAtStart power = PowerAtStart::on);
+                           Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
+
+    [[nodiscard]] std::string name() const override;
 
     /// Lets time pass, ten minutes at most; what is longer is skipped. How it is divided among
     /// calls makes no difference.
-    void advance(Milliseconds elapsed);
+    void advance(Simulator::Milliseconds elapsed) override;
 
-    void set(Fault fault, bool isOn) { link_.set(fault, isOn); }
-    [[nodiscard]] bool has(Fault fault) const { return link_.has(fault); }
+    void set(Simulator::Fault fault, bool isOn) { link_.set(fault, isOn); }
+    [[nodiscard]] bool has(Simulator::Fault fault) const { return link_.has(fault); }
 
     /// Begins the quick test, or begins it again: a row every 400 ms, by what the amplifier last
     /// reported. Without a connection there is only a line in the log, and one when the connection
@@ -53,11 +54,13 @@ public:
     [[nodiscard]] bool isConnected() const { return isConnected_; }
     /// Since the last word from the amplifier that could be understood; since the beginning when
     /// there was none yet. A few tenths of a second at most when all is well.
-    [[nodiscard]] Milliseconds sinceLastWord() const { return now_ - lastWord_; }
+    [[nodiscard]] std::optional<Simulator::Milliseconds> sinceLastWord() const override {
+        return now_ - lastWord_;
+    }
     /// The id of the amplifier at the other end.
     [[nodiscard]] Integer amplifierId() const { return link_.amplifierId(); }
     /// How long the host has lived.
-    [[nodiscard]] Milliseconds now() const { return now_; }
+    [[nodiscard]] Simulator::Milliseconds now() const { return now_; }
 
 private:
     // What a person asks for.
@@ -73,18 +76,18 @@ private:
 
     void step();
     /// Whether the request is on its way; not without a connection.
-    bool ask(const Command& command);
+    bool ask(const Simulator::Request& request);
     void hearAnswer(std::uint32_t number);
-    void confirm(const Command& command);
-    void giveUp(const std::vector<Request>& lost);
-    void giveUp(const Command& command);
+    void confirm(const Simulator::Request& request);
+    void giveUp(const std::vector<Simulator::SentRequest>& lost);
+    void giveUp(const Simulator::Request& request);
 
-    void receive(const Message& message);
-    void take(const Status& status);
+    void receive(const Simulator::Message& message);
+    void take(const Simulator::Status& status);
     void showStatus();
-    void show(const Reading& reading);
-    void take(const Trace& trace) { mirror_.show(trace); }
-    void take(const Page& page);
+    void show(const Simulator::Reading& reading);
+    void take(const Simulator::ScopeFrame& frame) { mirror_.show(frame); }
+    void take(const Simulator::InternalData& data);
     void understand(bool isIntact);
 
     void connect();
@@ -93,17 +96,18 @@ private:
     void tell(std::string_view text) { log_.tell(now_, text); }
 
     MarvaneAssistantInterface& panel_;
-    SimulatedLink link_;
-    Milliseconds now_{0};
-    Milliseconds unspent_{0};
+    const std::uint32_t seed_;
+    Simulator::SimulatedLink link_;
+    Simulator::Milliseconds now_{0};
+    Simulator::Milliseconds unspent_{0};
 
     bool isConnected_ = false;
     bool isUnderstood_ = true;
-    Milliseconds lastSound_{0};
-    Milliseconds lastWord_{0};
+    Simulator::Milliseconds lastSound_{0};
+    Simulator::Milliseconds lastWord_{0};
 
     AwaitedRequests awaited_;
-    Status status_;
+    Simulator::Status status_;
     PanelMirror mirror_;
     VolumeSliders sliders_;
     QuickTestRun quickTest_;
@@ -113,4 +117,4 @@ private:
     Connection connection_;
 };
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

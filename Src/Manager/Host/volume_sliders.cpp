@@ -2,7 +2,7 @@
 
 #include "Orvo/values/indexed.h"
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 
 void VolumeSliders::moved(Integer channel, Integer volume) {
     if (Slider* one = slider(channel)) one->shown = volume;
@@ -41,4 +41,4 @@ VolumeSliders::Slider* VolumeSliders::slider(Integer channel) {
     return exists ? &sliders_[static_cast<std::size_t>(channel - 1)] : nullptr;
 }
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

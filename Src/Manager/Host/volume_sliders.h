@@ -6,7 +6,7 @@
 
 #include "Orvo/core/interface.h"
 
-namespace Orvo::Simulator {
+namespace Orvo::Manager {
 
 /// When a volume slider is moved to where the amplifier says that it belongs.
 ///
@@ -51,4 +51,4 @@ private:
     std::array<Slider, kChannels> sliders_;
 };
 
-}  // namespace Orvo::Simulator
+}  // namespace Orvo::Manager

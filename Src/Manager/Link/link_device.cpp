@@ -9,7 +9,6 @@ namespace Orvo::Manager {
 namespace {
 
 using namespace std::chrono_literals;
-using SteadyClock = std::chrono::steady_clock;
 
 constexpr Script::Grammar kGrammar{.speaker = Script::Grammar::Speaker::device,
                                    .place = Script::Place::inWindow};
@@ -26,13 +25,13 @@ std::string troubleOf(std::error_code reason) {
 
 }  // namespace
 
-LinkDevice::LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls,
-                       LinkAddress address, std::function<void()> renew)
-    : bench_(panel, calls, std::move(renew)), calls_(calls), address_(std::move(address)) {
-    calls_.Connected(false);
+LinkDevice::LinkDevice(Script::PanelOwner& owner, LinkAddress address, Clock clock)
+    : owner_(owner),
+      address_(std::move(address)),
+      clock_(std::move(clock)),
+      session_(owner, kGrammar, [this](std::string_view line) { say(line); }) {
+    owner_.panel().Connected(false);
 }
-
-LinkDevice::~LinkDevice() = default;
 
 std::string LinkDevice::name() const {
     const std::string speed = address_.speed ? " at " + std::to_string(*address_.speed) : "";
@@ -58,26 +57,24 @@ void LinkDevice::tryToOpen() {
         port_ = std::make_unique<LinkPort>(address_);
     } catch (const std::system_error& failure) {
         trouble_ = troubleOf(failure.code());
-        return;
     }
-    session_.emplace(bench_, kGrammar, [this](std::string_view line) { say(line); });
 }
 
 void LinkDevice::close() {
-    session_.reset();
+    session_.forgetHandlers();
     port_.reset();
     lines_ = {};
     unsent_.clear();
     isBroken_ = false;
     trouble_ = "not there";
     untilTry_ = kBetweenTries;
-    calls_.Connected(false);
+    owner_.panel().Connected(false);
 }
 
 void LinkDevice::listen() {
-    const auto end = SteadyClock::now() + kLongestMoment;
+    const auto end = clock_() + kLongestMoment;
     flush();
-    while (!isBroken_ && unsent_.size() < kMuchUnread && SteadyClock::now() < end) {
+    while (!isBroken_ && unsent_.size() < kMuchUnread && clock_() < end) {
         if (const auto line = lines_.next()) {
             answer(*line);
         } else if (!hear()) {
@@ -99,11 +96,11 @@ bool LinkDevice::hear() {
 void LinkDevice::answer(const LineSplitter::Line& line) {
     silence_ = 0ms;
     if (line.isTooLong) return say("? the line is too long");
-    session_->run(line.text);
+    session_.run(line.text);
 }
 
 void LinkDevice::say(std::string_view line) {
-    if (isBroken_) return;
+    if (isBroken_ || port_ == nullptr) return;
     unsent_.append(line).append("\n");
     isBroken_ = unsent_.size() > kMostUnread;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -7,7 +8,6 @@
 #include <string_view>
 
 #include "Manager/Link/line_splitter.h"
-#include "Manager/Link/link_bench.h"
 #include "Manager/Link/link_port.h"
 #include "Manager/Station/device.h"
 #include "Script/session.h"
@@ -26,14 +26,14 @@ public:
     static constexpr std::chrono::milliseconds kBetweenTries{1000};
     static constexpr std::size_t kMostUnread = 1 << 20;  // bytes
 
-    /// `renew` as for LinkBench, by way of `panelRenewed`.
-    LinkDevice(MarvaneAssistant& panel, MarvaneAssistantInterface& calls, LinkAddress address,
-               std::function<void()> renew);
-    ~LinkDevice() override;
+    /// What the time is by which the other side is heard for a moment.
+    using Clock = std::function<std::chrono::steady_clock::time_point()>;
+
+    LinkDevice(Script::PanelOwner& owner, LinkAddress address,
+               Clock clock = std::chrono::steady_clock::now);
 
     [[nodiscard]] std::string name() const override;
     void advance(std::chrono::milliseconds elapsed) override;
-    void panelRenewed() override { bench_.connect(); }
     [[nodiscard]] std::optional<std::chrono::milliseconds> sinceLastWord() const override {
         return silence_;
     }
@@ -47,16 +47,17 @@ private:
     void say(std::string_view line);
     void flush();
 
-    LinkBench bench_;
-    MarvaneAssistantInterface& calls_;
+    Script::PanelOwner& owner_;
     const LinkAddress address_;
+    const Clock clock_;
+    // Hears the panel's events from the beginning, as every device does.
+    Script::Session session_;
     std::optional<std::chrono::milliseconds> silence_;  // none before the first word
     std::chrono::milliseconds untilTry_{0};
     std::string trouble_ = "not there";  // why the link is not open, when it isn't
 
     // While the link is open.
     std::unique_ptr<LinkPort> port_;
-    std::optional<Script::Session> session_;
     LineSplitter lines_;
     std::string unsent_;
     bool isBroken_ = false;

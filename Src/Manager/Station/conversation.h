@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "Manager/Station/event_log.h"
-#include "Manager/Station/observed_panel.h"
+#include "Orvo/core/call_listener.h"
 
 namespace Orvo::Manager {
 

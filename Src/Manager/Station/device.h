@@ -7,7 +7,7 @@
 namespace Orvo::Manager {
 
 /// What is connected to the panel. It calls the panel's members and hears its events, from the
-/// time it is made to its end.
+/// time it is made to its end, also when it asks for a fresh panel.
 class Device {
 public:
     virtual ~Device() = default;
@@ -15,9 +15,6 @@ public:
     [[nodiscard]] virtual std::string name() const = 0;
     /// Lets time pass.
     virtual void advance(std::chrono::milliseconds elapsed) = 0;
-    /// The device asked for a fresh panel, and there is one in the place of the old one; it raises
-    /// its events to nobody yet.
-    virtual void panelRenewed() {}
     /// The time since the last word from the amplifier; none before the first.
     [[nodiscard]] virtual std::optional<std::chrono::milliseconds> sinceLastWord() const = 0;
 };

@@ -2,16 +2,14 @@
 
 #include <utility>
 
-#include "Manager/Link/link_device.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo::Manager {
-
-Station::Station(MarvaneAssistant& panel) : panel_(panel), calls_(panel, *this) {
+Station::Station(Script::PanelOwner& owner)
+    : owner_(owner), renewalsBeforeDevice_(owner.onRenewed([this] { panelRenewed(); })) {
     hearBeforeDevice();
-    hearAfterDevice();
+    plugIn(nullptr);
 }
-
-Station::~Station() = default;
 
 void Station::connect(DeviceMaker make) {
     disconnect();
@@ -19,62 +17,45 @@ void Station::connect(DeviceMaker make) {
     plugIn(makeDevice_());
 }
 
-void Station::connectSimulator(std::uint32_t seed, Simulator::PowerAtStart power) {
-    connect([this, seed, power] {
-        return std::make_unique<SimulatedDevice>(panel_, calls_, seed, power);
-    });
-}
-
-void Station::connectLink(const LinkAddress& address) {
-    connect([this, address] {
-        return std::make_unique<LinkDevice>(panel_, calls_, address, [this] { renewPanel(); });
-    });
-}
-
 void Station::disconnect() {
     if (!isConnected()) return;
     makeDevice_ = {};
     plugIn(nullptr);
-    calls_.Connected(false);
+    owner_.panel().Connected(false);
 }
 
 void Station::plugIn(std::unique_ptr<Device> device) {
     showsOldValues_ |= isConnected() && device_->sinceLastWord();
     device_ = std::move(device);
     hearAfterDevice();
+    renewalsAfterDevice_ = owner_.onRenewed([this] { hearAfterDevice(); });
+}
+
+void Station::panelRenewed() {
+    conversation_.startAnew();
+    traces_.startAnew();
+    showsOldValues_ = false;
+    hearBeforeDevice();
 }
 
 void Station::hearBeforeDevice() {
-    beforeDevice_ = panel_.connect([this](Long dispatchId, std::span<Value> arguments) {
+    MarvaneAssistant& panel = owner_.panel();
+    conversationCalls_ = panel.listen(conversation_);
+    traceCalls_ = panel.listen(traces_);
+    beforeDevice_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
         conversation_.raised(dispatchId, arguments);
     });
 }
 
 void Station::hearAfterDevice() {
-    afterDevice_ = panel_.connect([this](Long, std::span<Value>) { conversation_.handled(); });
-}
-
-void Station::renewPanel() {
-    if (!renew_) throw Error(70, "The panel of this program can't be renewed");
-    renew_();
-    conversation_.startAnew();
-    traces_ = {};
-    isLinkUp_ = false;
-    showsOldValues_ = false;
-    hearBeforeDevice();
-    if (isConnected()) device_->panelRenewed();
-    hearAfterDevice();
+    afterDevice_ =
+        owner_.panel().connect([this](Long, std::span<Value>) { conversation_.handled(); });
 }
 
 void Station::startAnew() {
     device_.reset();
-    renewPanel();
+    owner_.renew();
     if (makeDevice_) plugIn(makeDevice_());
-}
-
-Simulator::SimulatedHost* Station::simulator() const {
-    auto* device = dynamic_cast<SimulatedDevice*>(device_.get());
-    return device == nullptr ? nullptr : &device->host();
 }
 
 void Station::advance(Milliseconds elapsed) {
@@ -84,27 +65,11 @@ void Station::advance(Milliseconds elapsed) {
 }
 
 Situation Station::situation() const {
+    const auto& lamp = owner_.store().get<Runtime::StoredShape>(Layout::kCommon.linkLamp);
     return {.connectedTo = isConnected() ? device_->name() : "",
-            .isLinkUp = isLinkUp_,
+            .isLinkUp = lamp.fillStyle() == Widgets::FillStyle::solid,
             .silence = isConnected() ? device_->sinceLastWord() : std::nullopt,
             .showsOldValues = showsOldValues_};
-}
-
-void Station::called(const Member& member, std::span<const Value> arguments) {
-    if (listener_ != nullptr) listener_->called(member, arguments);
-    conversation_.called(member, arguments);
-    traces_.note(member, arguments);
-    if (member.name == "Connected") isLinkUp_ = bool(std::get<Boolean>(arguments[0]));
-}
-
-void Station::returned(const Member& member, const Value& result) {
-    if (listener_ != nullptr) listener_->returned(member, result);
-    conversation_.returned(member, result);
-}
-
-void Station::failed(const Member& member, const Error& error) {
-    if (listener_ != nullptr) listener_->failed(member, error);
-    conversation_.failed(member, error);
 }
 
 }  // namespace Orvo::Manager

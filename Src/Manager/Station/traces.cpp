@@ -5,37 +5,26 @@
 
 #include "Orvo/generator/grid.h"
 #include "Orvo/generator/trace.h"
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
 namespace {
 
 constexpr Integer kFirstDrawn = 1;
-constexpr std::string_view kDrawTrace = "DisegnaFormaDOnda";
-constexpr std::string_view kDrawGrid = "DisegnaAssi";
+constexpr const Member& kDrawTrace = memberNamed<Integer, IntegerArray>("DisegnaFormaDOnda");
+constexpr const Member& kDrawGrid = memberNamed<Integer>("DisegnaAssi");
 
 constexpr bool isChannel(Integer channel) { return channel >= 1 && channel <= kChannels; }
 constexpr std::size_t at(Integer channel) { return static_cast<std::size_t>(channel - 1); }
 
 constexpr int kPictureHeight =
-    Layout::describe(Layout::pictureRef("Picture1").id).place.height / Layout::kTwipsPerPixel;
+    Layout::describe(Layout::channel(1).scope).place.height / Layout::kTwipsPerPixel;
 constexpr float kSurfaceHeight = kPictureHeight - 2 * Runtime::kPictureBorder;
 
-// Volts at a height on the surface, by two marks of its scale.
-class Scale {
-public:
-    Scale() {
-        const auto marks = gridMarks(kSurfaceHeight);
-        top_ = marks.at(0);
-        perPixel_ = double(marks.at(1).volts - top_.volts) / (marks.at(1).y - top_.y);
-    }
-    [[nodiscard]] double volts(double y) const { return top_.volts + (y - top_.y) * perPixel_; }
-
-private:
-    GridMark top_;
-    double perPixel_ = 0;
-};
+double voltsOf(Integer sample) {
+    return voltsAt(traceY(sample, double{kSurfaceHeight}), kSurfaceHeight);
+}
 
 std::string withTwoDecimals(double value) {
     std::array<char, 64> digits{};
@@ -53,10 +42,10 @@ std::span<const Integer> drawn(const IntegerArray& samples) {
 
 }  // namespace
 
-void Traces::note(const Member& member, std::span<const Value> arguments) {
-    if (member.name == kDrawTrace) {
+void Traces::called(const Member& member, std::span<const Value> arguments) {
+    if (&member == &kDrawTrace) {
         draw(std::get<Integer>(arguments[0]), std::get<IntegerArray>(arguments[1]));
-    } else if (member.name == kDrawGrid) {
+    } else if (&member == &kDrawGrid) {
         const auto channel = std::get<Integer>(arguments[0]);
         draw(isChannel(channel) ? channel : Integer{1}, {});
     }
@@ -71,13 +60,10 @@ bool Traces::has(Integer channel) const { return !drawn(samples(channel)).empty(
 
 std::string traceCsv(const IntegerArray& samples) {
     const auto values = drawn(samples);
-    const auto upper = static_cast<Long>(values.size());
-    const auto points = tracePoints(values, upper, 1, kSurfaceHeight);
-    const Scale scale;
     std::string csv = "index,sample (counts),level (V)\n";
     for (std::size_t i = 0; i < values.size(); ++i) {
         csv += std::to_string(i + 1) + ',' + std::to_string(values[i]) + ',' +
-               withTwoDecimals(scale.volts(double(points[i].y))) + '\n';
+               withTwoDecimals(voltsOf(values[i])) + '\n';
     }
     return csv;
 }

@@ -4,17 +4,18 @@
 #include <span>
 #include <string>
 
-#include "Orvo/core/member_table.h"
+#include "Orvo/core/call_listener.h"
 
 namespace Orvo::Manager {
 
 constexpr Integer kChannels = 4;
 
 /// The samples that each channel's scope shows at this moment, as the host sent them.
-class Traces {
+class Traces final : public CallListener {
 public:
-    /// A host's call, of any member.
-    void note(const Member& member, std::span<const Value> arguments);
+    void called(const Member& member, std::span<const Value> arguments) override;
+    /// The panel is another one, whose scopes are empty.
+    void startAnew() { samples_ = {}; }
 
     /// No dimension when the scope shows no trace. Channels are 1 to 4.
     [[nodiscard]] const IntegerArray& samples(Integer channel) const;

@@ -14,6 +14,7 @@
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/pictures.h"
 #include "Orvo/core/marvane_assistant.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
 
 namespace Orvo::Manager {
@@ -25,14 +26,6 @@ constexpr auto kPatience = 10s;
 constexpr auto kPlays = 1500ms;
 constexpr auto kPictures =
     std::to_array({"marvane-common.png", "marvane-ch1-ch2.png", "marvane-ch3-ch4.png"});
-
-constexpr auto kLinkLamp = Layout::shapeRef("shpConnected");
-constexpr auto kMainsLamp = Layout::shapeRef("shpMainPresence12");
-constexpr auto kReadyLamps =
-    std::to_array({Layout::shapeRef("Shape17"), Layout::shapeRef("Shape12")});
-constexpr auto kPowerButton = Layout::buttonRef("cmdOnOff");
-constexpr auto kStartButtons =
-    std::to_array({Layout::buttonRef("cmdGo12"), Layout::buttonRef("cmdGo34")});
 
 void say(const QString& line) {
     std::puts(qPrintable(line));
@@ -63,16 +56,16 @@ private:
     void waitFor(const char* what, const std::function<bool()>& isDone);
     void letPass(std::chrono::milliseconds time);
     [[nodiscard]] bool isLit(Widgets::ShapeRef lamp);
-    void click(Widgets::ButtonRef button) { store().input().click(button.id); }
+    void click(Widgets::ButtonRef button) { store().input().click(button); }
     Runtime::Store& store() { return window_.panelWidget().store(); }
 
     ManagerWindow window_;
 };
 
 void Demonstration::run() {
-    const bool isOperated = !window_.isReadOnly();
-    window_.connectSimulator(isOperated ? Simulator::PowerAtStart::off
-                                        : Simulator::PowerAtStart::on);
+    const bool isOperated = !window_.session().isReadOnly();
+    window_.session().connectSimulator(isOperated ? Simulator::PowerAtStart::off
+                                                  : Simulator::PowerAtStart::on);
     window_.open();
     comeUp();
     if (isOperated) switchOn();
@@ -82,22 +75,23 @@ void Demonstration::run() {
 }
 
 void Demonstration::comeUp() {
-    waitFor("the link", [this] { return isLit(kLinkLamp); });
-    waitFor("the mains", [this] { return isLit(kMainsLamp); });
+    waitFor("the link", [this] { return isLit(Layout::kCommon.linkLamp); });
+    waitFor("the mains", [this] { return isLit(Layout::pair(1).mainsLamp); });
 }
 
 void Demonstration::switchOn() {
-    click(kPowerButton);
-    waitFor("the power", [this] { return bool(window_.panelWidget().panel().PowerOn()); });
-    for (const auto lamp : kReadyLamps) {
-        waitFor("both pairs to be ready", [this, lamp] { return isLit(lamp); });
+    click(Layout::kCommon.powerButton);
+    waitFor("the power", [this] { return isLit(Layout::kCommon.powerLamp); });
+    for (const auto& pair : Layout::kPairs) {
+        waitFor("both pairs to be ready", [&] { return isLit(pair.readyLamp); });
     }
 }
 
 void Demonstration::play() {
-    for (const auto button : kStartButtons) click(button);
+    for (const auto& pair : Layout::kPairs) click(pair.startButton);
     waitFor("the traces", [this] {
-        return window_.station().traces().has(1) && window_.station().traces().has(3);
+        return window_.session().station().traces().has(1) &&
+               window_.session().station().traces().has(3);
     });
 }
 
@@ -127,7 +121,7 @@ void Demonstration::letPass(std::chrono::milliseconds time) {
 }
 
 bool Demonstration::isLit(Widgets::ShapeRef lamp) {
-    return store().get<Runtime::StoredShape>(lamp.id).fillStyle() == Widgets::FillStyle::solid;
+    return store().get<Runtime::StoredShape>(lamp).state().isLit();
 }
 
 }  // namespace

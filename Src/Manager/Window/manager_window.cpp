@@ -10,11 +10,9 @@
 #include <QScreen>
 #include <QStatusBar>
 
-#include "Manager/Window/replay.h"
+#include "Manager/Window/warning.h"
 #include "Manager/Window/zoom.h"
-#include "Orvo/core/marvane_assistant.h"
 #include "Orvo/ports/machine_platform.h"
-#include "Orvo/store/store.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -32,40 +30,28 @@ ManagerWindow::ManagerWindow(const Options& options)
     : options_(options),
       // What is recorded must tick in the replay as it did here, and that can begin at any time.
       panel_(new Window::PanelWidget(Runtime::machinePlatform(), this, Window::Clock::byHand)),
-      recorder_(options.record.isEmpty() ? nullptr : makeRecorder(options.record)),
-      station_(panel_->panel()),
       zoomArea_(new ZoomArea(*panel_, this)),
       statusLine_(new StatusLine),
+      owner_(*panel_),
+      session_(owner_, owner_, options.session, *this),
       saver_(new FileSaver(*this)),
       menus_(new Menus(*this)),
-      events_(new EventDock(station_.log(), menus_->eventActions(), this)) {
-    station_.listenWith(recorder_.get());
+      events_(new EventDock(session_.station().log(), menus_->eventActions(), this)) {
     layOut();
     connect(saver_, &FileSaver::said, statusLine_, &StatusLine::say);
-    listenToErrors();
-    station_.renewWith([this] { renewPanel(); });
-    setReadOnly(options.isReadOnly);
     selectTab(options.tab);
     zoomArea_->setZoom(options.zoom);
     startClock();
     refresh();
 }
 
-ManagerWindow::~ManagerWindow() { panel_->panel().setErrorHandler({}); }
-
-void ManagerWindow::listenToErrors() {
-    panel_->panel().setErrorHandler([this](const Error& error) {
-        station_.conversation().failed(error);
-        statusLine_->say("Error " + QString::number(error.number()) + ": " + error.what());
-    });
+void ManagerWindow::say(const std::string& message) {
+    statusLine_->say(QString::fromStdString(message));
 }
 
-void ManagerWindow::renewPanel() {
-    if (recorder_ != nullptr) recorder_->panelEnds();
-    panel_->renew();
-    if (recorder_ != nullptr) recorder_->panelBegins(panel_->panel(), panel_->store());
-    listenToErrors();
-    if (options_.isReadOnly && !isReplaying()) setReadOnly(true);
+void ManagerWindow::warn(const Failure& failure) {
+    showWarning(*this, QString::fromStdString(failure.title), QString::fromStdString(failure.text),
+                QString::fromStdString(failure.details));
 }
 
 void ManagerWindow::layOut() {
@@ -88,27 +74,7 @@ void ManagerWindow::startClock() {
 
 void ManagerWindow::advance() {
     const qint64 elapsed = std::min(sinceTick_.restart(), kLongestTick);
-    letPass(std::chrono::milliseconds(elapsed));
-}
-
-void ManagerWindow::letPass(std::chrono::milliseconds time) {
-    if (!isReplaying()) panel_->store().advance(time);
-    station_.advance(time);
-    endHourglass(time);
-    endReplayThatIsOver();
-}
-
-// The panel leaves it to its host to take the hourglass away again: when the amplifier has spoken
-// since, or will not. A replay does so itself.
-void ManagerWindow::endHourglass(std::chrono::milliseconds time) {
-    Runtime::Store& store = panel_->store();
-    hourglass_ = store.pointer() == Widgets::Pointer::standard ? 0ms : hourglass_ + time;
-    if (hourglass_ == 0ms) return;
-    const auto silence = station_.situation().silence.value_or(hourglass_);
-    const bool isAwaited = station_.isConnected() && silence >= hourglass_ && silence < kStaleAfter;
-    if (isAwaited || isReplaying()) return;
-    store.mousePointer().setPointer(Widgets::Pointer::standard);
-    if (isRecording()) recorder_->pointerIsSet();
+    session_.letPass(std::chrono::milliseconds(elapsed));
 }
 
 void ManagerWindow::open() {
@@ -126,19 +92,19 @@ void ManagerWindow::refresh() {
 }
 
 void ManagerWindow::showSituation() {
-    const StatusText text = statusText(station_.situation());
+    const StatusText text = statusText(session_.station().situation());
     statusLine_->showText(text);
     // A status bar doesn't hand on by itself what a line in it needs.
     statusBar()->setMinimumWidth(statusLine_->minimumSizeHint().width());
     const QString title = QString::fromStdString(text.connection) + " - Marvane Manager";
-    const QString recording = isRecording() ? "Recording: " : "";
+    const QString recording = session_.isRecording() ? "Recording: " : "";
     setWindowTitle((text.isStale ? "Old values: " : "") + recording + title);
 }
 
 void ManagerWindow::showModes() {
     QStringList modes;
-    if (isReadOnly()) modes += "Read-only";
-    if (isRecording()) modes += "Recording";
+    if (session_.isReadOnly()) modes += "Read-only";
+    if (session_.isRecording()) modes += "Recording";
     statusLine_->showMode(modes.join(", "));
 }
 
@@ -151,7 +117,7 @@ void ManagerWindow::adaptSize() {
 }
 
 void ManagerWindow::closeEvent(QCloseEvent* event) {
-    stopReplay();
+    session_.stopReplay();
     tick_.stop();
     refreshes_.stop();
     for (QDialog* dialog : findChildren<QDialog*>()) dialog->reject();

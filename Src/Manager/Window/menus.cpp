@@ -11,7 +11,8 @@
 // what they type there, Ctrl+R above all.
 namespace Orvo::Manager {
 
-Menus::Menus(ManagerWindow& window) : QObject(&window), window_(window) {
+Menus::Menus(ManagerWindow& window)
+    : QObject(&window), window_(window), session_(window.session()) {
     addFileMenu();
     addConnectMenu();
     addAmplifierMenu();
@@ -62,12 +63,12 @@ void Menus::addFileMenu() {
 
 void Menus::addSessions(QMenu* menu) {
     recording_ = addSwitch(menu, "&Record a session…", "F3", [this](bool isOn) {
-        isOn ? window_.askForRecording() : window_.stopRecording();
+        isOn ? window_.askForRecording() : session_.stopRecording();
     });
     replay_ = addSwitch(menu, "R&eplay a session…", "F5", [this](bool isOn) {
-        isOn ? window_.askForReplay() : window_.stopReplay();
+        isOn ? window_.askForReplay() : session_.stopReplay();
     });
-    stopReplay_ = add(menu, "St&op the replay", "Esc", [this] { window_.stopReplay(); });
+    stopReplay_ = add(menu, "St&op the replay", "Esc", [this] { session_.stopReplay(); });
 }
 
 void Menus::addChannels(QMenu* menu, const QString& firstKey,
@@ -81,21 +82,23 @@ void Menus::addChannels(QMenu* menu, const QString& firstKey,
 
 void Menus::addConnectMenu() {
     auto* menu = addMenu("&Connect");
-    simulator_ =
-        addSwitch(menu, "&Simulated amplifier", "F6", [this](bool) { window_.connectSimulator(); });
+    simulator_ = addSwitch(menu, "&Simulated amplifier", "F6",
+                           [this](bool) { session_.connectSimulator(); });
     link_ = addSwitch(menu, "&Link…", "F7", [this](bool) { window_.askForLink(); });
-    nothing_ = addSwitch(menu, "&Nothing", "F8", [this](bool) { window_.connectNothing(); });
+    nothing_ = addSwitch(menu, "&Nothing", "F8", [this](bool) { session_.connectNothing(); });
     for (QAction* action : {simulator_, link_, nothing_}) connection_.addAction(action);
 }
 
 void Menus::addAmplifierMenu() {
     auto* menu = addMenu("&Amplifier");
-    quickTest_ = add(menu, "Run the &quick test", "F9", [this] { window_.runQuickTest(); });
+    quickTest_ = add(menu, "Run the &quick test", "F9", [this] {
+        if (auto* simulator = session_.simulator()) simulator->runQuickTest();
+    });
     faults_ = menu->addMenu("&Faults of the simulator");
     addFaults(faults_);
     menu->addSeparator();
     readOnly_ =
-        addSwitch(menu, "&Read-only mode", "F2", [this](bool isOn) { window_.setReadOnly(isOn); });
+        addSwitch(menu, "&Read-only mode", "F2", [this](bool isOn) { session_.setReadOnly(isOn); });
 }
 
 void Menus::addFaults(QMenu* menu) {
@@ -104,7 +107,9 @@ void Menus::addFaults(QMenu* menu) {
         const QString text =
             QString::fromUtf8(row.description.data(), qsizetype(row.description.size()));
         addSwitch(menu, QString("&%1 ").arg(number) + text, QString("Ctrl+F, %1").arg(number),
-                  [this, fault = row.fault](bool isOn) { window_.setFault(fault, isOn); });
+                  [this, fault = row.fault](bool isOn) {
+                      if (auto* simulator = session_.simulator()) simulator->set(fault, isOn);
+                  });
         ++number;
     }
 }
@@ -138,10 +143,11 @@ void Menus::addEvents(QMenu* menu) {
     eventView_ =
         addSwitch(menu, "&Event view", "Ctrl+E", [this](bool isOn) { window_.showEvents(isOn); });
     eventDetail_ = addSwitch(menu, "Events with &readings", "Ctrl+Shift+E", [this](bool isOn) {
-        window_.setEventDetail(isOn ? Detail::everything : Detail::changes);
+        session_.station().conversation().setDetail(isOn ? Detail::everything : Detail::changes);
     });
     auto* copy = add(menu, "&Copy events", "Ctrl+Shift+C", [this] { window_.copyEvents(); });
-    auto* clear = add(menu, "C&lear events", "Ctrl+Shift+X", [this] { window_.clearEvents(); });
+    auto* clear =
+        add(menu, "C&lear events", "Ctrl+Shift+X", [this] { session_.station().log().clear(); });
     copy->setIconText("Copy");
     clear->setIconText("Clear");
     eventDetail_->setIconText("With readings");
@@ -157,10 +163,10 @@ void Menus::addHelpMenu() {
 }
 
 void Menus::refreshConnection() {
-    const Station& station = window_.station();
-    const bool isSimulator = station.simulator() != nullptr;
-    const bool isReplay = window_.isReplaying();
-    recording_->setChecked(window_.isRecording());
+    const Station& station = session_.station();
+    const bool isSimulator = session_.simulator() != nullptr;
+    const bool isReplay = session_.isReplaying();
+    recording_->setChecked(session_.isRecording());
     replay_->setChecked(isReplay);
     stopReplay_->setEnabled(isReplay);
     simulator_->setChecked(isSimulator);
@@ -178,8 +184,7 @@ void Menus::refreshTabs() {
 void Menus::refresh() {
     refreshConnection();
     refreshTabs();
-    Station& station = window_.station();
-    const auto* simulator = station.simulator();
+    const auto* simulator = session_.simulator();
     quickTest_->setEnabled(simulator != nullptr);
     const auto faults = faults_->actions();
     for (const Simulator::FaultRow& row : Simulator::kFaults) {
@@ -187,10 +192,10 @@ void Menus::refresh() {
         action->setEnabled(simulator != nullptr);
         action->setChecked(simulator != nullptr && simulator->has(row.fault));
     }
-    readOnly_->setChecked(window_.isReadOnly());
+    readOnly_->setChecked(session_.isReadOnly());
     fullScreen_->setChecked(window_.isFullScreen());
     eventView_->setChecked(window_.areEventsShown());
-    eventDetail_->setChecked(station.conversation().detail() == Detail::everything);
+    eventDetail_->setChecked(session_.station().conversation().detail() == Detail::everything);
 }
 
 }  // namespace Orvo::Manager

@@ -11,6 +11,7 @@
 
 namespace Orvo::Manager {
 
+class ManagerSession;
 class ManagerWindow;
 
 /// The window's menus. Every action has keys of its own, which work in full screen too.
@@ -47,6 +48,7 @@ private:
     void refreshTabs();
 
     ManagerWindow& window_;
+    ManagerSession& session_;
     QAction* recording_ = nullptr;
     QAction* replay_ = nullptr;
     QAction* stopReplay_ = nullptr;

@@ -32,6 +32,7 @@ public:
 
 private:
     [[nodiscard]] Options options() const;
+    [[nodiscard]] SessionSettings sessionSettings() const;
     template <class Number>
     [[nodiscard]] Number numberOf(const QCommandLineOption& option, Number lowest,
                                   Number highest) const;
@@ -120,17 +121,22 @@ Options CommandLine::options() const {
         refuseBoth(script_, *other);
     }
     refuseBoth(link_, simulate_);
+    return {.zoom = numberOf(zoom_, kSmallestZoom, kLargestZoom),
+            .tab = numberOf(tab_, 1, kTabs),
+            .session = sessionSettings(),
+            .isFullScreen = parser_.isSet(fullScreen_),
+            .script = fileOf(script_),
+            .keepsGoing = parser_.isSet(keepGoing_),
+            .link = linkAddress()};
+}
+
+SessionSettings CommandLine::sessionSettings() const {
     return {
-        .zoom = numberOf(zoom_, kSmallestZoom, kLargestZoom),
-        .tab = numberOf(tab_, 1, kTabs),
         .seed = numberOf<std::uint32_t>(simulate_, 0, std::numeric_limits<std::uint32_t>::max()),
         .isReadOnly = parser_.isSet(readOnly_),
-        .isFullScreen = parser_.isSet(fullScreen_),
-        .script = fileOf(script_),
-        .keepsGoing = parser_.isSet(keepGoing_),
-        .record = fileOf(record_),
-        .recordsAnswers = parser_.isSet(recordAnswers_),
-        .link = linkAddress()};
+        .record = QFile::encodeName(fileOf(record_)).toStdString(),
+        .answers =
+            parser_.isSet(recordAnswers_) ? Script::Answers::inFull : Script::Answers::asCancelled};
 }
 
 template <class Number>

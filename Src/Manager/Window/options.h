@@ -1,13 +1,12 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <variant>
 
 #include <QString>
 #include <QStringList>
 
-#include "Manager/Link/link_address.h"
+#include "Manager/Session/manager_session.h"
 
 namespace Orvo::Manager {
 
@@ -15,13 +14,10 @@ namespace Orvo::Manager {
 struct Options {
     int zoom = 100;  ///< percent
     int tab = 1;     ///< counted from 1
-    std::uint32_t seed = 1;
-    bool isReadOnly = false;
+    SessionSettings session{};
     bool isFullScreen = false;
     QString script{};  ///< a file, "-" for standard input; empty: none
     bool keepsGoing = false;
-    QString record{};  ///< a file; empty: none
-    bool recordsAnswers = false;
     std::optional<LinkAddress> link{};
 };
 

@@ -5,6 +5,8 @@
 #include <QBuffer>
 #include <QPixmap>
 
+#include "Orvo/layout/roles.h"
+
 namespace Orvo::Manager {
 namespace {
 
@@ -39,9 +41,8 @@ QImage pictureOf(Window::PanelWidget& panel) {
 
 QImage pictureOfScope(Window::PanelWidget& panel, int channel) {
     panel.flush();
-    auto* scope = panel.findChild<QWidget*>("Picture" + QString::number(channel));
     const Enlarged enlarged(panel);
-    return scope->grab().toImage();
+    return panel.control(Layout::kChannels.at(std::size_t(channel - 1)).scope)->grab().toImage();
 }
 
 QByteArray toPng(const QImage& image) {

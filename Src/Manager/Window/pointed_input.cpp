@@ -54,9 +54,9 @@ void clickOn(QWidget& control, MouseButton button, ReleasedWhere released) {
     send(alive, QEvent::MouseButtonRelease, end, qtButton, Qt::NoButton);
 }
 
-void typeInto(QWidget& control, Integer code) {
+void typeInto(QWidget& control, char16_t code) {
     const QPointer<QWidget> alive = &control;
-    const Key key = keyOf(static_cast<char16_t>(code));
+    const Key key = keyOf(code);
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         if (!alive) return;
         QKeyEvent event(type, key.key, key.modifiers, key.text);

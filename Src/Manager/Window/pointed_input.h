@@ -16,6 +16,6 @@ void clickOn(QWidget& control, MouseButton button, ReleasedWhere released);
 
 /// A key that types this character goes down and up again; codes 1 to 26 are Ctrl with a letter,
 /// except those of the Return key.
-void typeInto(QWidget& control, Integer code);
+void typeInto(QWidget& control, char16_t code);
 
 }  // namespace Orvo::Manager

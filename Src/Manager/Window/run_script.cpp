@@ -10,7 +10,7 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
-#include "Manager/Window/window_bench.h"
+#include "Manager/Window/window_panel.h"
 #include "Script/script_runner.h"
 
 namespace Orvo::Manager {
@@ -30,14 +30,14 @@ bool isReadable(int descriptor) {
     return ::poll(&file, 1, 0) != 0;
 }
 
-void live(const WindowBench& bench, int descriptor) {
+void live(const QWidget& window, int descriptor) {
     QCoreApplication::processEvents();
     if (isReadable(descriptor)) return;
     const QSocketNotifier input(descriptor, QSocketNotifier::Read);
     QTimer look;
     look.start(kLook);
     while (!isReadable(descriptor)) {
-        if (!bench.isShown()) throw WindowClosed{};
+        if (!window.isVisible()) throw WindowClosed{};
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }
@@ -46,12 +46,15 @@ void live(const WindowBench& bench, int descriptor) {
 
 int runScript(const Options& options) {
     try {
-        WindowBench bench(options.zoom / 100.0);
+        Window::PanelWidget window(Platform{}, nullptr, Window::Clock::byHand);
+        window.setZoom(options.zoom / 100.0);
+        WindowPanel panel(window);
+        window.show();
         const auto atComplaint =
             options.keepsGoing ? Script::AtComplaint::goOn : Script::AtComplaint::stop;
-        return Script::runScript(bench, WindowBench::kGrammar,
+        return Script::runScript(panel, panel, WindowPanel::kGrammar,
                                  QFile::encodeName(options.script).toStdString(), atComplaint,
-                                 [&bench](int descriptor) { live(bench, descriptor); });
+                                 [&window](int descriptor) { live(window, descriptor); });
     } catch (const WindowClosed&) {
         return Script::done;
     } catch (const std::exception& failure) {

@@ -7,7 +7,7 @@
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/shortcuts.h"
 #include "Manager/Window/zoom.h"
-#include "Orvo/core/marvane_assistant.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
 
 // What the menus command.
@@ -15,23 +15,10 @@ namespace Orvo::Manager {
 namespace {
 
 constexpr auto kFullScreenHint = "F11 leaves full screen";
-constexpr auto kMessageLog = Layout::listRef("List1");
 
 QString channelName(Integer channel) { return "channel-" + QString::number(channel); }
 
 }  // namespace
-
-void ManagerWindow::runQuickTest() {
-    if (auto* simulator = station_.simulator()) simulator->runQuickTest();
-}
-
-void ManagerWindow::setFault(Simulator::Fault fault, bool isOn) {
-    if (auto* simulator = station_.simulator()) simulator->set(fault, isOn);
-}
-
-void ManagerWindow::setReadOnly(bool isReadOnly) { station_.panel().ReadOnly(isReadOnly); }
-
-bool ManagerWindow::isReadOnly() const { return panel_->panel().ReadOnly() == Boolean(true); }
 
 void ManagerWindow::savePicture() {
     saver_->ask(
@@ -45,18 +32,18 @@ void ManagerWindow::saveScopePicture(Integer channel) {
 }
 
 void ManagerWindow::saveTrace(Integer channel) {
-    if (!station_.traces().has(channel)) {
+    if (!session_.station().traces().has(channel)) {
         return statusLine_->say("There is no trace on channel " + QString::number(channel));
     }
-    const std::string csv = traceCsv(station_.traces().samples(channel));
+    const std::string csv = traceCsv(session_.station().traces().samples(channel));
     saver_->ask({"samples of the trace", "Comma-separated values",
                  "marvane-trace-" + channelName(channel) + ".csv", QByteArray::fromStdString(csv)});
 }
 
 QString ManagerWindow::messageLog() const {
     QStringList lines;
-    for (const String& line :
-         panel_->store().get<Runtime::StoredList>(kMessageLog.id).state().items) {
+    const auto& log = panel_->store().get<Runtime::StoredList>(Layout::kCommon.log);
+    for (const String& line : log.state().items) {
         lines += QString::fromUtf16(line.data(), qsizetype(line.size()));
     }
     return lines.join('\n');
@@ -73,10 +60,6 @@ void ManagerWindow::saveMessageLog() {
 
 void ManagerWindow::selectTab(int tab) {
     panel_->store().input().selectTab(Layout::kTabs.id, tab - 1);
-}
-
-int ManagerWindow::tab() const {
-    return panel_->store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current + 1;
 }
 
 void ManagerWindow::setZoom(int percent) {

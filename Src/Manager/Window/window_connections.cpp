@@ -1,14 +1,12 @@
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QInputDialog>
 
 #include "Manager/Window/file_choice.h"
 #include "Manager/Window/manager_window.h"
-#include "Manager/Window/replay.h"
 #include "Manager/Window/warning.h"
 
-// What plays the panel's host, and what is kept of it.
+// What a person is asked for when another host is to play, or a session is to be kept.
 namespace Orvo::Manager {
 namespace {
 
@@ -20,15 +18,9 @@ std::string nativeName(const QString& file) { return QFile::encodeName(file).toS
 
 }  // namespace
 
-void ManagerWindow::connectSimulator(Simulator::PowerAtStart power) {
-    stopReplay();
-    station_.connectSimulator(options_.seed, power);
-}
-
 void ManagerWindow::connectLink(const LinkAddress& address) {
-    stopReplay();
     linkAddress_ = QFile::decodeName(address.text().c_str());
-    station_.connectLink(address);
+    session_.connectLink(address);
 }
 
 QString ManagerWindow::connectLink(const QString& address) {
@@ -56,18 +48,6 @@ void ManagerWindow::askForLink() {
     dialog->open();
 }
 
-void ManagerWindow::connectNothing() {
-    stopReplay();
-    station_.disconnect();
-}
-
-std::unique_ptr<Script::Recorder> ManagerWindow::makeRecorder(const QString& file) const {
-    const auto answers =
-        options_.recordsAnswers ? Script::Answers::inFull : Script::Answers::asCancelled;
-    return std::make_unique<Script::Recorder>(nativeName(file), panel_->panel(), panel_->store(),
-                                              answers);
-}
-
 void ManagerWindow::askForRecording() {
     askForFile(*this,
                {.title = "Record the session",
@@ -76,37 +56,10 @@ void ManagerWindow::askForRecording() {
                 .directory = sessionDirectory_,
                 .name = dated("marvane-session.txt")},
                [this](const QString& file) {
-                   startRecording(file);
+                   sessionDirectory_ = QFileInfo(file).absolutePath();
+                   session_.startRecording(nativeName(file));
                    refresh();
                });
-}
-
-// Where nothing can be recorded, nothing is given up.
-void ManagerWindow::startRecording(const QString& file) {
-    QFile probe(file);
-    if (!probe.open(QIODevice::Append)) {
-        return showWarning(*this, "Not recorded", "The session can't be recorded.",
-                           QDir::toNativeSeparators(file) + ": " + probe.errorString());
-    }
-    probe.close();
-    stopReplay();
-    stopRecording();
-    const bool wasReadOnly = isReadOnly();
-    const int tabInFront = tab();
-    recorder_ = makeRecorder(file);
-    sessionDirectory_ = QFileInfo(file).absolutePath();
-    station_.listenWith(recorder_.get());
-    station_.startAnew();
-    if (wasReadOnly && !isReadOnly()) setReadOnly(true);
-    selectTab(tabInFront);
-    statusLine_->say("Recording from a fresh start to " + QFileInfo(file).fileName());
-}
-
-void ManagerWindow::stopRecording() {
-    if (!isRecording()) return;
-    station_.listenWith(nullptr);
-    recorder_.reset();
-    statusLine_->say("The session is recorded");
 }
 
 void ManagerWindow::askForReplay() {
@@ -117,44 +70,10 @@ void ManagerWindow::askForReplay() {
                 .mode = QFileDialog::AcceptOpen,
                 .directory = sessionDirectory_},
                [this](const QString& file) {
-                   startReplay(file);
+                   sessionDirectory_ = QFileInfo(file).absolutePath();
+                   session_.startReplay(nativeName(file));
                    refresh();
                });
-}
-
-void ManagerWindow::startReplay(const QString& file) {
-    QFile script(file);
-    if (!script.open(QIODevice::ReadOnly)) {
-        return showWarning(*this, "Not replayed", "The session can't be read.",
-                           QDir::toNativeSeparators(file) + ": " + script.errorString());
-    }
-    stopRecording();
-    sessionDirectory_ = QFileInfo(file).absolutePath();
-    script.close();
-    station_.connect([this, path = nativeName(file)] {
-        return std::make_unique<Replay>(
-            *panel_, station_.panel(), [this] { station_.renewPanel(); }, path);
-    });
-    station_.renewPanel();
-}
-
-void ManagerWindow::stopReplay() {
-    if (!isReplaying()) return;
-    station_.disconnect();
-    if (options_.isReadOnly) setReadOnly(true);
-    statusLine_->say("The replay is over");
-}
-
-Replay* ManagerWindow::replay() const { return dynamic_cast<Replay*>(station_.device()); }
-
-void ManagerWindow::endReplayThatIsOver() {
-    const Replay* replay = this->replay();
-    if (replay == nullptr || !replay->isOver()) return;
-    const auto complaint = replay->complaint();
-    stopReplay();
-    if (!complaint) return;
-    showWarning(*this, "The replay ended early", "The session has a line that can't be replayed.",
-                QString::fromStdString(*complaint));
 }
 
 }  // namespace Orvo::Manager

@@ -1,23 +1,33 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 
 namespace Orvo {
 
-/// What a host holds while it hears the panel's events: when it ends, the sink is disconnected. It
-/// may outlive the panel.
+/// What somebody holds while it is told of something, such as a host of the panel's events: when it
+/// ends, nothing is told any more. It may outlive the panel.
 class [[nodiscard]] Connection {
 public:
-    class Link;
+    struct Link {
+        bool isConnected = true;
+    };
 
     Connection() = default;
-    explicit Connection(std::shared_ptr<Link> link);
-    Connection(Connection&& other) noexcept;
-    Connection& operator=(Connection&& other) noexcept;
-    ~Connection();
+    explicit Connection(std::shared_ptr<Link> link) : link_(std::move(link)) {}
+    Connection(Connection&& other) noexcept = default;
+    Connection& operator=(Connection&& other) noexcept {
+        if (this != &other) disconnect();
+        link_ = std::move(other.link_);
+        return *this;
+    }
+    ~Connection() { disconnect(); }
 
-    void disconnect();
-    [[nodiscard]] bool isConnected() const;
+    void disconnect() {
+        if (link_) link_->isConnected = false;
+        link_.reset();
+    }
+    [[nodiscard]] bool isConnected() const { return link_ && link_->isConnected; }
 
 private:
     std::shared_ptr<Link> link_;

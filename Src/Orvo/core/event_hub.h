@@ -2,13 +2,13 @@
 
 #include <functional>
 #include <initializer_list>
-#include <memory>
 #include <span>
 #include <vector>
 
 #include "Orvo/core/connection.h"
 #include "Orvo/core/event_table.h"
 #include "Orvo/core/events.h"
+#include "Orvo/core/receivers.h"
 #include "Orvo/values/error.h"
 
 namespace Orvo {
@@ -52,12 +52,11 @@ public:
 private:
     using Deliver = std::function<void(const Event& event, std::span<Value> arguments)>;
 
-    Connection connect(Deliver deliver);
     void raise(const Event& event, std::initializer_list<Value> arguments);
-    void deliver(const Connection::Link& link, const Event& event, std::vector<Value> arguments);
+    void deliver(const Deliver& sink, const Event& event, std::vector<Value> arguments);
 
     const ErrorHandler& onError_;
-    std::vector<std::shared_ptr<Connection::Link>> links_;
+    Receivers<Deliver> sinks_;
     bool isOpen_ = true;
 };
 

@@ -16,21 +16,12 @@ struct Library {
     std::string_view helpString;
 };
 
-struct ComponentClass {
-    std::string_view name;
-    std::string_view id;
-    std::string_view programmaticId;
-    bool isControl;
-    std::uint32_t statusFlags;
-};
-
-struct Interface {
-    std::string_view name;
-    std::string_view id;
-    bool isDual;  ///< by direct call too, not only by dispatch id
-    bool isHidden;
-    bool isExtensible;
-    bool isDefaultSource;
+/// How a type library marks its types.
+enum TypeFlag : std::uint32_t {
+    hidden = 0x10,  ///< from object browsers
+    control = 0x20,
+    dual = 0x40,  ///< by direct call too, not only by dispatch id
+    notExtensible = 0x80,
 };
 
 /// Control status flags, as the class registers them.
@@ -40,6 +31,28 @@ enum StatusFlag : std::uint32_t {
     insideOut = 0x80,
     activateWhenVisible = 0x100,
     setClientSiteFirst = 0x20000,
+};
+
+struct ComponentClass {
+    std::string_view name;
+    std::string_view id;
+    std::string_view programmaticId;
+    std::uint32_t typeFlags;
+    std::uint32_t statusFlags;
+};
+
+struct Interface {
+    std::string_view name;
+    std::string_view id;
+    std::uint32_t typeFlags;
+};
+
+/// A bitmap resource.
+struct Picture {
+    int resource;
+    int width;   ///< pixels
+    int height;  ///< pixels
+    int colours;
 };
 
 inline constexpr Library kLibrary{
@@ -55,38 +68,19 @@ inline constexpr ComponentClass kClass{
     .name = "MarvaneAssistant",
     .id = "39ABF8B7-002B-4A32-B963-E5315F1D24AE",
     .programmaticId = "Orvo.MarvaneAssistant",
-    .isControl = true,
+    .typeFlags = control,
     .statusFlags =
         recomposeOnResize | cantLinkInside | setClientSiteFirst | insideOut | activateWhenVisible,
 };
 
 inline constexpr Interface kDefaultInterface{
-    .name = "_MarvaneAssistant",
-    .id = "10E6D219-3040-448F-8C54-8EC0BA6107AF",
-    .isDual = true,
-    .isHidden = true,
-    .isExtensible = false,
-    .isDefaultSource = false,
-};
+    "_MarvaneAssistant", "10E6D219-3040-448F-8C54-8EC0BA6107AF", dual | hidden | notExtensible};
 
-inline constexpr Interface kEventInterface{
-    .name = "__MarvaneAssistant",
-    .id = "616BF7F8-1E70-4966-809E-C185A6AA6E38",
-    .isDual = false,
-    .isHidden = true,
-    .isExtensible = false,
-    .isDefaultSource = true,
-};
+/// The events.
+inline constexpr Interface kDefaultSource{
+    "__MarvaneAssistant", "616BF7F8-1E70-4966-809E-C185A6AA6E38", hidden | notExtensible};
 
-struct ToolboxPicture {
-    int resource;
-    int width;   ///< pixels
-    int height;  ///< pixels
-    int colours;
-};
-
-inline constexpr ToolboxPicture kToolboxPicture{30000, 16, 15, 16};
-
-static_assert(kClass.statusFlags == 0x20191);
+inline constexpr Picture kToolboxPicture{
+    .resource = 30000, .width = 16, .height = 15, .colours = 16};
 
 }  // namespace Orvo::Identity

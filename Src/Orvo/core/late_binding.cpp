@@ -1,5 +1,6 @@
 #include "Orvo/core/late_binding.h"
 
+#include "Orvo/core/event_hub.h"
 #include "Orvo/values/ignoring_case.h"
 
 namespace Orvo {
@@ -32,16 +33,6 @@ std::vector<Value> convertArguments(const Member& member, std::span<const Value>
         converted[i] = convert(arguments[i], parameters[i].type);
     }
     return converted;
-}
-
-InvokeResult invokeOn(MarvaneAssistantInterface& panel, Long dispatchId, MemberKind kind,
-                      std::span<const Value> arguments) {
-    try {
-        const Member& member = findMember(dispatchId, kind);
-        return {.value = member.call(panel, convertArguments(member, arguments))};
-    } catch (const Error& error) {
-        return {.error = error};
-    }
 }
 
 }  // namespace Orvo

@@ -10,7 +10,8 @@
 
 namespace Orvo {
 
-/// The outcome of a late-bound call: a result, or the error that a direct call would have thrown.
+/// The outcome of a late-bound call: a result, or the error that ended it. An exception of another
+/// kind is an error as well: 7 for want of memory, 1003 otherwise.
 struct InvokeResult {
     Value value{};
     std::optional<Error> error{};
@@ -25,9 +26,5 @@ const Member& findMember(Long dispatchId, MemberKind kind);
 
 /// The arguments converted to the member's parameters. Error 450 when their number is another.
 std::vector<Value> convertArguments(const Member& member, std::span<const Value> arguments);
-
-/// Calls the panel's member with this dispatch id and kind; the arguments are converted.
-InvokeResult invokeOn(MarvaneAssistantInterface& panel, Long dispatchId, MemberKind kind,
-                      std::span<const Value> arguments);
 
 }  // namespace Orvo

@@ -1,10 +1,63 @@
 #include "Orvo/core/marvane_assistant.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <type_traits>
 #include <utility>
 
 #include "Orvo/core/panel.h"
 
 namespace Orvo {
+namespace {
+
+template <std::size_t kSize>
+struct Name {
+    // From the text itself. NOLINTNEXTLINE(*-explicit-constructor,*-avoid-c-arrays)
+    consteval Name(const char (&literal)[kSize]) { std::copy_n(literal, kSize, text.begin()); }
+    std::array<char, kSize> text{};
+};
+
+// Carries a call out and tells the listeners of it.
+template <class Act, class... Arguments>
+auto callAloud(Panel& panel, const Member& member, const Act& act, const Arguments&... arguments) {
+    const std::array<Value, sizeof...(Arguments)> values{arguments...};
+    auto& listeners = panel.callListeners;
+    listeners.tell([&](CallListener* listener) { listener->called(member, values); });
+    try {
+        if constexpr (std::is_void_v<decltype(act())>) {
+            act();
+            listeners.tell([&](CallListener* listener) { listener->returned(member, {}); });
+        } else {
+            auto result = act();
+            listeners.tell([&](CallListener* listener) { listener->returned(member, result); });
+            return result;
+        }
+    } catch (const Error& error) {
+        listeners.tell([&](CallListener* listener) { listener->failed(member, error); });
+        throw;
+    }
+}
+
+// Each call of a member goes through here: on the right thread, and with the panel kept alive until
+// it returns. The subject's function takes `kFirst` before the member's own arguments.
+template <Name kName, auto kSubject, auto kFunction, auto... kFirst, class... Arguments>
+auto call(const std::shared_ptr<Panel>& called, const Arguments&... arguments) {
+    static constexpr const Member& kMember = memberNamed<Arguments...>(kName.text.data());
+    called->checkThread();
+    const auto panel = called;  // NOLINT(*-unnecessary-copy-initialization)
+    const auto act = [&] {
+        return std::invoke(kFunction, (*panel).*kSubject, kFirst..., arguments...);
+    };
+    return panel->callListeners.isEmpty() ? act() : callAloud(*panel, kMember, act, arguments...);
+}
+
+String trimmed(const PortDiscovery& /*discovery*/, const String& text) {
+    return PortDiscovery::trimmed(text);
+}
+
+}  // namespace
 
 MarvaneAssistant::MarvaneAssistant(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform)
     : panel_(std::make_shared<Panel>(std::move(runtime), std::move(platform))) {
@@ -31,6 +84,10 @@ Connection MarvaneAssistant::connect(LateBoundSink sink) {
     return enter()->events.connect(std::move(sink));
 }
 
+Connection MarvaneAssistant::listen(CallListener& listener) {
+    return enter()->callListeners.add(&listener);
+}
+
 void MarvaneAssistant::setErrorHandler(ErrorHandler handler) {
     enter()->setErrorHandler(std::move(handler));
 }
@@ -39,123 +96,169 @@ InvokeResult MarvaneAssistant::invoke(Long dispatchId, MemberKind kind,
                                       std::span<const Value> arguments) {
     try {
         const auto alive = enter();
-        return invokeOn(*this, dispatchId, kind, arguments);
-    } catch (const Error& error) {
-        return {.error = error};
+        const Member& member = findMember(dispatchId, kind);
+        return {.value = member.call(*this, convertArguments(member, arguments))};
+    } catch (const Released&) {
+        throw;
+    } catch (...) {
+        return {.error = currentError()};
     }
 }
 
 String MarvaneAssistant::TrimStr(const String& strName) {
-    const auto alive = enter();
-    return PortDiscovery::trimmed(strName);
+    return call<"TrimStr", &Panel::portDiscovery, trimmed>(panel_, strName);
 }
 
 String MarvaneAssistant::LPSTRtoSTRING(Long lngPointer) {
-    return enter()->portDiscovery.textAt(lngPointer);
+    return call<"LPSTRtoSTRING", &Panel::portDiscovery, &PortDiscovery::textAt>(panel_, lngPointer);
 }
 
 Long MarvaneAssistant::GetAvailablePorts(const String& ServerName) {
-    return enter()->portDiscovery.discover(ServerName);
+    return call<"GetAvailablePorts", &Panel::portDiscovery, &PortDiscovery::discover>(panel_,
+                                                                                      ServerName);
 }
 
-void MarvaneAssistant::CancellaTesto() { enter()->messageLog.clear(); }
+void MarvaneAssistant::CancellaTesto() {
+    call<"CancellaTesto", &Panel::messageLog, &MessageLog::clear>(panel_);
+}
 
-void MarvaneAssistant::AggiugiTesto(const String& strTesto) { enter()->messageLog.add(strTesto); }
+void MarvaneAssistant::AggiugiTesto(const String& strTesto) {
+    call<"AggiugiTesto", &Panel::messageLog, &MessageLog::add>(panel_, strTesto);
+}
 
 void MarvaneAssistant::chkTest(Integer Ncheck, Boolean blnValue) {
-    enter()->quickTest.setPassed(Ncheck, blnValue);
+    call<"chkTest", &Panel::quickTest, &QuickTest::setPassed>(panel_, Ncheck, blnValue);
 }
 
-Boolean MarvaneAssistant::chkTest(Integer Ncheck) { return enter()->quickTest.hasPassed(Ncheck); }
+Boolean MarvaneAssistant::chkTest(Integer Ncheck) {
+    return call<"chkTest", &Panel::quickTest, &QuickTest::hasPassed>(panel_, Ncheck);
+}
 
-void MarvaneAssistant::ClearMains() { enter()->quickTest.clearMains(); }
+void MarvaneAssistant::ClearMains() {
+    call<"ClearMains", &Panel::quickTest, &QuickTest::clearMains>(panel_);
+}
 
-void MarvaneAssistant::ClearTest() { enter()->quickTest.clearMeasurements(); }
+void MarvaneAssistant::ClearTest() {
+    call<"ClearTest", &Panel::quickTest, &QuickTest::clearMeasurements>(panel_);
+}
 
-void MarvaneAssistant::Connected(Boolean blnValue) { enter()->powerState.setConnected(blnValue); }
+void MarvaneAssistant::Connected(Boolean blnValue) {
+    call<"Connected", &Panel::powerState, &PowerState::setConnected>(panel_, blnValue);
+}
 
 void MarvaneAssistant::Protection(Integer intChannel, Boolean blnValue) {
-    enter()->statusLamps.setProtection(intChannel, blnValue);
+    call<"Protection", &Panel::statusLamps, &StatusLamps::setProtection>(panel_, intChannel,
+                                                                         blnValue);
 }
 
 void MarvaneAssistant::Signal(Integer intChannel, Boolean blnValue) {
-    enter()->statusLamps.setSignal(intChannel, blnValue);
+    call<"Signal", &Panel::statusLamps, &StatusLamps::setChannel, &Layout::Channel::signalLamp>(
+        panel_, intChannel, blnValue);
 }
 
 void MarvaneAssistant::AbilitaSlave(Boolean blnAbilita) {
-    enter()->powerState.enableSecondPair(blnAbilita);
+    call<"AbilitaSlave", &Panel::powerState, &PowerState::enableSecondPair>(panel_, blnAbilita);
 }
 
-Integer MarvaneAssistant::IdDevice() { return enter()->amplifierId.get(); }
+Integer MarvaneAssistant::IdDevice() {
+    return call<"IdDevice", &Panel::amplifierId, &AmplifierId::get>(panel_);
+}
 
-void MarvaneAssistant::IdDevice(Integer intIdDevice) { enter()->amplifierId.set(intIdDevice); }
+void MarvaneAssistant::IdDevice(Integer intIdDevice) {
+    call<"IdDevice", &Panel::amplifierId, &AmplifierId::set>(panel_, intIdDevice);
+}
 
 void MarvaneAssistant::VPPower(Integer intChannel, Integer intValue) {
-    enter()->railReadouts.set(Rail::positivePower, intChannel, intValue);
+    call<"VPPower", &Panel::railReadouts, &RailReadouts::set, &Layout::Pair::positivePower>(
+        panel_, intChannel, intValue);
 }
 
 void MarvaneAssistant::VPAux(Integer intChannel, Integer intValue) {
-    enter()->railReadouts.set(Rail::positiveAux, intChannel, intValue);
+    call<"VPAux", &Panel::railReadouts, &RailReadouts::set, &Layout::Pair::positiveAux>(
+        panel_, intChannel, intValue);
 }
 
 void MarvaneAssistant::Clock(Integer intChannel, Boolean blnValue) {
-    enter()->statusLamps.setClock(intChannel, blnValue);
+    call<"Clock", &Panel::statusLamps, &StatusLamps::setPair, &Layout::Pair::clockLamp>(
+        panel_, intChannel, blnValue);
 }
 
 void MarvaneAssistant::Ready(Integer intChannel, Boolean blnValue) {
-    enter()->statusLamps.setReady(intChannel, blnValue);
+    call<"Ready", &Panel::statusLamps, &StatusLamps::setPair, &Layout::Pair::readyLamp>(
+        panel_, intChannel, blnValue);
 }
 
 void MarvaneAssistant::VNPower(Integer intChannel, Integer intValue) {
-    enter()->railReadouts.set(Rail::negativePower, intChannel, intValue);
+    call<"VNPower", &Panel::railReadouts, &RailReadouts::set, &Layout::Pair::negativePower>(
+        panel_, intChannel, intValue);
 }
 
 void MarvaneAssistant::VNAux(Integer intChannel, Integer intValue) {
-    enter()->railReadouts.set(Rail::negativeAux, intChannel, intValue);
+    call<"VNAux", &Panel::railReadouts, &RailReadouts::set, &Layout::Pair::negativeAux>(
+        panel_, intChannel, intValue);
 }
 
-Boolean MarvaneAssistant::PowerOn() { return enter()->powerState.power(); }
+Boolean MarvaneAssistant::PowerOn() {
+    return call<"PowerOn", &Panel::powerState, &PowerState::power>(panel_);
+}
 
-void MarvaneAssistant::MainPresence(Boolean Status) { enter()->powerState.setMains(Status); }
+void MarvaneAssistant::MainPresence(Boolean Status) {
+    call<"MainPresence", &Panel::powerState, &PowerState::setMains>(panel_, Status);
+}
 
-void MarvaneAssistant::PowerOn(Boolean Status) { enter()->powerState.setPower(Status); }
+void MarvaneAssistant::PowerOn(Boolean Status) {
+    call<"PowerOn", &Panel::powerState, &PowerState::setPower>(panel_, Status);
+}
 
 void MarvaneAssistant::Volume(Integer intChannel, Integer intValue) {
-    enter()->volume.show(intChannel, intValue);
+    call<"Volume", &Panel::volume, &Volume::show>(panel_, intChannel, intValue);
 }
 
 void MarvaneAssistant::VolumeSlider(Integer intChannel, Integer intValue) {
-    enter()->volume.moveSlider(intChannel, intValue);
+    call<"VolumeSlider", &Panel::volume, &Volume::moveSlider>(panel_, intChannel, intValue);
 }
 
 Boolean MarvaneAssistant::VolumeSliderButtonDown(Integer intChannel) {
-    return enter()->volume.isHeld(intChannel);
+    return call<"VolumeSliderButtonDown", &Panel::volume, &Volume::isHeld>(panel_, intChannel);
 }
 
 void MarvaneAssistant::Temperature(Integer intChannel, Integer intValue) {
-    enter()->temperature.show(intChannel, intValue);
+    call<"Temperature", &Panel::temperature, &Temperature::show>(panel_, intChannel, intValue);
 }
 
-void MarvaneAssistant::TimerVirtualTemp12(Boolean bln) { enter()->temperature.runTimer(1, bln); }
+void MarvaneAssistant::TimerVirtualTemp12(Boolean bln) {
+    call<"TimerVirtualTemp12", &Panel::temperature, &Temperature::runTimer, Integer{1}>(panel_,
+                                                                                        bln);
+}
 
-void MarvaneAssistant::TimerVirtualTemp34(Boolean bln) { enter()->temperature.runTimer(2, bln); }
+void MarvaneAssistant::TimerVirtualTemp34(Boolean bln) {
+    call<"TimerVirtualTemp34", &Panel::temperature, &Temperature::runTimer, Integer{2}>(panel_,
+                                                                                        bln);
+}
 
 void MarvaneAssistant::DisegnaAssi(Integer intNCanale) {
-    enter()->oscilloscope.drawAxes(intNCanale);
+    call<"DisegnaAssi", &Panel::oscilloscope, &Oscilloscope::drawAxes>(panel_, intNCanale);
 }
 
 void MarvaneAssistant::DisegnaFormaDOnda(Integer intNumCanale, const IntegerArray& arrSamples) {
-    enter()->oscilloscope.drawTrace(intNumCanale, arrSamples);
+    call<"DisegnaFormaDOnda", &Panel::oscilloscope, &Oscilloscope::drawTrace>(panel_, intNumCanale,
+                                                                              arrSamples);
 }
 
 void MarvaneAssistant::Mute(Integer intChannel, Boolean blnValue) {
-    enter()->muteState.set(intChannel, blnValue);
+    call<"Mute", &Panel::muteState, &MuteState::set>(panel_, intChannel, blnValue);
 }
 
-Boolean MarvaneAssistant::Mute(Integer intChannel) { return enter()->muteState.get(intChannel); }
+Boolean MarvaneAssistant::Mute(Integer intChannel) {
+    return call<"Mute", &Panel::muteState, &MuteState::get>(panel_, intChannel);
+}
 
-void MarvaneAssistant::ReadOnly(Boolean blnValue) { enter()->readOnlyMode.set(blnValue); }
+void MarvaneAssistant::ReadOnly(Boolean blnValue) {
+    call<"ReadOnly", &Panel::readOnlyMode, &ReadOnlyMode::set>(panel_, blnValue);
+}
 
-Boolean MarvaneAssistant::ReadOnly() { return enter()->readOnlyMode.get(); }
+Boolean MarvaneAssistant::ReadOnly() {
+    return call<"ReadOnly", &Panel::readOnlyMode, &ReadOnlyMode::get>(panel_);
+}
 
 }  // namespace Orvo

@@ -3,6 +3,7 @@
 #include <memory>
 #include <span>
 
+#include "Orvo/core/call_listener.h"
 #include "Orvo/core/connection.h"
 #include "Orvo/core/event_hub.h"
 #include "Orvo/core/events.h"
@@ -34,6 +35,10 @@ public:
     /// the sinks in the order in which they were connected.
     Connection connect(MarvaneAssistantEvents& sink);
     Connection connect(LateBoundSink sink);
+
+    /// Tells a listener of each call of a member until the connection ends; the listener must live
+    /// as long. It may call the panel, and release it, but throws nothing.
+    Connection listen(CallListener& listener);
 
     /// Calls a member by dispatch id. Arguments are converted to the types of its parameters, see
     /// `convert`; errors 438, 450, 383 and 394 as for `findMember` and `convertArguments`.
@@ -81,8 +86,7 @@ public:
     Boolean ReadOnly() override;
 
 private:
-    // Every call from outside goes through here: on the right thread, and with the panel kept alive
-    // until it returns.
+    // On the right thread, and kept alive until the call returns.
     [[nodiscard]] std::shared_ptr<Panel> enter() const;
 
     std::shared_ptr<Panel> panel_;

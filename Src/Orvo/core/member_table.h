@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -9,6 +10,7 @@
 #include <tuple>
 #include <utility>
 
+#include "Orvo/core/contract_table.h"
 #include "Orvo/core/interface.h"
 #include "Orvo/core/value.h"
 
@@ -33,6 +35,7 @@ struct Member {
     std::array<Parameter, 2> parameterSlots{};
     std::size_t parameterCount = 0;
     ValueType result = ValueType::none;
+    Contract contract{};
     /// Calls the member; the arguments have the parameters' types already.
     Value (*call)(MarvaneAssistantInterface& panel, std::span<const Value> arguments) = nullptr;
 
@@ -105,6 +108,7 @@ consteval Member member(int number, std::string_view name, MemberKind kind, Long
             .parameterSlots = padded<2>(parameters),
             .parameterCount = parameters.size(),
             .result = result,
+            .contract = contractOf(kMemberContracts, number, name),
             .call = &callMember<kFunction>};
 }
 
@@ -165,5 +169,19 @@ consteval auto memberTable() {
 
 /// All members, in interface order.
 inline constexpr auto kMembers = Detail::memberTable();
+static_assert(kMembers.size() == kMemberContracts.size());
+
+/// The member of a name that takes these arguments; one that the table doesn't have doesn't
+/// compile.
+template <class... Arguments>
+consteval const Member& memberNamed(std::string_view name) {
+    constexpr std::array<ValueType, sizeof...(Arguments)> kTypes{valueTypeOf<Arguments>()...};
+    for (const Member& member : kMembers) {
+        const bool takesThem =
+            std::ranges::equal(member.parameters(), kTypes, {}, &Parameter::type);
+        if (member.name == name && takesThem) return member;
+    }
+    throw "no member of this name takes these arguments";
+}
 
 }  // namespace Orvo

@@ -1,20 +1,19 @@
 #pragma once
 
 #include <array>
-#include <string_view>
 #include <type_traits>
 
 #include "Orvo/core/panel.h"
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
+#include "Orvo/values/indexed.h"
 #include "Orvo/widgets/notification.h"
 
 namespace Orvo {
 
 /// One notification that the panel handles; `number` is the channel or pair that the widget stands
-/// for. The panel's own creation has no widget.
+/// for.
 struct BoundNotification {
-    std::string_view widgetName;
-    Widgets::WidgetId widget = Layout::kNoWidget;
+    Widgets::WidgetId widget{};
     Widgets::NotificationKind kind{};
     void (*handle)(Panel& panel, Widgets::Notification& notification, Integer number) = nullptr;
     Integer number = 0;
@@ -36,78 +35,45 @@ void handle(Panel& panel, Widgets::Notification& notification, Integer number) {
     }
 }
 
-consteval bool canNotify(Widgets::Kind widget, Widgets::NotificationKind notification) {
-    using Widgets::Kind;
-    switch (notification) {
-        case Widgets::NotificationKind::click:
-            return widget == Kind::button || widget == Kind::option || widget == Kind::combo;
-        case Widgets::NotificationKind::release:
-            return widget == Kind::button || widget == Kind::check;
-        case Widgets::NotificationKind::keyPress:
-            return widget == Kind::combo || widget == Kind::list;
-        case Widgets::NotificationKind::tick:
-            return widget == Kind::timer;
-        case Widgets::NotificationKind::change:
-            return widget == Kind::slider;
-        default:
-            return false;
-    }
-}
-
-template <auto kSubject, auto kFunction>
-consteval BoundNotification on(std::string_view name, Widgets::NotificationKind kind,
+template <auto kSubject, auto kFunction, Widgets::Kind kKind>
+constexpr BoundNotification on(Widgets::Ref<kKind> widget, Widgets::NotificationKind kind,
                                Integer number = 0) {
-    const Widgets::WidgetId widget = Layout::findWidget(name).value();
-    if (!canNotify(Layout::describe(widget).style.kind, kind)) throw "no such notification";
-    return {name, widget, kind, &handle<kSubject, kFunction>, number};
-}
-
-consteval BoundNotification onCreation() {
-    return {"", Layout::kNoWidget, Widgets::NotificationKind::creation,
-            [](Panel& panel, Widgets::Notification& /*notification*/, Integer /*number*/) {
-                panel.start();
-            }};
+    if (!Widgets::gives(kKind, kind)) throw "no such notification";
+    return {widget, kind, &handle<kSubject, kFunction>, number};
 }
 
 consteval auto notificationTable() {
     using P = Panel;
+    using Layout::kCommon;
     using enum Widgets::NotificationKind;
     // clang-format off
-    return std::to_array<BoundNotification>({
-        onCreation(),
-        on<&P::powerState,       &PowerState::request>               ("cmdOnOff",         click),
-        on<&P::powerState,       &PowerState::request>               ("chkOnOff12",       release),
-        on<&P::powerState,       &PowerState::request>               ("chkOnOff34",       release),
-        on<&P::hostCommands,     &HostCommands::toggleMute>          ("Command12",        click,    1),
-        on<&P::hostCommands,     &HostCommands::toggleMute>          ("Command11",        click,    2),
-        on<&P::hostCommands,     &HostCommands::toggleMute>          ("Command14",        click,    3),
-        on<&P::hostCommands,     &HostCommands::toggleMute>          ("Command18",        click,    4),
-        on<&P::hostCommands,     &HostCommands::readInternalData>    ("cmdReadInData",    click),
-        on<&P::hostCommands,     &HostCommands::toggleMute>          ("Command17",        release,  0),
-        on<&P::waveGenerator,    &WaveGenerator::routeToPositive>    ("optP1",            click,    1),
-        on<&P::waveGenerator,    &WaveGenerator::routeToNegative>    ("optN1",            click,    1),
-        on<&P::waveGenerator,    &WaveGenerator::routeToPositive>    ("optP2",            click,    2),
-        on<&P::waveGenerator,    &WaveGenerator::routeToNegative>    ("optN2",            click,    2),
-        on<&P::waveGenerator,    &WaveGenerator::routeToPositive>    ("optP3",            click,    3),
-        on<&P::waveGenerator,    &WaveGenerator::routeToNegative>    ("optN3",            click,    3),
-        on<&P::waveGenerator,    &WaveGenerator::routeToPositive>    ("optP4",            click,    4),
-        on<&P::waveGenerator,    &WaveGenerator::routeToNegative>    ("optN4",            click,    4),
-        on<&P::waveGenerator,    &WaveGenerator::start>              ("cmdGo12",          click,    1),
-        on<&P::waveGenerator,    &WaveGenerator::start>              ("cmdGo34",          click,    2),
-        on<&P::volume,           &Volume::sliderMoved>               ("ZelvinSlider1",    change,   1),
-        on<&P::volume,           &Volume::sliderMoved>               ("ZelvinSlider2",    change,   2),
-        on<&P::volume,           &Volume::sliderMoved>               ("ZelvinSlider4",    change,   3),
-        on<&P::volume,           &Volume::sliderMoved>               ("ZelvinSlider5",    change,   4),
-        on<&P::temperature,      &Temperature::sliderMoved>          ("ZelvinSlider3",    change,   1),
-        on<&P::temperature,      &Temperature::sliderMoved>          ("ZelvinSlider6",    change,   2),
-        on<&P::temperature,      &Temperature::timerTicked>          ("tmrVirtualTemp12", tick,     1),
-        on<&P::temperature,      &Temperature::timerTicked>          ("tmrVirtualTemp34", tick,     2),
-        on<&P::amplifierId,      &AmplifierId::picked>               ("Combo1",           click),
-        on<&P::amplifierId,      &AmplifierId::keyPressed>           ("Combo1",           keyPress),
-        on<&P::informationEntry, &InformationEntry::start>           ("Command1",         click),
-        on<&P::informationEntry, &InformationEntry::keyPressed>      ("List1",            keyPress),
+    const auto ofPanel = std::to_array<BoundNotification>({
+        on<&P::powerState,       &PowerState::request>           (kCommon.powerButton,        click),
+        on<&P::hostCommands,     &HostCommands::readInternalData>(kCommon.internalDataButton, click),
+        on<&P::hostCommands,     &HostCommands::toggleMute>      (kCommon.muteButton,         release),
+        on<&P::amplifierId,      &AmplifierId::picked>           (kCommon.amplifierIds,       click),
+        on<&P::amplifierId,      &AmplifierId::keyPressed>       (kCommon.amplifierIds,       keyPress),
+        on<&P::informationEntry, &InformationEntry::start>       (kCommon.resetLogButton,     click),
+        on<&P::informationEntry, &InformationEntry::keyPressed>  (kCommon.log,                keyPress),
     });
+    const auto ofPair = [](Integer number, const Layout::Pair& pair) {
+        return std::to_array<BoundNotification>({
+            on<&P::powerState,    &PowerState::request>     (pair.powerCheck,  release),
+            on<&P::waveGenerator, &WaveGenerator::start>    (pair.startButton, click,  number),
+            on<&P::temperature,   &Temperature::sliderMoved>(pair.testSlider,  change, number),
+            on<&P::temperature,   &Temperature::timerTicked>(pair.testTimer,   tick,   number),
+        });
+    };
+    const auto ofChannel = [](Integer number, const Layout::Channel& channel) {
+        return std::to_array<BoundNotification>({
+            on<&P::hostCommands,  &HostCommands::toggleMute>      (channel.muteButton,      click,  number),
+            on<&P::waveGenerator, &WaveGenerator::routeToPositive>(channel.positive.option, click,  number),
+            on<&P::waveGenerator, &WaveGenerator::routeToNegative>(channel.negative.option, click,  number),
+            on<&P::volume,        &Volume::sliderMoved>           (channel.volumeSlider,    change, number),
+        });
+    };
     // clang-format on
+    return joined(ofPanel, ofEach(Layout::kPairs, ofPair), ofEach(Layout::kChannels, ofChannel));
 }
 
 }  // namespace Detail

@@ -1,12 +1,12 @@
 #include "Orvo/core/panel.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
+#include <iterator>
 #include <utility>
 
 #include "Orvo/core/notification_table.h"
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo {
 namespace {
@@ -14,9 +14,6 @@ namespace {
 using namespace Widgets;
 using namespace Layout;
 
-constexpr Integer kScopes = 4;
-constexpr std::array kFirstDestinations{optionRef("optP1"), optionRef("optP3")};
-constexpr std::array kTestSliders{sliderRef("ZelvinSlider3"), sliderRef("ZelvinSlider6")};
 constexpr Integer kHighestTestTemperature = 100;  // degrees Celsius
 
 void writeToStandardError(const Error& error) {
@@ -59,19 +56,16 @@ Panel::~Panel() = default;
 
 void Panel::create() {
     runtime_->notifyTo(this);
-    Notification creation{
-        .widget = kNoWidget, .kind = NotificationKind::creation, .cause = Cause::code};
-    notify(creation);
-}
-
-void Panel::start() {
     WidgetTree& widgets = *runtime_;
     widgets[kTabs].setCurrentTab(kCommonTab);
-    for (Integer channel = 1; channel <= kScopes; ++channel) oscilloscope.drawAxes(channel);
-    for (const OptionRef first : kFirstDestinations) widgets[first].setValue(true);
+    for (Integer channel = 1; channel <= std::ssize(kChannels); ++channel) {
+        oscilloscope.drawAxes(channel);
+    }
+    for (const OptionRef first : {channel(1).positive.option, channel(3).positive.option})
+        widgets[first].setValue(true);
     amplifierId.fillList();
     amplifierId.takeShownId();
-    for (const SliderRef test : kTestSliders) widgets[test].setMaximum(kHighestTestTemperature);
+    for (const Pair& pair : kPairs) widgets[pair.testSlider].setMaximum(kHighestTestTemperature);
 }
 
 void Panel::release() {

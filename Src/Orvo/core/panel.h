@@ -3,6 +3,7 @@
 #include <memory>
 #include <thread>
 
+#include "Orvo/core/call_listener.h"
 #include "Orvo/core/event_hub.h"
 #include "Orvo/core/host_commands.h"
 #include "Orvo/core/power_state.h"
@@ -30,11 +31,9 @@ public:
     Panel(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform);
     ~Panel() override;
 
-    /// Takes the widgets' notifications from here on, its own creation being the first.
+    /// Brings the widgets from their layout to the panel's first state, once; their notifications
+    /// are taken from here on.
     void create();
-
-    /// Brings the widgets from their layout to the panel's first state, once.
-    void start();
 
     /// No notification and no event passes from here on; what is under way ends without an error.
     void release();
@@ -62,6 +61,7 @@ public:
     // The subjects stand in the open for the members and the notification table, which only say who
     // does what. NOLINTBEGIN(*-non-private-member-variables-in-classes)
     EventHub events{onError_};
+    Receivers<CallListener*> callListeners;
     PowerState powerState{*runtime_, events};
     HostCommands hostCommands{events};
     ReadOnlyMode readOnlyMode{*runtime_};

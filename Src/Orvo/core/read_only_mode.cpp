@@ -2,7 +2,7 @@
 
 #include <tuple>
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo {
 namespace {
@@ -13,23 +13,23 @@ using namespace Layout;
 // watch can move no slider at all.
 // clang-format off
 constexpr std::tuple kInputs{
-    optionRef("opt10000hz_ch12"), optionRef("opt10000hz_Ch34"),
-    optionRef("opt1000hz_ch12"),  optionRef("opt1000hz_Ch34"),
-    optionRef("opt100hz_ch12"),   optionRef("opt100hz_Ch34"),
-    optionRef("optEIAJ_ch12"),    optionRef("optEIAJ_Ch34"),
-    optionRef("optLineIn12"),     optionRef("optLineIn34"),
-    buttonRef("cmdGo12"),         buttonRef("cmdGo34"),
-    optionRef("optP1"),           optionRef("optP2"),
-    optionRef("optN1"),           optionRef("optN2"),
-    optionRef("optP3"),           optionRef("optP4"),
-    optionRef("optN3"),           optionRef("optN4"),
-    buttonRef("cmdOnOff"),
-    sliderRef("ZelvinSlider1"),   sliderRef("ZelvinSlider2"),   sliderRef("ZelvinSlider3"),
-    buttonRef("Command1"),        buttonRef("Command11"),       buttonRef("Command12"),
-    buttonRef("Command14"),       buttonRef("Command17"),       buttonRef("Command18"),
-    comboRef("cmbSerialPort"),
-    checkRef("chkOnOff12"),       checkRef("chkOnOff34"),
-    sliderRef("ZelvinSlider4"),   sliderRef("ZelvinSlider5"),   sliderRef("ZelvinSlider6"),
+    pair(1).waves[2],         pair(2).waves[2],
+    pair(1).waves[1],         pair(2).waves[1],
+    pair(1).waves[0],         pair(2).waves[0],
+    pair(1).waves[3],         pair(2).waves[3],
+    pair(1).waves[4],         pair(2).waves[4],
+    pair(1).startButton,        pair(2).startButton,
+    channel(1).positive.option, channel(2).positive.option,
+    channel(1).negative.option, channel(2).negative.option,
+    channel(3).positive.option, channel(4).positive.option,
+    channel(3).negative.option, channel(4).negative.option,
+    kCommon.powerButton,
+    channel(1).volumeSlider,    channel(2).volumeSlider,    pair(1).testSlider,
+    kCommon.resetLogButton,     channel(2).muteButton,      channel(1).muteButton,
+    channel(3).muteButton,      kCommon.muteButton,         channel(4).muteButton,
+    kCommon.serialPorts,
+    pair(1).powerCheck,         pair(2).powerCheck,
+    channel(3).volumeSlider,    channel(4).volumeSlider,    pair(2).testSlider,
 };
 // clang-format on
 

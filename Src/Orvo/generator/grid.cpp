@@ -9,11 +9,13 @@ constexpr double kParts = 10.0;
 constexpr int kTopVolts = 120;
 constexpr int kVoltsPerMark = 30;
 
+int stepOf(float height) { return roundToInteger(height / kParts); }
+
 }  // namespace
 
 std::vector<GridMark> gridMarks(float height) {
     const int last = roundToInteger(height);
-    const int step = roundToInteger(height / kParts);
+    const int step = stepOf(height);
     if (step <= 0) return {};
     std::vector<GridMark> marks;
     int volts = kTopVolts;
@@ -21,6 +23,14 @@ std::vector<GridMark> gridMarks(float height) {
         marks.push_back({static_cast<Integer>(y), static_cast<Integer>(volts)});
     }
     return marks;
+}
+
+double voltsAt(double y, float height) {
+    return kTopVolts - (y / stepOf(height) - 1) * kVoltsPerMark;
+}
+
+double gridY(double volts, float height) {
+    return stepOf(height) * (1 + (kTopVolts - volts) / kVoltsPerMark);
 }
 
 }  // namespace Orvo

@@ -18,4 +18,9 @@ struct GridMark {
 /// even. None when that tenth rounds to nothing. Error 6 for a height above 32767.
 std::vector<GridMark> gridMarks(float height);
 
+/// What a place on the scale of such a surface stands for, and where a voltage lies, downwards;
+/// between the marks and beyond them alike. For a surface that has marks.
+double voltsAt(double y, float height);
+double gridY(double volts, float height);
+
 }  // namespace Orvo

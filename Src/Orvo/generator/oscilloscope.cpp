@@ -1,7 +1,6 @@
 #include "Orvo/generator/oscilloscope.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -9,7 +8,7 @@
 
 #include "Orvo/generator/grid.h"
 #include "Orvo/generator/trace.h"
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/values/arithmetic.h"
 #include "Orvo/values/error.h"
 #include "Orvo/values/indexed.h"
@@ -20,9 +19,6 @@ namespace {
 
 using namespace Widgets;
 using namespace Layout;
-
-constexpr std::array kSurfaces{pictureRef("Picture1"), pictureRef("Picture2"),
-                               pictureRef("Picture3"), pictureRef("Picture4")};
 
 constexpr float kMarkLeft = 1;
 constexpr float kMarkRight = 5;
@@ -58,8 +54,8 @@ std::span<const Integer> samplesFromOne(const IntegerArray& samples, Long last) 
 }  // namespace
 
 void Oscilloscope::drawAxes(Integer channel) {
-    const PictureRef* chosen = entry(kSurfaces, channel);
-    Picture& surface = widgets_[chosen != nullptr ? *chosen : kSurfaces.front()];
+    const Channel* chosen = entry(kChannels, channel);
+    Picture& surface = widgets_[(chosen != nullptr ? *chosen : kChannels.front()).scope];
     surface.clear();
     surface.setDrawWidth(1);
     surface.setScaleMode(ScaleMode::pixels);
@@ -67,9 +63,9 @@ void Oscilloscope::drawAxes(Integer channel) {
 }
 
 void Oscilloscope::drawTrace(Integer channel, const IntegerArray& samples) {
-    const PictureRef* chosen = entry(kSurfaces, channel);
+    const Channel* chosen = entry(kChannels, channel);
     if (chosen == nullptr) throw Errors::invalidCall();
-    Picture& surface = widgets_[*chosen];
+    Picture& surface = widgets_[chosen->scope];
     surface.setDrawWidth(1);
     surface.setScaleMode(ScaleMode::pixels);
     surface.clear();

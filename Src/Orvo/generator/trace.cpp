@@ -3,13 +3,6 @@
 #include <cstddef>
 
 namespace Orvo {
-namespace {
-
-constexpr double kGain = 1.07;
-constexpr double kOffset = 8.96;
-constexpr double kFullScale = 255.0;
-
-}  // namespace
 
 std::vector<Widgets::Point> tracePoints(std::span<const Integer> samples, Long upperBound,
                                         float width, float height) {
@@ -19,7 +12,7 @@ std::vector<Widgets::Point> tracePoints(std::span<const Integer> samples, Long u
     for (int i = 0; i < count; ++i) {
         const double x = kTraceMargin + room * (i + 1) / upperBound;
         const auto at = static_cast<std::size_t>(i);
-        const double y = (samples[at] * kGain - kOffset) * height / kFullScale;
+        const double y = traceY(samples[at], double{height});
         points[at] = {static_cast<float>(x), static_cast<float>(y)};
     }
     return points;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -16,7 +16,7 @@ namespace Orvo::Layout {
 
 using Widgets::WidgetId;
 
-constexpr WidgetId kNoWidget = 0xFFFF;
+constexpr WidgetId kPanel = 0xFFFF;   // the panel itself, which contains the first widget
 constexpr int kTimerInterval = 1500;  // milliseconds
 
 /// One widget as it is laid out.
@@ -25,8 +25,8 @@ struct Widget {
     Style style{};
     std::u16string_view caption;
     Place place;
-    WidgetId container = kNoWidget;  ///< kNoWidget: the panel itself
-    int tab = 0;                     ///< the container's tab that it belongs to, from 0
+    WidgetId container = kPanel;
+    int tab = 0;  ///< the container's tab that it belongs to, from 0
 };
 
 constexpr std::size_t kWidgetCount = [] {
@@ -38,7 +38,7 @@ constexpr std::size_t kWidgetCount = [] {
 
 namespace Detail {
 
-enum Pair : std::size_t { pair12, pair34 };
+enum PairTab : std::size_t { pair12, pair34 };
 
 constexpr int either(int differing, int same) { return differing == kSame ? same : differing; }
 
@@ -51,10 +51,10 @@ constexpr Place twinPlace(const TwinRow& row) {
 class Expansion {
 public:
     constexpr Expansion() {
-        add(kRoot.name, kRoot.style, kRoot.caption, kRoot.place, kNoWidget, 0);
+        add(kRoot.name, kRoot.style, kRoot.caption, kRoot.place, kPanel, 0);
         for (const Row& row : kCommonWidgets)
             addToTab(kCommonTab, row.name, row.style, row.caption, row.place);
-        for (const Pair pair : {pair12, pair34}) addPairTab(pair);
+        for (const PairTab pair : {pair12, pair34}) addPairTab(pair);
     }
 
     [[nodiscard]] constexpr const auto& widgets() const { return widgets_; }
@@ -70,14 +70,14 @@ private:
         add(name, style, caption, place, 0, tab);
     }
 
-    constexpr void addTwin(Pair pair, const TwinRow& row, WidgetId container, int tab) {
+    constexpr void addTwin(PairTab pair, const TwinRow& row, WidgetId container, int tab) {
         if (pair == pair12)
             return add(row.pair12, row.style, row.caption, row.place, container, tab);
         const auto caption = row.other.itsCaption.empty() ? row.caption : row.other.itsCaption;
         add(row.pair34, row.style, caption, twinPlace(row), container, tab);
     }
 
-    constexpr void addPairTab(Pair pair) {
+    constexpr void addPairTab(PairTab pair) {
         const int tab = pair == pair12 ? kFirstPairTab : kSecondPairTab;
         for (const TwinRow& row : kPairWidgets) {
             addTwin(pair, row, 0, tab);
@@ -86,7 +86,7 @@ private:
         for (const RouteRow& route : kRoutes) addRoute(pair, route, tab);
     }
 
-    constexpr void addRoute(Pair pair, const RouteRow& route, int tab) {
+    constexpr void addRoute(PairTab pair, const RouteRow& route, int tab) {
         for (std::size_t i = 0; i < route.segments.size(); ++i) {
             Place place = route.segments[i];
             if (pair == pair34 && i == 0) place.width = either(route.pair34End, place.width);
@@ -94,7 +94,7 @@ private:
         }
     }
 
-    constexpr void addContents(Pair pair, std::string_view name, WidgetId container) {
+    constexpr void addContents(PairTab pair, std::string_view name, WidgetId container) {
         for (const TwinSection& section : kTwinSections) {
             if (section.containers[pair] != name) continue;
             for (const TwinRow& row : section.rows) addTwin(pair, row, container, 0);
@@ -136,6 +136,23 @@ private:
 inline constexpr std::array<Widget, kWidgetCount> kWidgets = Detail::Expansion().widgets();
 
 constexpr const Widget& describe(WidgetId id) { return kWidgets[id]; }
+constexpr Kind kindOf(WidgetId id) { return describe(id).style.kind; }
+
+/// Whether two widgets are of one kind and in one container, as the options of a group are.
+constexpr bool areFellows(WidgetId one, WidgetId other) {
+    return kindOf(one) == kindOf(other) && describe(one).container == describe(other).container;
+}
+
+/// All widgets of a kind, in order.
+template <Kind kKind>
+inline constexpr auto kAll = [] {
+    constexpr auto isOne = [](const Widget& widget) { return widget.style.kind == kKind; };
+    std::array<WidgetId, std::count_if(kWidgets.begin(), kWidgets.end(), isOne)> all{};
+    for (std::size_t i = 0, id = 0; i < all.size(); ++id) {
+        if (isOne(kWidgets[id])) all[i++] = static_cast<WidgetId>(id);
+    }
+    return all;
+}();
 
 /// The widget of this name, "NAME(INDEX)" for an element of a widget array.
 constexpr std::optional<WidgetId> findWidget(std::string_view name) {
@@ -145,48 +162,7 @@ constexpr std::optional<WidgetId> findWidget(std::string_view name) {
     return std::nullopt;
 }
 
-/// A reference by name; a name that the layout doesn't have, or has with another kind, doesn't
-/// compile.
-template <Kind kKind>
-consteval Widgets::Ref<kKind> find(std::string_view name) {
-    const WidgetId id = findWidget(name).value();
-    if (describe(id).style.kind != kKind) throw "the widget is of another kind";
-    return {id};
-}
-
-template <Kind kKind>
-consteval Widgets::ArrayRef<kKind> findArray(std::string_view name) {
-    Widgets::ArrayRef<kKind> array;
-    for (std::size_t i = 0; i < kWidgets.size(); ++i) {
-        const std::string_view whole = kWidgets[i].name;
-        if (!whole.starts_with(name) || !whole.substr(name.size()).starts_with('(')) continue;
-        if (kWidgets[i].style.kind != kKind) throw "the widget array is of another kind";
-        array.ids[static_cast<std::size_t>(whole[name.size() + 1] - '0')] =
-            static_cast<WidgetId>(i);
-        ++array.count;
-    }
-    if (array.count == 0) throw "no widget array of this name";
-    return array;
-}
-
-consteval auto labelRef(std::string_view name) { return find<Kind::label>(name); }
-consteval auto shapeRef(std::string_view name) { return find<Kind::shape>(name); }
-consteval auto lineRef(std::string_view name) { return find<Kind::line>(name); }
-consteval auto buttonRef(std::string_view name) { return find<Kind::button>(name); }
-consteval auto optionRef(std::string_view name) { return find<Kind::option>(name); }
-consteval auto checkRef(std::string_view name) { return find<Kind::check>(name); }
-consteval auto comboRef(std::string_view name) { return find<Kind::combo>(name); }
-consteval auto listRef(std::string_view name) { return find<Kind::list>(name); }
-consteval auto pictureRef(std::string_view name) { return find<Kind::picture>(name); }
-consteval auto timerRef(std::string_view name) { return find<Kind::timer>(name); }
-consteval auto tabsRef(std::string_view name) { return find<Kind::tabs>(name); }
-consteval auto digitRef(std::string_view name) { return find<Kind::digit>(name); }
-consteval auto sliderRef(std::string_view name) { return find<Kind::slider>(name); }
-
-consteval auto labelArray(std::string_view name) { return findArray<Kind::label>(name); }
-consteval auto lineArray(std::string_view name) { return findArray<Kind::line>(name); }
-consteval auto digitArray(std::string_view name) { return findArray<Kind::digit>(name); }
-
-inline constexpr Widgets::TabsRef kTabs = tabsRef("SSTab1");
+/// What holds everything.
+inline constexpr Widgets::TabsRef kTabs{0};
 
 }  // namespace Orvo::Layout

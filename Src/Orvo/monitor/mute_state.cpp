@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <span>
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/values/indexed.h"
 #include "Orvo/widgets/lamp.h"
 
@@ -14,15 +14,13 @@ namespace {
 using namespace Widgets;
 using namespace Layout;
 
-constexpr ShapeRef kSummaryLamp = shapeRef("Shape34");
-
 // By channel from 0, the whole amplifier.
-constexpr std::array kLamps{kSummaryLamp, shapeRef("Shape16"), shapeRef("Shape15"),
-                            shapeRef("Shape11"), shapeRef("Shape10")};
+constexpr std::array kLamps{kCommon.muteLamp, channel(1).muteLamp, channel(2).muteLamp,
+                            channel(3).muteLamp, channel(4).muteLamp};
 
 // The channels' lamps in the order in which they are gone through, the second pair's first.
-constexpr std::array kInOrder{shapeRef("Shape10"), shapeRef("Shape11"), shapeRef("Shape16"),
-                              shapeRef("Shape15")};
+constexpr std::array kInOrder{channel(4).muteLamp, channel(3).muteLamp, channel(1).muteLamp,
+                              channel(2).muteLamp};
 
 // Reads every lamp, also once the answer is known.
 bool allAre(WidgetTree& widgets, std::span<const ShapeRef> lamps, FillStyle style) {
@@ -51,8 +49,8 @@ Boolean MuteState::get(Integer channel) const {
 void MuteState::summarise() {
     const bool hasSecondPair = bool(widgets_[kTabs].tabEnabled(kSecondPairTab));
     const auto counted = std::span(kInOrder).subspan(hasSecondPair ? 0 : 2);
-    if (allAre(widgets_, counted, FillStyle::solid)) light(widgets_[kSummaryLamp], true);
-    if (allAre(widgets_, counted, FillStyle::transparent)) light(widgets_[kSummaryLamp], false);
+    if (allAre(widgets_, counted, FillStyle::solid)) light(widgets_[kCommon.muteLamp], true);
+    if (allAre(widgets_, counted, FillStyle::transparent)) light(widgets_[kCommon.muteLamp], false);
 }
 
 }  // namespace Orvo

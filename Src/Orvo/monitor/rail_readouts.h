@@ -1,13 +1,13 @@
 #pragma once
 
-#include <cstdint>
-
+#include "Orvo/layout/roles.h"
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
 
-enum class Rail : std::uint8_t { positivePower, positiveAux, negativePower, negativeAux };
+/// One of a pair's rails: `&Layout::Pair::positivePower`.
+using Rail = Layout::Readout Layout::Pair::*;
 
 /// The supply rails of both pairs: three digits each, the magnitude in volts. Signs and units are
 /// fixed captions.

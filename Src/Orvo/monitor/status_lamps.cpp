@@ -1,44 +1,25 @@
 #include "Orvo/monitor/status_lamps.h"
 
-#include <array>
-
-#include "Orvo/layout/layout.h"
 #include "Orvo/values/indexed.h"
 #include "Orvo/widgets/lamp.h"
 
 namespace Orvo {
-namespace {
 
-using namespace Widgets;
 using namespace Layout;
 
-constexpr std::array kProtectionLamps{shapeRef("Shape28"), shapeRef("Shape18"), shapeRef("Shape21"),
-                                      shapeRef("Shape13"), shapeRef("Shape14")};
-constexpr std::array kSignalLamps{shapeRef("Shape22"), shapeRef("Shape23"), shapeRef("Shape19"),
-                                  shapeRef("Shape24")};
-constexpr std::array kClockLamps{shapeRef("Shape6"), shapeRef("Shape4")};
-constexpr std::array kReadyLamps{shapeRef("Shape17"), shapeRef("Shape12")};
-
-void lightAny(WidgetTree& widgets, const ShapeRef* lamp, Boolean value) {
-    if (lamp != nullptr) light(widgets[*lamp], value);
-}
-
-}  // namespace
-
 void StatusLamps::setProtection(Integer channel, Boolean value) {
-    lightAny(widgets_, entry(kProtectionLamps, channel, 0), value);
+    if (channel == 0) return light(widgets_[kCommon.protectionLamp], value);
+    setChannel(&Channel::protectionLamp, channel, value);
 }
 
-void StatusLamps::setSignal(Integer channel, Boolean value) {
-    lightAny(widgets_, entry(kSignalLamps, channel), value);
+void StatusLamps::setChannel(Widgets::ShapeRef Channel::*lamp, Integer channel, Boolean value) {
+    const Channel* found = entry(kChannels, channel);
+    if (found != nullptr) light(widgets_[found->*lamp], value);
 }
 
-void StatusLamps::setClock(Integer pair, Boolean value) {
-    lightAny(widgets_, entry(kClockLamps, pair), value);
-}
-
-void StatusLamps::setReady(Integer pair, Boolean value) {
-    lightAny(widgets_, entry(kReadyLamps, pair), value);
+void StatusLamps::setPair(Widgets::ShapeRef Pair::*lamp, Integer pair, Boolean value) {
+    const Pair* found = entry(kPairs, pair);
+    if (found != nullptr) light(widgets_[found->*lamp], value);
 }
 
 }  // namespace Orvo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvo/layout/roles.h"
 #include "Orvo/values/boolean.h"
 #include "Orvo/widgets/widget_tree.h"
 
@@ -13,9 +14,8 @@ public:
 
     /// Channel 1 to 4, or 0 for the whole amplifier.
     void setProtection(Integer channel, Boolean value);
-    void setSignal(Integer channel, Boolean value);
-    void setClock(Integer pair, Boolean value);
-    void setReady(Integer pair, Boolean value);
+    void setChannel(Widgets::ShapeRef Layout::Channel::*lamp, Integer channel, Boolean value);
+    void setPair(Widgets::ShapeRef Layout::Pair::*lamp, Integer pair, Boolean value);
 
 private:
     Widgets::WidgetTree& widgets_;

@@ -1,8 +1,6 @@
 #include "Orvo/service/amplifier_id.h"
 
-#include <array>
-
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/values/arithmetic.h"
 #include "Orvo/values/text.h"
 
@@ -12,31 +10,30 @@ namespace {
 using namespace Widgets;
 using namespace Layout;
 
-constexpr ComboRef kIds = comboRef("Combo1");
-constexpr std::array kIdLabels{labelRef("lblAmpId12"), labelRef("lblAmpId34")};
 constexpr Integer kHighestId = 99;
 constexpr Integer kCarriageReturn = 13;
 
 }  // namespace
 
 void AmplifierId::fillList() {
-    for (Integer id = 1; id <= kHighestId; ++id) widgets_[kIds].addItem(decimalText(id));
+    for (Integer id = 1; id <= kHighestId; ++id)
+        widgets_[kCommon.amplifierIds].addItem(decimalText(id));
 }
 
 void AmplifierId::takeShownId() {
-    intIdDevice = roundToInteger(numericValue(widgets_[kIds].text()));
+    intIdDevice = roundToInteger(numericValue(widgets_[kCommon.amplifierIds].text()));
 }
 
 void AmplifierId::set(Integer id) {
     intIdDevice = id;
-    widgets_[kIds].setText(decimalText(id));
+    widgets_[kCommon.amplifierIds].setText(decimalText(id));
 }
 
 void AmplifierId::picked() {
-    const double shown = numericValue(widgets_[kIds].text());
+    const double shown = numericValue(widgets_[kCommon.amplifierIds].text());
     if (shown == intIdDevice) return;
     intIdDevice = roundToInteger(shown);
-    for (const LabelRef label : kIdLabels) widgets_[label].setCaption(decimalText(intIdDevice));
+    for (const Pair& pair : kPairs) widgets_[pair.amplifierId].setCaption(decimalText(intIdDevice));
     log_.clear();
     Integer id = intIdDevice;
     host_.ChangeAmpId(id);

@@ -1,6 +1,7 @@
 #include "Orvo/service/block_heap.h"
 
 #include <limits>
+#include <new>
 
 namespace Orvo {
 namespace {
@@ -12,12 +13,14 @@ constexpr std::int64_t kLast = std::numeric_limits<Long>::max();
 
 }  // namespace
 
-Long BlockHeap::allocate(std::size_t bytes) {
+Long BlockHeap::allocate(std::size_t bytes) try {
     const std::int64_t address = nextAddress();
     const std::int64_t room = kLast - kGap - address;
     if (room < 0 || bytes > static_cast<std::size_t>(room)) return 0;
     blocks_.emplace(address, std::vector<std::byte>(bytes));
     return static_cast<Long>(address);
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 // Above the last block that is left, so that one which stays does not make the addresses run out.

@@ -1,6 +1,6 @@
 #include "Orvo/service/information_entry.h"
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/values/text.h"
 
 namespace Orvo {
@@ -8,7 +8,6 @@ namespace {
 
 using namespace Widgets;
 
-constexpr ButtonRef kButton = Layout::buttonRef("Command1");
 constexpr Long kPassword = 530284;
 constexpr int kTries = 2;
 
@@ -20,13 +19,13 @@ void InformationEntry::keyPressed(Integer& keyCode) {
 
 void InformationEntry::start() {
     if (!knowsPassword()) return;
-    widgets_[kButton].setEnabled(false);
+    widgets_[Layout::kCommon.resetLogButton].setEnabled(false);
     try {
         askAndRaise();
     } catch (const PromptWithdrawn&) {
         // As with a serial number that is left empty: no event.
     }
-    widgets_[kButton].setEnabled(true);
+    widgets_[Layout::kCommon.resetLogButton].setEnabled(true);
 }
 
 bool InformationEntry::knowsPassword() {

@@ -1,16 +1,11 @@
 #include "Orvo/service/message_log.h"
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo {
-namespace {
 
-constexpr Widgets::ListRef kLog = Layout::listRef("List1");
+void MessageLog::add(const String& line) { widgets_[Layout::kCommon.log].addItem(line); }
 
-}  // namespace
-
-void MessageLog::add(const String& line) { widgets_[kLog].addItem(line); }
-
-void MessageLog::clear() { widgets_[kLog].clear(); }
+void MessageLog::clear() { widgets_[Layout::kCommon.log].clear(); }
 
 }  // namespace Orvo

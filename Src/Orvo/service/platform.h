@@ -14,7 +14,7 @@ namespace Orvo {
 class ProcessHeap {
 public:
     virtual ~ProcessHeap() = default;
-    /// A block of this many bytes, or 0 when there is no room; its bytes are undefined.
+    /// A block of at least this many bytes, or 0 when there is no room; its bytes are undefined.
     virtual Long allocate(std::size_t bytes) = 0;
     /// Ends a block that `allocate` gave out.
     virtual void release(Long address) = 0;

@@ -32,7 +32,9 @@ Long field(std::span<const std::byte> record, std::size_t index) {
 class PortDiscovery::Buffer {
 public:
     Buffer(ProcessHeap& heap, Long size)
-        : heap_(heap), address_(heap.allocate(static_cast<std::size_t>(std::max(size, Long{0})))) {}
+        : heap_(heap),
+          size_(static_cast<std::size_t>(std::max(size, Long{0}))),
+          address_(heap.allocate(size_)) {}
     ~Buffer() {
         if (address_ != 0) heap_.release(address_);
     }
@@ -40,10 +42,15 @@ public:
     Buffer& operator=(const Buffer&) = delete;
 
     [[nodiscard]] Long address() const { return address_; }
-    [[nodiscard]] std::span<std::byte> bytes() const { return heap_.bytesFrom(address_); }
+    // As many as were asked for, whatever the heap rounds its blocks up to.
+    [[nodiscard]] std::span<std::byte> bytes() const {
+        const auto block = heap_.bytesFrom(address_);
+        return block.first(std::min(size_, block.size()));
+    }
 
 private:
     ProcessHeap& heap_;
+    std::size_t size_;
     Long address_;
 };
 
@@ -70,7 +77,7 @@ String PortDiscovery::textAt(Long address) const {
 }
 
 Long PortDiscovery::discover(const String& server) {
-    const std::string name = toAnsi(server);
+    const std::string name = toAnsi(StringView(server).substr(0, server.find(u'\0')));
     PortSpooler& spooler = *platform_.spooler;
     Long needed = 0;
     Long count = 0;

@@ -24,7 +24,8 @@ public:
     [[nodiscard]] static String trimmed(const String& text);
     [[nodiscard]] String textAt(Long address) const;
 
-    /// Enters the ports of a server into the table and returns their number.
+    /// Enters the ports of a server, whose name ends at its first NUL, into the table and returns
+    /// their number.
     Long discover(const String& server);
 
     /// The entries that discoveries have made; those above the last one's count are older.

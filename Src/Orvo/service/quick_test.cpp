@@ -1,13 +1,13 @@
 #include "Orvo/service/quick_test.h"
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo {
 namespace {
 
 using namespace Widgets;
 
-constexpr LabelArrayRef kResults = Layout::labelArray("lblTestResult");
+constexpr LabelArrayRef kResults = Layout::kCommon.testResults;
 constexpr Integer kMeasurements = 5;
 constexpr Integer kMains = 5;
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <variant>
 
-#include "Orvo/layout/layout.h"
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/reference.h"
 #include "Orvo/widgets/widgets.h"
@@ -50,6 +52,20 @@ enum class Verb : std::uint8_t {
     ask,
 };
 
+/// The names of the verbs, in their order.
+inline constexpr auto kVerbNames = std::to_array<std::string_view>({
+    "readCaption",    "setCaption",      "setColour",    "readFillStyle", "setFillStyle",
+    "setVisible",     "setEnabled",      "readValue",    "setValue",      "addItem",
+    "clear",          "readText",        "setText",      "setDrawWidth",  "setScaleMode",
+    "readScaleWidth", "readScaleHeight", "line",         "setCurrentX",   "setCurrentY",
+    "setForeColour",  "setFontSize",     "print",        "setCurrentTab", "readTabEnabled",
+    "setTabEnabled",  "setDigit",        "readPosition", "setPosition",   "readButtonDown",
+    "setMaximum",     "setPointer",      "ask",
+});
+static_assert(kVerbNames.size() == static_cast<std::size_t>(Verb::ask) + 1);
+
+constexpr std::string_view nameOf(Verb verb) { return kVerbNames[static_cast<std::size_t>(verb)]; }
+
 struct LineSegment {
     Widgets::Point from;
     Widgets::Point to;
@@ -59,9 +75,9 @@ struct LineSegment {
 };
 
 /// One operation of the panel on a widget, with what it writes; `StringView` is valid during the
-/// call only. The screen and the input prompt have no widget number.
+/// call only.
 struct Operation {
-    WidgetId widget = Layout::kNoWidget;
+    std::optional<WidgetId> widget{};  ///< none: the mouse pointer and the input prompt
     Verb verb = Verb::readCaption;
     std::variant<std::monostate, Integer, float, StringView, Colour, LineSegment> value{};
     Integer tab = 0;  ///< readTabEnabled and setTabEnabled only

@@ -9,6 +9,7 @@
 
 #include "Orvo/store/operation.h"
 #include "Orvo/values/types.h"
+#include "Orvo/widgets/lamp.h"
 #include "Orvo/widgets/widgets.h"
 
 // The state of each kind of widget, as a screen reads it.
@@ -21,6 +22,8 @@ struct LabelState {
 
 struct ShapeState {
     Widgets::FillStyle fillStyle = Widgets::FillStyle::transparent;
+
+    [[nodiscard]] bool isLit() const { return Widgets::isLit(fillStyle); }
 };
 
 struct LineState {

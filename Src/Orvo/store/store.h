@@ -5,8 +5,8 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <type_traits>
 #include <utility>
-#include <vector>
 
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/stored_widgets.h"
@@ -19,9 +19,11 @@ namespace Orvo::Runtime {
 class Screen {
 public:
     virtual ~Screen() = default;
-    /// What this widget shows may have changed; `Layout::kNoWidget` stands for the pointer. Called
-    /// from within the panel's writes: note it and paint later.
+    /// What this widget shows may have changed. Called from within the panel's writes: note it and
+    /// paint later.
     virtual void changed(WidgetId widget) = 0;
+    /// The mouse pointer has changed.
+    virtual void pointerChanged() = 0;
 };
 
 /// Whoever sits in front of the panel and answers its prompts.
@@ -37,36 +39,17 @@ public:
 /// the headless runtime, with a clock that only `advance` moves.
 ///
 /// All calls from one thread, the panel's.
-class Store final : public Widgets::WidgetTree, public std::enable_shared_from_this<Store> {
+class Store final : public Widgets::WidgetTree,
+                    Widgets::MousePointer,
+                    Widgets::InputPrompt,
+                    public std::enable_shared_from_this<Store> {
 public:
     using Milliseconds = std::chrono::milliseconds;
 
     static std::shared_ptr<Store> create();
-    ~Store() override;
 
-    Widgets::Label& operator[](Widgets::LabelRef ref) override { return at<StoredLabel>(ref.id); }
-    Widgets::Shape& operator[](Widgets::ShapeRef ref) override { return at<StoredShape>(ref.id); }
-    Widgets::Line& operator[](Widgets::LineRef ref) override { return at<StoredLine>(ref.id); }
-    Widgets::Button& operator[](Widgets::ButtonRef ref) override {
-        return at<StoredButton>(ref.id);
-    }
-    Widgets::Option& operator[](Widgets::OptionRef ref) override {
-        return at<StoredOption>(ref.id);
-    }
-    Widgets::Check& operator[](Widgets::CheckRef ref) override { return at<StoredCheck>(ref.id); }
-    Widgets::Combo& operator[](Widgets::ComboRef ref) override { return at<StoredCombo>(ref.id); }
-    Widgets::List& operator[](Widgets::ListRef ref) override { return at<StoredList>(ref.id); }
-    Widgets::Picture& operator[](Widgets::PictureRef ref) override {
-        return at<StoredPicture>(ref.id);
-    }
-    Widgets::Timer& operator[](Widgets::TimerRef ref) override { return at<StoredTimer>(ref.id); }
-    Widgets::Tabs& operator[](Widgets::TabsRef ref) override { return at<StoredTabs>(ref.id); }
-    Widgets::Digit& operator[](Widgets::DigitRef ref) override { return at<StoredDigit>(ref.id); }
-    Widgets::Slider& operator[](Widgets::SliderRef ref) override {
-        return at<StoredSlider>(ref.id);
-    }
-    Widgets::MousePointer& mousePointer() override;
-    Widgets::InputPrompt& inputPrompt() override;
+    Widgets::MousePointer& mousePointer() override { return *this; }
+    Widgets::InputPrompt& inputPrompt() override { return *this; }
     void notifyTo(Widgets::NotificationSink* sink) override { sink_ = sink; }
 
     /// What a screen and a person's input work with; null takes them away again.
@@ -84,6 +67,14 @@ public:
         return static_cast<const Stored&>(*widgets_[id]);
     }
     [[nodiscard]] const StoredWidget& widget(WidgetId id) const { return *widgets_[id]; }
+    /// What `use` returns for the widget as its kind's stored class.
+    template <class Use>
+    auto visit(WidgetId id, const Use& use) const {
+        return StoredKinds::visit(Layout::kindOf(id),
+                                  [&]<class Stored>(std::type_identity<Stored> /*kind*/) {
+                                      return use(get<Stored>(id));
+                                  });
+    }
     [[nodiscard]] Widgets::Pointer pointer() const { return pointer_; }
 
     /// Whether the widget shows, and takes input, with everything that contains it. A tab that is
@@ -114,18 +105,19 @@ private:
     friend class StoredOption;
     friend class StoredPicture;
     friend class StoredTabs;
-    friend class StoredTimer;
     friend class UserInput;
-    class StoredMousePointer;
-    class StoredPrompt;
 
     Store();
 
+    Widgets::Widget& at(WidgetId id) override { return *interfaces_[id]; }
     template <class Stored>
-    Stored& at(WidgetId id) {
+    [[nodiscard]] Stored& at(WidgetId id) const {
         return static_cast<Stored&>(*widgets_[id]);
     }
+    template <class Stored>
     std::unique_ptr<StoredWidget> make(WidgetId id);
+    void setPointer(Widgets::Pointer pointer) override;
+    String ask(const Widgets::Question& question) override;
 
     [[nodiscard]] bool isObserved() const { return observer_ != nullptr; }
     void observe(const Operation& operation) const {
@@ -136,18 +128,13 @@ private:
     }
     /// The notification as its handler left it.
     Widgets::Notification notify(Widgets::Notification notification);
-    const std::vector<StoredOption*>& optionsIn(WidgetId container);
-    StoredTimer* nextTimer();
+    [[nodiscard]] StoredTimer* nextTimer() const;
     void tick(const StoredTimer& timer);
     /// Of those that a person holds and that take no input any more.
     void letGoOfSliders();
 
     std::array<std::unique_ptr<StoredWidget>, Layout::kWidgetCount> widgets_;
-    std::vector<StoredTimer*> timers_;
-    std::vector<StoredSlider*> sliders_;
-    std::array<std::vector<StoredOption*>, Layout::kWidgetCount> options_;
-    std::unique_ptr<StoredMousePointer> mousePointer_;
-    std::unique_ptr<StoredPrompt> prompt_;
+    std::array<Widgets::Widget*, Layout::kWidgetCount> interfaces_{};  // of the same
     UserInput input_{*this};
     Widgets::NotificationSink* sink_ = nullptr;
     Screen* screen_ = nullptr;

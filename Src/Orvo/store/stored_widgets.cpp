@@ -41,7 +41,7 @@ void StoredWidget::enable(bool enabled) {
 
 void StoredWidget::changed() { store_.changed(id_); }
 
-StoredLabel::StoredLabel(Store& store, WidgetId id) : StatefulWidget(store, id) {
+StoredLabel::StoredLabel(Store& store, WidgetId id) : StoredKind(store, id) {
     state_ = {String(description().caption), description().style.text};
 }
 
@@ -60,7 +60,7 @@ void StoredLabel::setColour(Colour text) {
     change(state_.colour, text);
 }
 
-StoredShape::StoredShape(Store& store, WidgetId id) : StatefulWidget(store, id) {
+StoredShape::StoredShape(Store& store, WidgetId id) : StoredKind(store, id) {
     state_.fillStyle = description().style.isSolid ? FillStyle::solid : FillStyle::transparent;
 }
 
@@ -74,7 +74,7 @@ void StoredShape::setFillStyle(FillStyle style) {
     change(state_.fillStyle, style);
 }
 
-StoredLine::StoredLine(Store& store, WidgetId id) : StatefulWidget(store, id) {
+StoredLine::StoredLine(Store& store, WidgetId id) : StoredKind(store, id) {
     state_.colour = description().style.text;
 }
 
@@ -88,12 +88,7 @@ void StoredLine::setVisible(Boolean visible) {
     show(bool(visible));
 }
 
-void StoredButton::setEnabled(Boolean enabled) {
-    observe({.verb = Verb::setEnabled, .value = enabled.raw()});
-    enable(bool(enabled));
-}
-
-StoredOption::StoredOption(Store& store, WidgetId id) : StatefulWidget(store, id) {
+StoredOption::StoredOption(Store& store, WidgetId id) : StoredEnableable(store, id) {
     state_.value = description().style.isSelected;
 }
 
@@ -111,15 +106,11 @@ void StoredOption::setValue(bool value) {
     }
 }
 
-void StoredOption::setEnabled(Boolean enabled) {
-    observe({.verb = Verb::setEnabled, .value = enabled.raw()});
-    enable(bool(enabled));
-}
-
 void StoredOption::select(Cause cause) {
-    if (!change(state_.value, true)) return;
-    for (StoredOption* other : store().optionsIn(description().container)) {
-        if (other != this) other->clear();
+    change(state_.value, true);
+    for (const WidgetId other : Layout::kAll<Kind::option>) {
+        if (other != id() && Layout::areFellows(other, id()))
+            store().at<StoredOption>(other).clear();
     }
     store().notify({.widget = id(), .kind = NotificationKind::click, .cause = cause});
 }
@@ -129,17 +120,12 @@ void StoredCheck::setValue(CheckValue value) {
     change(state_.value, value);
 }
 
-void StoredCheck::setEnabled(Boolean enabled) {
-    observe({.verb = Verb::setEnabled, .value = enabled.raw()});
-    enable(bool(enabled));
-}
-
 void StoredCheck::flip() {
     const bool wasChecked = state_.value == CheckValue::checked;
     change(state_.value, wasChecked ? CheckValue::unchecked : CheckValue::checked);
 }
 
-StoredCombo::StoredCombo(Store& store, WidgetId id) : StatefulWidget(store, id) {
+StoredCombo::StoredCombo(Store& store, WidgetId id) : StoredEnableable(store, id) {
     state_.text = String(description().caption);
 }
 
@@ -159,9 +145,8 @@ void StoredCombo::setText(const String& text) {
     showText(text);
 }
 
-void StoredCombo::setEnabled(Boolean enabled) {
-    observe({.verb = Verb::setEnabled, .value = enabled.raw()});
-    enable(bool(enabled));
+bool StoredCombo::hasItem(StringView text) const {
+    return std::find(state_.items.begin(), state_.items.end(), text) != state_.items.end();
 }
 
 void StoredList::addItem(const String& text) {
@@ -183,13 +168,8 @@ void StoredList::clear() {
     changed();
 }
 
-StoredTimer::StoredTimer(Store& store, WidgetId id) : StatefulWidget(store, id) {
+StoredTimer::StoredTimer(Store& store, WidgetId id) : StoredEnableable(store, id) {
     state_.interval = state_.due = std::chrono::milliseconds(Layout::kTimerInterval);
-}
-
-void StoredTimer::setEnabled(Boolean enabled) {
-    observe({.verb = Verb::setEnabled, .value = enabled.raw()});
-    enable(bool(enabled));
 }
 
 void StoredTimer::enable(bool enabled) {
@@ -202,7 +182,7 @@ void StoredTimer::comeDue(std::chrono::milliseconds now) {
     changed();
 }
 
-StoredTabs::StoredTabs(Store& store, WidgetId id) : StatefulWidget(store, id) {
+StoredTabs::StoredTabs(Store& store, WidgetId id) : StoredKind(store, id) {
     const bool isScope = !description().caption.empty();
     state_.enabled.assign(isScope ? 1 : Layout::kTabCaptions.size(), true);
 }
@@ -268,11 +248,6 @@ Boolean StoredSlider::buttonDown() const {
 void StoredSlider::setMaximum(Integer position) {
     observe({.verb = Verb::setMaximum, .value = position});
     change(state_.maximum, position);
-}
-
-void StoredSlider::setEnabled(Boolean enabled) {
-    observe({.verb = Verb::setEnabled, .value = enabled.raw()});
-    enable(bool(enabled));
 }
 
 bool StoredSlider::moveTo(int position) { return change(state_.position, state_.within(position)); }

@@ -2,10 +2,13 @@
 
 #include <cstddef>
 #include <span>
+#include <variant>
 #include <vector>
 
+#include "Orvo/layout/layout.h"
 #include "Orvo/store/operation.h"
 #include "Orvo/store/state.h"
+#include "Orvo/widgets/kind_table.h"
 #include "Orvo/widgets/notification.h"
 #include "Orvo/widgets/widgets.h"
 
@@ -14,6 +17,8 @@
 namespace Orvo::Runtime {
 
 class Store;
+using Widgets::For;
+using Widgets::Kind;
 
 class StoredWidget {
 public:
@@ -51,8 +56,9 @@ private:
     bool isEnabled_;
 };
 
-template <class State>
-class StatefulWidget : public StoredWidget {
+/// A kind without a state of its own is its interface alone.
+template <class Interface, class State = std::monostate>
+class StoredKind : public StoredWidget, public Interface {
 public:
     using StoredWidget::StoredWidget;
     [[nodiscard]] const State& state() const { return state_; }
@@ -61,7 +67,17 @@ protected:
     State state_;  // NOLINT(*-non-private-member-variables-in-classes): the derived kinds' own
 };
 
-class StoredLabel final : public StatefulWidget<LabelState>, public Widgets::Label {
+template <class Interface, class State = std::monostate>
+class StoredEnableable : public StoredKind<Interface, State> {
+public:
+    using StoredKind<Interface, State>::StoredKind;
+    void setEnabled(Boolean enabled) final {
+        this->observe({.verb = Verb::setEnabled, .value = enabled.raw()});
+        this->enable(bool(enabled));
+    }
+};
+
+class StoredLabel final : public StoredKind<Widgets::Label, LabelState> {
 public:
     StoredLabel(Store& store, WidgetId id);
     [[nodiscard]] String caption() const override;
@@ -69,32 +85,27 @@ public:
     void setColour(Colour text) override;
 };
 
-class StoredShape final : public StatefulWidget<ShapeState>, public Widgets::Shape {
+class StoredShape final : public StoredKind<Widgets::Shape, ShapeState> {
 public:
     StoredShape(Store& store, WidgetId id);
     [[nodiscard]] Widgets::FillStyle fillStyle() const override;
     void setFillStyle(Widgets::FillStyle style) override;
 };
 
-class StoredLine final : public StatefulWidget<LineState>, public Widgets::Line {
+class StoredLine final : public StoredKind<Widgets::Line, LineState> {
 public:
     StoredLine(Store& store, WidgetId id);
     void setColour(Colour colour) override;
     void setVisible(Boolean visible) override;
 };
 
-class StoredButton final : public StoredWidget, public Widgets::Button {
-public:
-    using StoredWidget::StoredWidget;
-    void setEnabled(Boolean enabled) override;
-};
+using StoredButton = StoredEnableable<Widgets::Button>;
 
-class StoredOption final : public StatefulWidget<OptionState>, public Widgets::Option {
+class StoredOption final : public StoredEnableable<Widgets::Option, OptionState> {
 public:
     StoredOption(Store& store, WidgetId id);
     [[nodiscard]] bool value() const override;
     void setValue(bool value) override;
-    void setEnabled(Boolean enabled) override;
 
     void select(Widgets::Cause cause);
 
@@ -102,37 +113,35 @@ private:
     void clear() { change(state_.value, false); }
 };
 
-class StoredCheck final : public StatefulWidget<CheckState>, public Widgets::Check {
+class StoredCheck final : public StoredEnableable<Widgets::Check, CheckState> {
 public:
-    using StatefulWidget::StatefulWidget;
+    using StoredEnableable::StoredEnableable;
     void setValue(Widgets::CheckValue value) override;
-    void setEnabled(Boolean enabled) override;
 
     void flip();
 };
 
-class StoredCombo final : public StatefulWidget<ComboState>, public Widgets::Combo {
+class StoredCombo final : public StoredEnableable<Widgets::Combo, ComboState> {
 public:
     StoredCombo(Store& store, WidgetId id);
     void addItem(const String& text) override;
     [[nodiscard]] String text() const override;
     void setText(const String& text) override;
-    void setEnabled(Boolean enabled) override;
 
+    [[nodiscard]] bool hasItem(StringView text) const;
     void showText(const String& text) { change(state_.text, text); }
 };
 
-class StoredList final : public StatefulWidget<ListState>, public Widgets::List {
+class StoredList final : public StoredKind<Widgets::List, ListState> {
 public:
-    using StatefulWidget::StatefulWidget;
+    using StoredKind::StoredKind;
     void addItem(const String& text) override;
     void clear() override;
 };
 
-class StoredTimer final : public StatefulWidget<TimerState>, public Widgets::Timer {
+class StoredTimer final : public StoredEnableable<Widgets::Timer, TimerState> {
 public:
     StoredTimer(Store& store, WidgetId id);
-    void setEnabled(Boolean enabled) override;
 
     void enable(bool enabled) override;
     /// Moves on to the first due time after `now`.
@@ -142,9 +151,9 @@ public:
 /// The surface's border in pixels, on each side; what is inside it can be drawn on.
 constexpr int kPictureBorder = 2;
 
-class StoredPicture final : public StatefulWidget<PictureState>, public Widgets::Picture {
+class StoredPicture final : public StoredKind<Widgets::Picture, PictureState> {
 public:
-    using StatefulWidget::StatefulWidget;
+    using StoredKind::StoredKind;
     void clear() override;
     void setDrawWidth(Integer pixels) override;
     void setScaleMode(Widgets::ScaleMode mode) override;
@@ -167,7 +176,7 @@ private:
     void observePoint(std::span<const Widgets::Point> points, std::size_t i, Colour colour);
 };
 
-class StoredTabs final : public StatefulWidget<TabsState>, public Widgets::Tabs {
+class StoredTabs final : public StoredKind<Widgets::Tabs, TabsState> {
 public:
     StoredTabs(Store& store, WidgetId id);
     void setCurrentTab(Integer tab) override;
@@ -182,20 +191,19 @@ private:
     void leaveDisabledTab();
 };
 
-class StoredDigit final : public StatefulWidget<DigitState>, public Widgets::Digit {
+class StoredDigit final : public StoredKind<Widgets::Digit, DigitState> {
 public:
-    using StatefulWidget::StatefulWidget;
+    using StoredKind::StoredKind;
     void setDigit(Integer digit) override;
 };
 
-class StoredSlider final : public StatefulWidget<SliderState>, public Widgets::Slider {
+class StoredSlider final : public StoredEnableable<Widgets::Slider, SliderState> {
 public:
-    using StatefulWidget::StatefulWidget;
+    using StoredEnableable::StoredEnableable;
     [[nodiscard]] Integer position() const override;
     void setPosition(Integer position) override;
     [[nodiscard]] Boolean buttonDown() const override;
     void setMaximum(Integer position) override;
-    void setEnabled(Boolean enabled) override;
 
     void hold(bool held) { change(state_.isHeld, held); }
     /// Moves as a person does, within the bounds. False when that changes nothing.
@@ -203,6 +211,26 @@ public:
 };
 
 /// For widgets that never change: frames and images.
-using StoredStill = StoredWidget;
+using StoredStill = StoredKind<Widgets::Widget>;
+
+// clang-format off
+using StoredKinds = Widgets::KindTable<
+    For<Kind::label, StoredLabel>,
+    For<Kind::shape, StoredShape>,
+    For<Kind::line, StoredLine>,
+    For<Kind::frame, StoredStill>,
+    For<Kind::button, StoredButton>,
+    For<Kind::option, StoredOption>,
+    For<Kind::check, StoredCheck>,
+    For<Kind::combo, StoredCombo>,
+    For<Kind::list, StoredList>,
+    For<Kind::picture, StoredPicture>,
+    For<Kind::image, StoredStill>,
+    For<Kind::timer, StoredTimer>,
+    For<Kind::tabs, StoredTabs>,
+    For<Kind::digit, StoredDigit>,
+    For<Kind::slider, StoredSlider>>;
+// clang-format on
+static_assert(Widgets::Interfaces::kHasBasesOf<StoredKinds>);
 
 }  // namespace Orvo::Runtime

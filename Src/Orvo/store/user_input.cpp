@@ -1,7 +1,8 @@
 #include "Orvo/store/user_input.h"
 
-#include <algorithm>
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/store.h"
@@ -30,15 +31,33 @@ bool activates(Kind kind, Integer code) {
     }
 }
 
+/// The kind of widget that the deed is done to; none: any.
+std::optional<Kind> kindFor(Deed::Verb verb) {
+    switch (verb) {
+        case Deed::Verb::pick:
+            return Kind::combo;
+        case Deed::Verb::slide:
+        case Deed::Verb::hold:
+        case Deed::Verb::move:
+        case Deed::Verb::drop:
+            return Kind::slider;
+        case Deed::Verb::tab:
+            return Kind::tabs;
+        default:
+            return std::nullopt;
+    }
+}
+
 }  // namespace
 
 // Whatever a person does may bring the host to release the panel: the widgets live until it is
 // over.
 class UserInput::Doing {
 public:
-    Doing(UserInput& input, const Deed& deed, bool isTaken)
-        : alive_(input.store_.shared_from_this()), input_(input), isTold_(isTaken) {
-        isTold_ = isTold_ && input.observer_ != nullptr;
+    Doing(UserInput& input, const Deed& deed)
+        : alive_(input.store_.shared_from_this()),
+          input_(input),
+          isTold_(input.observer_ != nullptr) {
         if (isTold_) input.observer_->does(deed);
     }
     ~Doing() {
@@ -53,50 +72,84 @@ private:
     bool isTold_;
 };
 
+bool UserInput::perform(Deed deed) {
+    deed = withinBounds(std::move(deed));
+    if (!isTaken(deed)) return false;
+    const Doing doing(*this, deed);
+    if (deed.verb == Deed::Verb::key)
+        return typeInto(deed.widget, static_cast<Integer>(deed.number));
+    carryOut(deed);
+    return true;
+}
+
+Deed UserInput::withinBounds(Deed deed) const {
+    if (kindFor(deed.verb) == Kind::slider && isKind(deed.widget, Kind::slider)) {
+        deed.number = store_.get<StoredSlider>(deed.widget).state().within(deed.number);
+    }
+    return deed;
+}
+
+bool UserInput::isTaken(const Deed& deed) const {
+    const auto kind = kindFor(deed.verb);
+    if (kind && !isKind(deed.widget, *kind)) return false;
+    if (!store_.acceptsInput(deed.widget)) return false;
+    switch (deed.verb) {
+        case Deed::Verb::pick:
+            return store_.get<StoredCombo>(deed.widget).hasItem(deed.text);
+        case Deed::Verb::move:
+            return store_.get<StoredSlider>(deed.widget).state().position != deed.number;
+        case Deed::Verb::drop:
+            return store_.get<StoredSlider>(deed.widget).state().isHeld;
+        case Deed::Verb::tab:
+            return store_.get<StoredTabs>(deed.widget).isTabEnabled(deed.number);
+        default:
+            return true;
+    }
+}
+
+void UserInput::carryOut(const Deed& deed) {
+    switch (deed.verb) {
+        case Deed::Verb::click:
+            return goUp(deed.widget, deed.button, ReleasedWhere::onWidget);
+        case Deed::Verb::release:
+            return goUp(deed.widget, deed.button, ReleasedWhere::elsewhere);
+        case Deed::Verb::pick:
+            return pickItem(deed.widget, deed.text);
+        case Deed::Verb::slide:
+            return slideTo(deed.widget, deed.number);
+        case Deed::Verb::hold:
+        case Deed::Verb::drop:
+            return setHeld(deed.widget, deed.verb == Deed::Verb::hold);
+        case Deed::Verb::move:
+            return moveTo(deed.widget, deed.number);
+        case Deed::Verb::tab:
+            return store_.at<StoredTabs>(deed.widget)
+                .bringToFront(static_cast<Integer>(deed.number));
+        default:
+            return actOnClick(deed.widget);
+    }
+}
+
 void UserInput::press(WidgetId widget, MouseButton button) {
     if (isSliderGrip(widget, button)) hold(widget);
 }
 
 void UserInput::release(WidgetId widget, MouseButton button, ReleasedWhere where) {
-    if (isSliderGrip(widget, button)) drop(widget);
-    const auto verb = where == ReleasedWhere::onWidget ? Deed::Verb::click : Deed::Verb::dragOff;
-    const bool isTaken = !isSliderGrip(widget, button) && store_.acceptsInput(widget);
-    const Doing doing(*this, {.verb = verb, .widget = widget, .button = button}, isTaken);
-    goUp(widget, button, where);
-}
-
-void UserInput::click(WidgetId widget, MouseButton button) {
-    const Doing doing(*this, {.verb = Deed::Verb::click, .widget = widget, .button = button},
-                      store_.acceptsInput(widget));
-    goDown(widget, button);
-    goUp(widget, button, ReleasedWhere::onWidget);
-}
-
-bool UserInput::isSliderGrip(WidgetId widget, MouseButton button) const {
-    return isKind(widget, Kind::slider) && button == MouseButton::left;
-}
-
-bool UserInput::isHeld(WidgetId slider) const {
-    return isKind(slider, Kind::slider) && store_.get<StoredSlider>(slider).state().isHeld;
-}
-
-void UserInput::goDown(WidgetId widget, MouseButton button) {
-    if (isSliderGrip(widget, button)) setHeld(widget);
+    if (isSliderGrip(widget, button)) {
+        drop(widget);
+        if (store_.acceptsInput(widget)) notify(widget, NotificationKind::release);
+        return;
+    }
+    const auto verb = where == ReleasedWhere::onWidget ? Deed::Verb::click : Deed::Verb::release;
+    perform({.verb = verb, .widget = widget, .button = button});
 }
 
 // A check box flips before the release is told, so that a host that answers the release with the
 // state it finds has the last word.
 void UserInput::goUp(WidgetId widget, MouseButton button, ReleasedWhere where) {
-    if (isSliderGrip(widget, button)) letGo(widget);
-    if (!store_.acceptsInput(widget)) return;
+    if (isSliderGrip(widget, button)) setHeld(widget, false);
     if (button == MouseButton::left && where == ReleasedWhere::onWidget) actOnClick(widget);
     notify(widget, NotificationKind::release);
-}
-
-void UserInput::activate(WidgetId widget) {
-    const bool isTaken = store_.acceptsInput(widget);
-    const Doing doing(*this, {.verb = Deed::Verb::activate, .widget = widget}, isTaken);
-    if (isTaken) actOnClick(widget);
 }
 
 void UserInput::actOnClick(WidgetId widget) {
@@ -113,16 +166,15 @@ void UserInput::actOnClick(WidgetId widget) {
     }
 }
 
-Integer UserInput::type(WidgetId widget, Integer code) {
-    if (!store_.acceptsInput(widget)) return 0;
-    const Doing doing(*this, {.verb = Deed::Verb::type, .widget = widget, .number = code}, true);
+// The panel may have made another key of it, or none.
+bool UserInput::typeInto(WidgetId widget, Integer code) {
     const Integer left =
         store_.notify({.widget = widget, .kind = NotificationKind::keyPress, .keyCode = code})
             .keyCode;
     if (left != 0 && isKind(widget, Kind::combo)) edit(widget, left);
     const bool isActivated = activates(Layout::describe(widget).style.kind, left);
     if (isActivated && store_.acceptsInput(widget)) actOnClick(widget);
-    return left;
+    return left != 0;
 }
 
 void UserInput::edit(WidgetId combo, Integer code) {
@@ -133,73 +185,35 @@ void UserInput::edit(WidgetId combo, Integer code) {
     stored.showText(text);
 }
 
-void UserInput::pick(WidgetId combo, StringView text) {
-    if (!isKind(combo, Kind::combo) || !store_.acceptsInput(combo)) return;
-    auto& stored = store_.at<StoredCombo>(combo);
-    const auto& items = stored.state().items;
-    if (std::find(items.begin(), items.end(), text) == items.end()) return;
-    const Doing doing(*this, {.verb = Deed::Verb::pick, .widget = combo, .text = text}, true);
-    stored.showText(String(text));
+void UserInput::pickItem(WidgetId combo, const String& text) {
+    store_.at<StoredCombo>(combo).showText(text);
     notify(combo, NotificationKind::click);
 }
 
-void UserInput::hold(WidgetId slider) {
-    if (!isKind(slider, Kind::slider) || !store_.acceptsInput(slider)) return;
-    const Doing doing(*this, {.verb = Deed::Verb::hold, .widget = slider}, true);
-    setHeld(slider);
-}
-
-void UserInput::move(WidgetId slider, int position) {
-    if (!isKind(slider, Kind::slider) || !store_.acceptsInput(slider)) return;
-    const SliderState& state = store_.get<StoredSlider>(slider).state();
-    const int within = state.within(position);
-    const Doing doing(*this, {.verb = Deed::Verb::move, .widget = slider, .number = within},
-                      within != state.position);
+void UserInput::slideTo(WidgetId slider, int position) {
+    setHeld(slider, true);
     moveTo(slider, position);
+    setHeld(slider, false);
 }
 
-void UserInput::drop(WidgetId slider) {
-    const Doing doing(*this, {.verb = Deed::Verb::drop, .widget = slider}, isHeld(slider));
-    letGo(slider);
-}
-
-void UserInput::slide(WidgetId slider, int position) {
-    if (!isKind(slider, Kind::slider)) return;
-    const int within = store_.get<StoredSlider>(slider).state().within(position);
-    const Doing doing(*this, {.verb = Deed::Verb::slide, .widget = slider, .number = within},
-                      store_.acceptsInput(slider));
-    setHeld(slider);
-    moveTo(slider, position);
-    letGo(slider);
-}
-
-void UserInput::setHeld(WidgetId slider) {
-    if (store_.acceptsInput(slider)) store_.at<StoredSlider>(slider).hold(true);
+void UserInput::setHeld(WidgetId slider, bool isHeld) {
+    store_.at<StoredSlider>(slider).hold(isHeld);
 }
 
 void UserInput::moveTo(WidgetId slider, int position) {
-    if (!store_.acceptsInput(slider)) return;
     if (store_.at<StoredSlider>(slider).moveTo(position)) notify(slider, NotificationKind::change);
 }
 
-void UserInput::letGo(WidgetId slider) {
-    if (isKind(slider, Kind::slider)) store_.at<StoredSlider>(slider).hold(false);
-}
-
-void UserInput::selectTab(WidgetId tabs, int tab) {
-    if (!isKind(tabs, Kind::tabs) || !store_.acceptsInput(tabs)) return;
-    auto& stored = store_.at<StoredTabs>(tabs);
-    if (!stored.isTabEnabled(tab)) return;
-    const Doing doing(*this, {.verb = Deed::Verb::selectTab, .widget = tabs, .number = tab}, true);
-    stored.bringToFront(static_cast<Integer>(tab));
-}
-
-void UserInput::notify(WidgetId widget, NotificationKind kind) {
-    store_.notify({.widget = widget, .kind = kind});
+bool UserInput::isSliderGrip(WidgetId widget, MouseButton button) const {
+    return isKind(widget, Kind::slider) && button == MouseButton::left;
 }
 
 bool UserInput::isKind(WidgetId widget, Kind kind) const {
     return Layout::describe(widget).style.kind == kind;
+}
+
+void UserInput::notify(WidgetId widget, NotificationKind kind) {
+    store_.notify({.widget = widget, .kind = kind});
 }
 
 }  // namespace Orvo::Runtime

@@ -4,6 +4,7 @@
 
 #include "Orvo/store/input_observer.h"
 #include "Orvo/values/types.h"
+#include "Orvo/widgets/kind.h"
 #include "Orvo/widgets/notification.h"
 
 namespace Orvo::Runtime {
@@ -20,31 +21,39 @@ class UserInput {
 public:
     explicit UserInput(Store& store) : store_(store) {}
 
+    /// A slider goes no further than its bounds, and a move that changes the position notifies.
+    /// False when nothing comes of it: the widget ignores it or is of another kind, an item is not
+    /// in the list, a tab is disabled, a slider is there already or not held, or the panel discards
+    /// the key.
+    bool perform(Deed deed);
+
+    void click(WidgetId widget, MouseButton button = MouseButton::left) {
+        perform({.verb = Deed::Verb::click, .widget = widget, .button = button});
+    }
+    void activate(WidgetId widget) { perform({.verb = Deed::Verb::activate, .widget = widget}); }
+    bool type(WidgetId widget, Integer code) {
+        const auto unit = static_cast<std::uint16_t>(code);
+        return perform({.verb = Deed::Verb::key, .widget = widget, .number = unit});
+    }
+    void pick(WidgetId combo, StringView text) {
+        perform({.verb = Deed::Verb::pick, .widget = combo, .text = String(text)});
+    }
+    void slide(WidgetId slider, int position) {
+        perform({.verb = Deed::Verb::slide, .widget = slider, .number = position});
+    }
+    void hold(WidgetId slider) { perform({.verb = Deed::Verb::hold, .widget = slider}); }
+    void move(WidgetId slider, int position) {
+        perform({.verb = Deed::Verb::move, .widget = slider, .number = position});
+    }
+    void drop(WidgetId slider) { perform({.verb = Deed::Verb::drop, .widget = slider}); }
+    void selectTab(WidgetId tabs, int tab) {
+        perform({.verb = Deed::Verb::tab, .widget = tabs, .number = tab});
+    }
+
     /// A mouse button goes down on a widget; it gets the release, wherever that happens.
     void press(WidgetId widget, MouseButton button = MouseButton::left);
     void release(WidgetId widget, MouseButton button = MouseButton::left,
                  ReleasedWhere where = ReleasedWhere::onWidget);
-    /// Both in one: press and release on the widget.
-    void click(WidgetId widget, MouseButton button = MouseButton::left);
-
-    /// The widget is activated from the keyboard.
-    void activate(WidgetId widget);
-    /// A character is typed while the widget has the focus. The code as the panel leaves it: 0 when
-    /// it is discarded, or the widget ignores it.
-    Integer type(WidgetId widget, Integer code);
-
-    /// The item with this text is picked from a combo box's list; none such, and nothing happens.
-    void pick(WidgetId combo, StringView text);
-
-    /// A slider's button goes down, moves (clamped to the bounds) and goes up. A move that changes
-    /// the position notifies, held or not.
-    void hold(WidgetId slider);
-    void move(WidgetId slider, int position);
-    void drop(WidgetId slider);
-    void slide(WidgetId slider, int position);
-
-    /// A tab is selected, unless it is disabled.
-    void selectTab(WidgetId tabs, int tab);
 
     /// Who sees all this; null takes it away again.
     void observeWith(InputObserver* observer) { observer_ = observer; }
@@ -53,24 +62,27 @@ private:
     friend class Store;
     class Doing;
 
-    // As above, but nobody is told.
-    void goDown(WidgetId widget, MouseButton button);
+    [[nodiscard]] Deed withinBounds(Deed deed) const;
+    [[nodiscard]] bool isTaken(const Deed& deed) const;
+    void carryOut(const Deed& deed);
+
     void goUp(WidgetId widget, MouseButton button, ReleasedWhere where);
-    void setHeld(WidgetId slider);
+    void actOnClick(WidgetId widget);
+    bool typeInto(WidgetId widget, Integer code);
+    void edit(WidgetId combo, Integer code);
+    void pickItem(WidgetId combo, const String& text);
+    void slideTo(WidgetId slider, int position);
+    void setHeld(WidgetId slider, bool isHeld);
     void moveTo(WidgetId slider, int position);
-    void letGo(WidgetId slider);
 
     [[nodiscard]] bool isSliderGrip(WidgetId widget, MouseButton button) const;
-    [[nodiscard]] bool isHeld(WidgetId slider) const;
+    [[nodiscard]] bool isKind(WidgetId widget, Widgets::Kind kind) const;
+    void notify(WidgetId widget, Widgets::NotificationKind kind);
     /// Tells the observer, if there is one.
     template <class... Arguments>
     void tell(void (InputObserver::*what)(const Arguments&...), const Arguments&... arguments) {
         if (observer_ != nullptr) (observer_->*what)(arguments...);
     }
-    void actOnClick(WidgetId widget);
-    void notify(WidgetId widget, Widgets::NotificationKind kind);
-    [[nodiscard]] bool isKind(WidgetId widget, Widgets::Kind kind) const;
-    void edit(WidgetId combo, Integer code);
 
     Store& store_;
     InputObserver* observer_ = nullptr;

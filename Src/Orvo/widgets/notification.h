@@ -3,20 +3,10 @@
 #include <cstdint>
 
 #include "Orvo/values/types.h"
+#include "Orvo/widgets/kind.h"
 #include "Orvo/widgets/reference.h"
 
 namespace Orvo::Widgets {
-
-/// What a widget tells the panel.
-enum class NotificationKind : std::uint8_t {
-    creation,  ///< the panel itself: its widgets stand, as laid out
-    click,     ///< clicked, activated from the keyboard, selected or picked
-    release,   ///< a mouse button that was pressed on the widget is released, wherever the pointer
-               ///< is
-    keyPress,  ///< a character is typed while the widget has the focus
-    tick,      ///< a timer came due
-    change,    ///< a person moved a slider
-};
 
 enum class Cause : std::uint8_t {
     person,  ///< a person or the clock: nobody waits for an error

@@ -13,11 +13,13 @@ namespace Orvo::Widgets {
 /// A widget's number: its index in the layout's table.
 using WidgetId = std::uint16_t;
 
-/// A widget whose kind the compiler knows. The layout makes these from names.
+/// A widget whose kind the compiler knows. The layout's roles are made of these.
 template <Kind kKind>
 struct Ref {
     WidgetId id = 0;
 
+    // NOLINTNEXTLINE(google-explicit-constructor): it does wherever any widget does
+    constexpr operator WidgetId() const { return id; }
     friend constexpr bool operator==(Ref, Ref) = default;
 };
 

@@ -42,25 +42,20 @@ class WidgetTree {
 public:
     virtual ~WidgetTree() = default;
 
-    virtual Label& operator[](LabelRef label) = 0;
-    virtual Shape& operator[](ShapeRef shape) = 0;
-    virtual Line& operator[](LineRef line) = 0;
-    virtual Button& operator[](ButtonRef button) = 0;
-    virtual Option& operator[](OptionRef option) = 0;
-    virtual Check& operator[](CheckRef check) = 0;
-    virtual Combo& operator[](ComboRef combo) = 0;
-    virtual List& operator[](ListRef list) = 0;
-    virtual Picture& operator[](PictureRef picture) = 0;
-    virtual Timer& operator[](TimerRef timer) = 0;
-    virtual Tabs& operator[](TabsRef tabs) = 0;
-    virtual Digit& operator[](DigitRef digit) = 0;
-    virtual Slider& operator[](SliderRef slider) = 0;
+    template <Kind kKind>
+    Interfaces::Of<kKind>& operator[](Ref<kKind> widget) {
+        return static_cast<Interfaces::Of<kKind>&>(at(widget.id));
+    }
 
     virtual MousePointer& mousePointer() = 0;
     virtual InputPrompt& inputPrompt() = 0;
 
     /// From now on notifications go to `sink`; to nobody when it is null.
     virtual void notifyTo(NotificationSink* sink) = 0;
+
+private:
+    /// The interface of the widget's kind.
+    virtual Widget& at(WidgetId id) = 0;
 };
 
 }  // namespace Orvo::Widgets

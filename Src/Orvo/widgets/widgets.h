@@ -4,15 +4,25 @@
 
 #include "Orvo/values/boolean.h"
 #include "Orvo/values/types.h"
+#include "Orvo/widgets/kind_table.h"
 
 // One interface per kind of widget, with what the panel does to it and nothing more. Every
 // operation may fail with an Error; it has then changed nothing. An operation that finds its value
-// already there does nothing. Writing never notifies, except Option::setValue.
+// already there does nothing, and writing never notifies; except Option::setValue.
 namespace Orvo::Widgets {
 
-class Label {
+class Widget {
 public:
-    virtual ~Label() = default;
+    virtual ~Widget() = default;
+};
+
+class Enableable : public Widget {
+public:
+    virtual void setEnabled(Boolean enabled) = 0;
+};
+
+class Label : public Widget {
+public:
     [[nodiscard]] virtual String caption() const = 0;
     virtual void setCaption(const String& caption) = 0;
     virtual void setColour(Colour text) = 0;
@@ -20,68 +30,52 @@ public:
 
 enum class FillStyle : Integer { solid = 0, transparent = 1 };
 
-class Shape {
+class Shape : public Widget {
 public:
-    virtual ~Shape() = default;
     [[nodiscard]] virtual FillStyle fillStyle() const = 0;
     virtual void setFillStyle(FillStyle style) = 0;
 };
 
-class Line {
+class Line : public Widget {
 public:
-    virtual ~Line() = default;
     virtual void setColour(Colour colour) = 0;
     virtual void setVisible(Boolean visible) = 0;
 };
 
-class Button {
-public:
-    virtual ~Button() = default;
-    virtual void setEnabled(Boolean enabled) = 0;
-};
+class Button : public Enableable {};
 
-class Option {
+class Option : public Enableable {
 public:
-    virtual ~Option() = default;
     [[nodiscard]] virtual bool value() const = 0;
     /// Writing true clears the other options of the container and notifies a click, as if a person
-    /// had clicked; an error of the click's handler reaches the writer.
+    /// had clicked, on an option that is selected already too; an error of the click's handler
+    /// reaches the writer.
     virtual void setValue(bool value) = 0;
-    virtual void setEnabled(Boolean enabled) = 0;
 };
 
 enum class CheckValue : Integer { unchecked = 0, checked = 1 };
 
-class Check {
+class Check : public Enableable {
 public:
-    virtual ~Check() = default;
     virtual void setValue(CheckValue value) = 0;
-    virtual void setEnabled(Boolean enabled) = 0;
 };
 
-class Combo {
+class Combo : public Enableable {
 public:
-    virtual ~Combo() = default;
     virtual void addItem(const String& text) = 0;
     [[nodiscard]] virtual String text() const = 0;
     virtual void setText(const String& text) = 0;
-    virtual void setEnabled(Boolean enabled) = 0;
 };
 
-class List {
+class List : public Widget {
 public:
-    virtual ~List() = default;
     /// Adds an item at the end, in constant time. Error 7 when the list is full.
     virtual void addItem(const String& text) = 0;
     virtual void clear() = 0;
 };
 
-class Timer {
-public:
-    virtual ~Timer() = default;
-    /// Enabling a timer that is disabled starts its interval anew.
-    virtual void setEnabled(Boolean enabled) = 0;
-};
+/// Enabling a timer that is disabled starts its interval anew.
+class Timer : public Enableable {};
 
 /// A position on a picture surface, in its scale (pixels), from the top left corner.
 struct Point {
@@ -94,9 +88,8 @@ struct Point {
 enum class ScaleMode : Integer { pixels = 3 };
 
 /// A surface that keeps what is drawn on it until it is cleared, shown or not.
-class Picture {
+class Picture : public Widget {
 public:
-    virtual ~Picture() = default;
     virtual void clear() = 0;
     virtual void setDrawWidth(Integer pixels) = 0;
     virtual void setScaleMode(ScaleMode mode) = 0;
@@ -114,9 +107,8 @@ public:
     virtual void polyline(std::vector<Point> points, Colour colour) = 0;
 };
 
-class Tabs {
+class Tabs : public Widget {
 public:
-    virtual ~Tabs() = default;
     /// Brings a tab, counted from 0, to the front. Error 5 when there is no such tab.
     virtual void setCurrentTab(Integer tab) = 0;
     [[nodiscard]] virtual Boolean tabEnabled(Integer tab) const = 0;
@@ -124,16 +116,14 @@ public:
     virtual void setTabEnabled(Integer tab, Boolean enabled) = 0;
 };
 
-class Digit {
+class Digit : public Widget {
 public:
-    virtual ~Digit() = default;
     /// Shows a digit, 0 to 9. Error 5 for any other value.
     virtual void setDigit(Integer digit) = 0;
 };
 
-class Slider {
+class Slider : public Enableable {
 public:
-    virtual ~Slider() = default;
     [[nodiscard]] virtual Integer position() const = 0;
     /// Any position is held and read back as written; outside the bounds it is drawn at the nearest
     /// end.
@@ -141,7 +131,24 @@ public:
     /// Whether a person holds the slider's button at this moment.
     [[nodiscard]] virtual Boolean buttonDown() const = 0;
     virtual void setMaximum(Integer position) = 0;
-    virtual void setEnabled(Boolean enabled) = 0;
 };
+
+/// Frames and images have none: nothing is done to them.
+// clang-format off
+using Interfaces = KindTable<
+    For<Kind::label, Label>,
+    For<Kind::shape, Shape>,
+    For<Kind::line, Line>,
+    For<Kind::button, Button>,
+    For<Kind::option, Option>,
+    For<Kind::check, Check>,
+    For<Kind::combo, Combo>,
+    For<Kind::list, List>,
+    For<Kind::picture, Picture>,
+    For<Kind::timer, Timer>,
+    For<Kind::tabs, Tabs>,
+    For<Kind::digit, Digit>,
+    For<Kind::slider, Slider>>;
+// clang-format on
 
 }  // namespace Orvo::Widgets

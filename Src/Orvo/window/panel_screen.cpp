@@ -18,7 +18,7 @@ constexpr WidgetId kTabs = Layout::kTabs.id;
 constexpr int kFrameTime = 16;  // milliseconds
 
 bool isWithin(WidgetId widget, WidgetId container) {
-    while (widget != container && widget != Layout::kNoWidget) {
+    while (widget != container && widget != Layout::kPanel) {
         widget = Layout::describe(widget).container;
     }
     return widget == container;
@@ -73,6 +73,11 @@ void PanelScreen::setZoom(double zoom) {
     layOut();
 }
 
+QWidget* PanelScreen::control(WidgetId widget) const {
+    if (widget == kTabs) return tabs_;
+    return controls_[widget] != nullptr ? &controls_[widget]->self() : nullptr;
+}
+
 void PanelScreen::layOut() {
     setFixedSize(scale_.panelSize());
     tabs_->layOut(scale_);
@@ -83,16 +88,17 @@ void PanelScreen::layOut() {
 }
 
 void PanelScreen::changed(WidgetId widget) {
-    if (widget == Layout::kNoWidget) {
-        const bool isBusy = store_->pointer() == Widgets::Pointer::hourglass;
-        return isBusy ? setCursor(Qt::WaitCursor) : unsetCursor();
-    }
-    if (Layout::describe(widget).style.kind == Layout::Kind::timer) {
+    if (Layout::kindOf(widget) == Layout::Kind::timer) {
         if (ticker_) ticker_->arm();
         return;
     }
     dirty_.set(widget);
     scheduleFrame();
+}
+
+void PanelScreen::pointerChanged() {
+    const bool isBusy = store_->pointer() == Widgets::Pointer::hourglass;
+    isBusy ? setCursor(Qt::WaitCursor) : unsetCursor();
 }
 
 void PanelScreen::scheduleFrame() {
@@ -117,14 +123,11 @@ void PanelScreen::flush() {
 // What a container allows holds for all that it contains, and an option's fellows share the
 // keyboard's stop.
 void PanelScreen::noteWithContents(WidgetId widget) {
-    const Layout::Kind kind = Layout::describe(widget).style.kind;
+    const Layout::Kind kind = Layout::kindOf(widget);
     const bool isOption = kind == Layout::Kind::option;
     if (!isOption && kind != Layout::Kind::frame && kind != Layout::Kind::tabs) return;
-    const WidgetId container = isOption ? Layout::describe(widget).container : widget;
     for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
-        if (isWithin(id, container) && (!isOption || Layout::describe(id).style.kind == kind)) {
-            dirty_.set(id);
-        }
+        if (isOption ? Layout::areFellows(id, widget) : isWithin(id, widget)) dirty_.set(id);
     }
 }
 

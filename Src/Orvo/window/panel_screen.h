@@ -30,9 +30,13 @@ public:
     [[nodiscard]] double zoom() const { return scale_.zoom(); }
     void setZoom(double zoom);
 
+    /// Null for what is only painted.
+    [[nodiscard]] QWidget* control(WidgetId widget) const;
+
     /// Brings what has changed to the screen now.
     void flush();
     void changed(WidgetId widget) override;
+    void pointerChanged() override;
 
 protected:
     void hideEvent(QHideEvent* event) override;

@@ -60,6 +60,10 @@ void PanelWidget::renew() {
     flush();
 }
 
+QWidget* PanelWidget::control(Widgets::WidgetId widget) const {
+    return parts_->screen->control(widget);
+}
+
 void PanelWidget::flush() { parts_->screen->flush(); }
 
 void PanelWidget::resizeEvent(QResizeEvent*) { centre(); }

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+#include "Orvo/widgets/reference.h"
 #include "Orvo/window/clock.h"
 
 namespace Orvo {
@@ -47,6 +48,10 @@ public:
     /// within a handler of one of the panel's events. `panel()` stays the same object, but nothing
     /// is connected to it; `store()` is another one. Throws what start-up throws.
     void renew();
+
+    /// The control of a widget, such as a button or a scope, until `renew`; null for a widget that
+    /// is only painted.
+    [[nodiscard]] QWidget* control(Widgets::WidgetId widget) const;
 
     /// What the panel changes is on the screen a frame later; this brings it there now, for
     /// instance for a `grab`.

@@ -7,14 +7,16 @@ namespace {
 struct Case {
     Fault fault;
     int untilShown;  // milliseconds
-    const char* lamp;
+    Widgets::ShapeRef lamp;
     bool isLitByFault;
     int untilGone;
     const char* log;
     const char* logAfter;
 };
 
-void PrintTo(const Case& one, std::ostream* out) { *out << one.log << ": " << one.lamp; }
+void PrintTo(const Case& one, std::ostream* out) {
+    *out << one.log << ": " << Layout::describe(one.lamp).name;
+}
 
 class Faults : public HostTest, public testing::WithParamInterface<Case> {};
 
@@ -35,12 +37,12 @@ TEST_P(Faults, ShowAndRecover) {
 
 // clang-format off
 constexpr Case kCases[] = {
-    {Fault::mainsFailure, 300, "shpMainPresence34", false, 300, "Mains failure", "Mains present"},
-    {Fault::mainsFailure, 2000, "Shape4", false, 3000, "Mains failure", "Mains present"},
-    {Fault::shortOnChannel1, 200, "Shape18", true, 2500, "1: protection trip", "1: protection clear"},
-    {Fault::shortOnChannel3, 200, "Shape28", true, 2500, "3: protection trip", "3: protection clear"},
-    {Fault::shortOnChannel4, 200, "Shape14", true, 2500, "4: protection trip", "4: protection clear"},
-    {Fault::overTemperature, 60'000, "Shape13", true, 90'000, "3: protection trip", "3: protection clear"},
+    {Fault::mainsFailure, 300, pair(2).mainsLamp, false, 300, "Mains failure", "Mains present"},
+    {Fault::mainsFailure, 2000, pair(2).clockLamp, false, 3000, "Mains failure", "Mains present"},
+    {Fault::shortOnChannel1, 200, channel(1).protectionLamp, true, 2500, "1: protection trip", "1: protection clear"},
+    {Fault::shortOnChannel3, 200, kCommon.protectionLamp, true, 2500, "3: protection trip", "3: protection clear"},
+    {Fault::shortOnChannel4, 200, channel(4).protectionLamp, true, 2500, "4: protection trip", "4: protection clear"},
+    {Fault::overTemperature, 60'000, channel(3).protectionLamp, true, 90'000, "3: protection trip", "3: protection clear"},
 };
 // clang-format on
 INSTANTIATE_TEST_SUITE_P(OfTheAmplifier, Faults, testing::ValuesIn(kCases));
@@ -49,16 +51,16 @@ TEST_F(HostTest, SwitchesOnAgainWhenTheMainsReturn) {
     run();
     host_->set(Fault::mainsFailure, true);
     pass(8000);
-    EXPECT_FALSE(isLit("shpOnOff"));
+    EXPECT_FALSE(isLit(kCommon.powerLamp));
     EXPECT_LT(positivePower(), 10);
-    EXPECT_EQ(digits({"LED5", "LED6", "LED27"}), "000");
-    EXPECT_NEAR(swing("Picture1").highest, 0, 1);
+    EXPECT_EQ(digits(pair(1).positiveAux), "000");
+    EXPECT_NEAR(swing(channel(1).scope).highest, 0, 1);
     host_->set(Fault::mainsFailure, false);
     pass(300);
-    EXPECT_TRUE(isLit("shpOnOff"));
-    EXPECT_FALSE(isLit("Shape17"));
+    EXPECT_TRUE(isLit(kCommon.powerLamp));
+    EXPECT_FALSE(isLit(pair(1).readyLamp));
     pass(2500);
-    EXPECT_TRUE(isLit("Shape17"));
+    EXPECT_TRUE(isLit(pair(1).readyLamp));
 }
 
 TEST_F(HostTest, ShowsALostLinkAndStopsUntilItReturns) {
@@ -68,48 +70,50 @@ TEST_F(HostTest, ShowsALostLinkAndStopsUntilItReturns) {
     EXPECT_TRUE(host_->isConnected());
     pass(500);
     EXPECT_FALSE(host_->isConnected());
-    EXPECT_EQ(caption("lblConnected12"), u"Disconnected");
+    EXPECT_EQ(caption(pair(1).linkText), u"Disconnected");
     EXPECT_TRUE(hasLogged("Link lost"));
     const auto before = log().size();
     // The last that is known stays, whatever happens to it.
     panel_.VPPower(1, 999);
     panel_.Mute(2, true);
     panel_.VolumeSlider(2, -20);
-    person_.slide(id("ZelvinSlider3"), 95);
+    person_.slide(pair(1).testSlider, 95);
     host_->set(Fault::shortOnChannel3, true);
     pass(5000);
     EXPECT_EQ(positivePower(), 999);
     EXPECT_EQ(log().size(), before);
-    EXPECT_FALSE(isLit("Shape13"));
+    EXPECT_FALSE(isLit(channel(3).protectionLamp));
     EXPECT_GT(host_->sinceLastWord(), Milliseconds(5000));
     host_->set(Fault::linkLoss, false);
     pass(500);
-    EXPECT_TRUE(isLit("shpConnected"));
+    EXPECT_TRUE(isLit(kCommon.linkLamp));
     EXPECT_NEAR(positivePower(), 118, 2);
-    EXPECT_FALSE(isLit("Shape15"));
-    EXPECT_EQ(position("ZelvinSlider2"), 18);
-    EXPECT_TRUE(isLit("Shape13"));
+    EXPECT_FALSE(isLit(channel(2).muteLamp));
+    EXPECT_EQ(position(channel(2).volumeSlider), 18);
+    EXPECT_TRUE(isLit(channel(3).protectionLamp));
     EXPECT_TRUE(hasLogged("Channel 3: protection tripped"));
     EXPECT_LT(host_->sinceLastWord(), Milliseconds(200));
 }
 
 TEST_F(HostTest, LosesWhatWasOnItsWayWithTheLink) {
     run();
-    person_.click(id("Command12"));
+    person_.click(channel(1).muteButton);
     pass(20);
     host_->set(Fault::linkLoss, true);
     pass(1000);
     host_->set(Fault::linkLoss, false);
     pass(500);
-    EXPECT_TRUE(isLit("shpConnected"));
-    EXPECT_FALSE(isLit("Shape16"));
+    EXPECT_TRUE(isLit(kCommon.linkLamp));
+    EXPECT_FALSE(isLit(channel(1).muteLamp));
 }
 
 TEST_F(HostTest, GivesUpWhatABreakOfTheLinkSwallowedThatNobodyNoticed) {
     run();
     constexpr Integer kMoves[] = {20, 25};
-    for (const auto* button : {"chkOnOff12", "Command12", "cmdGo12"}) person_.click(id(button));
-    for (Integer position : kMoves) person_.slide(id("ZelvinSlider1"), position);
+    for (const auto button :
+         {pair(1).powerCheck.id, channel(1).muteButton.id, pair(1).startButton.id})
+        person_.click(button);
+    for (Integer position : kMoves) person_.slide(channel(1).volumeSlider, position);
     host_->set(Fault::linkLoss, true);
     pass(50);
     host_->set(Fault::linkLoss, false);
@@ -117,16 +121,16 @@ TEST_F(HostTest, GivesUpWhatABreakOfTheLinkSwallowedThatNobodyNoticed) {
     EXPECT_FALSE(hasLogged("Link lost"));
     EXPECT_EQ(logged("No answer: "), 4);
     EXPECT_EQ(logged("to the positive input"), 1);
-    EXPECT_TRUE(isChecked("chkOnOff12"));
-    EXPECT_EQ(position("ZelvinSlider1"), 18);
+    EXPECT_TRUE(isChecked(pair(1).powerCheck));
+    EXPECT_EQ(position(channel(1).volumeSlider), 18);
     host_->set(Fault::mainsFailure, true);
     pass(500);
-    EXPECT_FALSE(isLit("shpOnOff"));
+    EXPECT_FALSE(isLit(kCommon.powerLamp));
 }
 
 TEST_F(HostTest, LeavesTheTestTemperatureAloneWithoutALink) {
     run();
-    person_.slide(id("ZelvinSlider3"), 40);
+    person_.slide(pair(1).testSlider, 40);
     host_->set(Fault::linkLoss, true);
     pass(1000);
     takeLines();
@@ -140,17 +144,17 @@ TEST_F(HostTest, LeavesTheTestTemperatureAloneWithoutALink) {
 TEST_F(HostTest, StaysConnectedButHearsNothingInGarbledReplies) {
     run();
     host_->set(Fault::garbledReplies, true);
-    person_.click(id("Command12"));
-    person_.click(id("cmdReadInData"));
+    person_.click(channel(1).muteButton);
+    person_.click(kCommon.internalDataButton);
     pass(4000);
     EXPECT_TRUE(host_->isConnected());
     EXPECT_GT(host_->sinceLastWord(), Milliseconds(3500));
-    EXPECT_FALSE(isLit("Shape16"));
+    EXPECT_FALSE(isLit(channel(1).muteLamp));
     EXPECT_FALSE(hasLogged("Internal data"));
     EXPECT_EQ(logged("Garbled"), 1);
     host_->set(Fault::garbledReplies, false);
     pass(1000);
-    EXPECT_TRUE(isLit("Shape16"));
+    EXPECT_TRUE(isLit(channel(1).muteLamp));
     EXPECT_TRUE(hasLogged("Replies can be read again"));
     EXPECT_TRUE(hasLogged("Internal data"));
     EXPECT_LT(host_->sinceLastWord(), Milliseconds(200));
@@ -158,30 +162,31 @@ TEST_F(HostTest, StaysConnectedButHearsNothingInGarbledReplies) {
 
 TEST_F(HostTest, DoesWithoutASecondPair) {
     run();
-    for (const auto* button : {"Command12", "Command11"}) person_.click(id(button));
+    for (const auto button : {channel(1).muteButton, channel(2).muteButton}) person_.click(button);
     pass(300);
-    EXPECT_FALSE(isLit("Shape34"));
+    EXPECT_FALSE(isLit(kCommon.muteLamp));
     host_->set(Fault::shortOnChannel3, true);
     pass(300);
     host_->set(Fault::secondPairMissing, true);
     pass(300);
-    for (const auto* lamp : {"Shape13", "Shape28", "Shape12"}) EXPECT_FALSE(isLit(lamp)) << lamp;
+    for (const auto lamp : {channel(3).protectionLamp, kCommon.protectionLamp, pair(2).readyLamp})
+        EXPECT_FALSE(isLit(lamp)) << lamp;
     const auto hasTab = [this] {
-        return store_.get<Runtime::StoredTabs>(id("SSTab1")).state().enabled[2];
+        return store_.get<Runtime::StoredTabs>(kTabs).state().enabled[2];
     };
     EXPECT_FALSE(hasTab());
-    EXPECT_TRUE(isLit("Shape34"));
-    person_.click(id("Command17"));
+    EXPECT_TRUE(isLit(kCommon.muteLamp));
+    person_.click(kCommon.muteButton);
     pass(300);
-    EXPECT_FALSE(isLit("Shape34"));
-    EXPECT_FALSE(isLit("Shape16"));
+    EXPECT_FALSE(isLit(kCommon.muteLamp));
+    EXPECT_FALSE(isLit(channel(1).muteLamp));
     host_->runQuickTest();
     pass(3000);
     EXPECT_TRUE(hasLogged("6 of 6"));
     host_->set(Fault::secondPairMissing, false);
     pass(300);
     EXPECT_TRUE(hasTab());
-    EXPECT_TRUE(isLit("Shape13"));
+    EXPECT_TRUE(isLit(channel(3).protectionLamp));
     EXPECT_TRUE(hasLogged("Channels 3 and 4 missing"));
     EXPECT_TRUE(hasLogged("Channels 3 and 4 present"));
 }
@@ -189,12 +194,12 @@ TEST_F(HostTest, DoesWithoutASecondPair) {
 TEST_F(HostTest, KeepsTheFaultsWhenAnotherAmplifierIsPicked) {
     run();
     host_->set(Fault::shortOnChannel2, true);
-    store_.enable(id("Combo1"), true);
-    person_.pick(id("Combo1"), u"2");
+    store_.enable(kCommon.amplifierIds, true);
+    person_.pick(kCommon.amplifierIds, u"2");
     pass(500);
-    person_.click(id("cmdOnOff"));
+    person_.click(kCommon.powerButton);
     pass(2500);
-    EXPECT_TRUE(isLit("Shape21"));
+    EXPECT_TRUE(isLit(channel(2).protectionLamp));
 }
 
 }  // namespace

@@ -13,10 +13,10 @@
 
 namespace Orvo::Tests {
 
+using Manager::SimulatedHost;
 using Simulator::Fault;
 using Simulator::Milliseconds;
 using Simulator::PowerAtStart;
-using Simulator::SimulatedHost;
 
 /// A panel with a simulated amplifier that stands switched off, and a person in front.
 class HostTest : public PanelTest {
@@ -32,13 +32,13 @@ protected:
     /// Connected, switched on and ready.
     void run() {
         pass(500);
-        person_.click(id("cmdOnOff"));
+        person_.click(kCommon.powerButton);
         pass(2500);
     }
 
     [[nodiscard]] std::vector<std::string> log() const {
         std::vector<std::string> lines;
-        for (const String& line : store_.get<Runtime::StoredList>(id("List1")).state().items) {
+        for (const String& line : store_.get<Runtime::StoredList>(kCommon.log).state().items) {
             lines.push_back(toUtf8(line));
         }
         return lines;
@@ -53,13 +53,11 @@ protected:
     }
     [[nodiscard]] bool hasLogged(std::string_view text) const { return logged(text) > 0; }
 
-    [[nodiscard]] int positivePower() const { return std::stoi(digits({"LED1", "LED2", "LED25"})); }
-    [[nodiscard]] int temperature() const {
-        return std::stoi(digits({"ledTemp12(0)", "ledTemp12(1)", "ledTemp12(2)"}));
-    }
+    [[nodiscard]] int positivePower() const { return std::stoi(digits(pair(1).positivePower)); }
+    [[nodiscard]] int temperature() const { return std::stoi(digits(pair(1).temperature)); }
 
-    [[nodiscard]] const std::vector<Widgets::Point>& trace(std::string_view scope) const {
-        const auto& drawing = store_.get<Runtime::StoredPicture>(id(scope)).state().drawing;
+    [[nodiscard]] const std::vector<Widgets::Point>& trace(Widgets::PictureRef scope) const {
+        const auto& drawing = store_.get<Runtime::StoredPicture>(scope).state().drawing;
         return std::get<Runtime::DrawnPolyline>(drawing.back()).points;
     }
 
@@ -68,7 +66,7 @@ protected:
         float lowest = 0;
         float highest = 0;
     };
-    [[nodiscard]] Swing swing(std::string_view scope) const {
+    [[nodiscard]] Swing swing(Widgets::PictureRef scope) const {
         const auto [top, bottom] =
             std::ranges::minmax_element(trace(scope), {}, &Widgets::Point::y);
         return {(50 - bottom->y) * 3, (50 - top->y) * 3};

@@ -5,45 +5,45 @@ namespace {
 
 TEST_F(HostTest, RoutesTheGeneratorToTheChosenInput) {
     run();
-    for (const auto* slider : {"ZelvinSlider1", "ZelvinSlider2"}) person_.slide(id(slider), 15);
+    for (const auto slider : {channel(1).volumeSlider, channel(2).volumeSlider})
+        person_.slide(slider, 15);
     const struct {
-        const char* signal;
-        const char* input;
-        const char* driven;
-        const char* other;
+        Widgets::OptionRef wave, input;
+        Widgets::PictureRef driven, other;
     } kRows[] = {
-        {"opt1000hz_ch12", "optP1", "Picture1", "Picture2"},
-        {"opt100hz_ch12", "optN1", "Picture1", "Picture2"},
-        {"opt10000hz_ch12", "optP2", "Picture2", "Picture1"},
+        {pair(1).waves[1], channel(1).positive.option, channel(1).scope, channel(2).scope},
+        {pair(1).waves[0], channel(1).negative.option, channel(1).scope, channel(2).scope},
+        {pair(1).waves[2], channel(2).positive.option, channel(2).scope, channel(1).scope},
     };
     for (const auto& row : kRows) {
-        for (const char* widget : {row.signal, row.input, "cmdGo12"}) person_.click(id(widget));
+        for (const auto widget : {row.wave.id, row.input.id, pair(1).startButton.id})
+            person_.click(widget);
         pass(500);
-        EXPECT_NEAR(swing(row.driven).highest, 105, 4) << row.signal;
-        EXPECT_NEAR(swing(row.driven).lowest, -105, 4) << row.signal;
-        EXPECT_LT(swing(row.other).highest, 95) << row.signal;
+        EXPECT_NEAR(swing(row.driven).highest, 105, 4) << row.wave;
+        EXPECT_NEAR(swing(row.driven).lowest, -105, 4) << row.wave;
+        EXPECT_LT(swing(row.other).highest, 95) << row.wave;
     }
     EXPECT_TRUE(hasLogged("Channel 1: 100 Hz to the negative input"));
 }
 
 TEST_F(HostTest, ShowsTheNegativeInputInverted) {
     run();
-    const auto early = [this] { return trace("Picture3")[20].y; };
-    person_.click(id("cmdGo34"));
+    const auto early = [this] { return trace(channel(3).scope)[20].y; };
+    person_.click(pair(2).startButton);
     pass(500);
     EXPECT_LT(early(), 40);
-    person_.click(id("optN3"));
-    person_.click(id("cmdGo34"));
+    person_.click(channel(3).negative.option);
+    person_.click(pair(2).startButton);
     pass(500);
     EXPECT_GT(early(), 60);
 }
 
 TEST_F(HostTest, ClipsAtTheRails) {
     run();
-    person_.click(id("cmdGo12"));
+    person_.click(pair(1).startButton);
     const auto flat = [this] {
-        const float top = 50 - swing("Picture1").highest / 3;
-        return std::ranges::count_if(trace("Picture1"),
+        const float top = 50 - swing(channel(1).scope).highest / 3;
+        return std::ranges::count_if(trace(channel(1).scope),
                                      [top](auto point) { return point.y < top + 0.3F; });
     };
     const struct {
@@ -52,24 +52,26 @@ TEST_F(HostTest, ClipsAtTheRails) {
         bool isClipped;
     } kRows[] = {{18, 64, false}, {16, 101, false}, {15, 105, true}};
     for (const auto& row : kRows) {
-        person_.slide(id("ZelvinSlider1"), row.position);
+        person_.slide(channel(1).volumeSlider, row.position);
         pass(500);
-        EXPECT_NEAR(swing("Picture1").highest, row.highest, 3) << row.position;
+        EXPECT_NEAR(swing(channel(1).scope).highest, row.highest, 3) << row.position;
         EXPECT_EQ(flat() > 40, row.isClipped) << row.position;
     }
 }
 
 TEST_F(HostTest, RunsTheThermalTestFromItsSlider) {
     run();
-    person_.slide(id("ZelvinSlider3"), 95);
+    person_.slide(pair(1).testSlider, 95);
     pass(6000);
     EXPECT_EQ(temperature(), 95);
-    for (const auto* lamp : {"Shape28", "Shape18", "Shape21"}) EXPECT_TRUE(isLit(lamp)) << lamp;
-    EXPECT_FALSE(isLit("Shape13"));
-    person_.slide(id("ZelvinSlider3"), 0);
+    const auto lamps = {kCommon.protectionLamp, channel(1).protectionLamp,
+                        channel(2).protectionLamp};
+    for (const auto lamp : lamps) EXPECT_TRUE(isLit(lamp)) << lamp;
+    EXPECT_FALSE(isLit(channel(3).protectionLamp));
+    person_.slide(pair(1).testSlider, 0);
     pass(3000);
     EXPECT_LT(temperature(), 40);
-    for (const auto* lamp : {"Shape28", "Shape18", "Shape21"}) EXPECT_FALSE(isLit(lamp)) << lamp;
+    for (const auto lamp : lamps) EXPECT_FALSE(isLit(lamp)) << lamp;
     EXPECT_TRUE(hasLogged("Channel 1: protection tripped"));
     EXPECT_TRUE(hasLogged("Channel 2: protection cleared"));
 }

@@ -5,77 +5,77 @@ namespace {
 
 TEST_F(HostTest, MutesWhenTheAmplifierConfirms) {
     run();
-    const auto lit = [this] {
+    const auto muted = [this] {
         std::string lamps;
-        for (const char* lamp : {"Shape34", "Shape16", "Shape15", "Shape11", "Shape10"}) {
-            if (isLit(lamp)) lamps += lamp;
+        for (Integer channel = 0; channel <= 4; ++channel) {
+            if (panel_.Mute(channel)) lamps += std::to_string(channel);
         }
         return lamps;
     };
-    const std::pair<const char*, const char*> rows[] = {
-        {"Command11", "Shape15"}, {"Command14", "Shape15Shape11"},
-        {"Command11", "Shape11"}, {"Command17", "Shape34Shape16Shape15Shape11Shape10"},
-        {"Command17", ""},
+    const std::pair<Widgets::ButtonRef, const char*> rows[] = {
+        {channel(2).muteButton, "2"},  {channel(3).muteButton, "23"}, {channel(2).muteButton, "3"},
+        {kCommon.muteButton, "01234"}, {kCommon.muteButton, ""},
     };
     for (const auto& [button, lamps] : rows) {
-        person_.click(id(button));
+        person_.click(button);
         pass(200);
-        EXPECT_EQ(lit(), lamps) << button;
+        EXPECT_EQ(muted(), lamps);
     }
-    person_.click(id("Command12"));
-    EXPECT_FALSE(isLit("Shape16"));
+    person_.click(channel(1).muteButton);
+    EXPECT_FALSE(isLit(channel(1).muteLamp));
 }
 
 TEST_F(HostTest, SilencesWhatIsMuted) {
     run();
-    EXPECT_GT(swing("Picture1").highest, 5);
-    person_.click(id("Command12"));
+    EXPECT_GT(swing(channel(1).scope).highest, 5);
+    person_.click(channel(1).muteButton);
     pass(300);
-    EXPECT_NEAR(swing("Picture1").highest, 0, 1);
-    EXPECT_TRUE(isLit("Shape22"));
+    EXPECT_NEAR(swing(channel(1).scope).highest, 0, 1);
+    EXPECT_TRUE(isLit(channel(1).signalLamp));
 }
 
 TEST_F(HostTest, ShowsTheVolumeThatIsConfirmedAndLeavesAHeldSliderAlone) {
     run();
-    const auto readout = [this] { return digits({"LED20", "LED19"}); };
+    const auto readout = [this] { return digits(channel(1).volume); };
     EXPECT_EQ(readout(), "06");
-    EXPECT_EQ(position("ZelvinSlider1"), 18);
-    person_.hold(id("ZelvinSlider1"));
-    person_.move(id("ZelvinSlider1"), 10);
+    EXPECT_EQ(position(channel(1).volumeSlider), 18);
+    person_.hold(channel(1).volumeSlider);
+    person_.move(channel(1).volumeSlider, 10);
     EXPECT_EQ(readout(), "06");
     pass(300);
     EXPECT_EQ(readout(), "00");
-    EXPECT_EQ(position("ZelvinSlider1"), 10);
-    person_.drop(id("ZelvinSlider1"));
+    EXPECT_EQ(position(channel(1).volumeSlider), 10);
+    person_.drop(channel(1).volumeSlider);
     pass(20);
-    EXPECT_EQ(position("ZelvinSlider1"), 15);
-    person_.move(id("ZelvinSlider1"), 21);
+    EXPECT_EQ(position(channel(1).volumeSlider), 15);
+    person_.move(channel(1).volumeSlider, 21);
     pass(200);
     EXPECT_EQ(readout(), "12");
-    EXPECT_EQ(caption("Label76"), u"-");
+    EXPECT_EQ(caption(channel(1).volume.sign.value()), u"-");
 }
 
 TEST_F(HostTest, DoesNotPullBackASliderThatIsMovedFasterThanTheAmplifierAnswers) {
     run();
     for (Integer position = 19; position <= 28; ++position) {
-        person_.move(id("ZelvinSlider4"), position);
+        person_.move(channel(3).volumeSlider, position);
         pass(20);
-        EXPECT_EQ(this->position("ZelvinSlider4"), position);
+        EXPECT_EQ(this->position(channel(3).volumeSlider), position);
     }
     pass(300);
-    EXPECT_EQ(position("ZelvinSlider4"), 28);
-    EXPECT_EQ(digits({"LED9", "LED10"}), "26");
+    EXPECT_EQ(position(channel(3).volumeSlider), 28);
+    EXPECT_EQ(digits(channel(3).volume), "26");
 }
 
 TEST_F(HostTest, PutsASliderBackThatWasMovedWithoutALink) {
     run();
-    person_.slide(id("ZelvinSlider1"), 25);
+    person_.slide(channel(1).volumeSlider, 25);
     host_->set(Fault::linkLoss, true);
     pass(1000);
-    person_.slide(id("ZelvinSlider2"), 25);
+    person_.slide(channel(2).volumeSlider, 25);
     pass(20);
     EXPECT_EQ(logged("Not connected"), 1);
-    for (const auto* slider : {"ZelvinSlider1", "ZelvinSlider2"}) EXPECT_EQ(position(slider), 18);
+    for (const auto slider : {channel(1).volumeSlider, channel(2).volumeSlider})
+        EXPECT_EQ(position(slider), 18);
 }
 
 }  // namespace

@@ -6,20 +6,21 @@ namespace {
 TEST_F(HostTest, BringsUpTheLinkTheMainsAndOnAskingTheAmplifier) {
     const auto shown = [this] {
         std::string words;
-        if (isLit("shpConnected")) words += "link ";
-        if (caption("lblConnected34") == u"Connected") words += "connected ";
-        if (isLit("shpMainPresence12")) words += "mains ";
-        if (isLit("shpOnOff")) words += "power ";
-        const std::string rail = digits({"LED1", "LED2", "LED25"});
+        if (isLit(kCommon.linkLamp)) words += "link ";
+        if (caption(pair(2).linkText) == u"Connected") words += "connected ";
+        if (isLit(pair(1).mainsLamp)) words += "mains ";
+        if (isLit(kCommon.powerLamp)) words += "power ";
+        const std::string rail = digits(pair(1).positivePower);
         if (rail != "000" && rail != "___") words += "rail ";
-        for (const auto* lamp : {"Shape17", "Shape12"}) words += isLit(lamp) ? "ready " : "";
+        for (const auto lamp : {pair(1).readyLamp, pair(2).readyLamp})
+            words += isLit(lamp) ? "ready " : "";
         return words;
     };
     pass(100);
     EXPECT_EQ(shown(), "");
     pass(300);
     EXPECT_EQ(shown(), "link connected mains ");
-    person_.click(id("cmdOnOff"));
+    person_.click(kCommon.powerButton);
     EXPECT_EQ(shown(), "link connected mains ");
     pass(250);
     EXPECT_EQ(shown(), "link connected mains power ");
@@ -27,14 +28,14 @@ TEST_F(HostTest, BringsUpTheLinkTheMainsAndOnAskingTheAmplifier) {
     EXPECT_EQ(shown(), "link connected mains power rail ");
     pass(1200);
     EXPECT_EQ(shown(), "link connected mains power rail ready ready ");
-    EXPECT_TRUE(isLit("Shape6"));
+    EXPECT_TRUE(isLit(pair(1).clockLamp));
     EXPECT_NEAR(positivePower(), 118, 2);
     EXPECT_LT(host_->sinceLastWord(), Milliseconds(200));
 }
 
 TEST_F(HostTest, ShowsTheSoftStartAndTheDischarge) {
     pass(500);
-    person_.click(id("chkOnOff12"));
+    person_.click(pair(1).powerCheck);
     pass(600);
     int last = positivePower();
     for (int i = 0; i < 4; ++i) {
@@ -43,43 +44,43 @@ TEST_F(HostTest, ShowsTheSoftStartAndTheDischarge) {
         last = positivePower();
     }
     pass(2000);
-    person_.click(id("chkOnOff12"));
+    person_.click(pair(1).powerCheck);
     pass(1000);
-    EXPECT_FALSE(isLit("shpOnOff"));
-    EXPECT_FALSE(isLit("Shape17"));
+    EXPECT_FALSE(isLit(kCommon.powerLamp));
+    EXPECT_FALSE(isLit(pair(1).readyLamp));
     EXPECT_GT(positivePower(), 20);
     pass(20'000);
     EXPECT_EQ(positivePower(), 0);
-    EXPECT_NEAR(std::stoi(digits({"LED5", "LED6", "LED27"})), 24, 1);
+    EXPECT_NEAR(std::stoi(digits(pair(1).positiveAux)), 24, 1);
 }
 
 TEST_F(HostTest, PutsAPowerButtonBackThatCameToNothing) {
-    person_.click(id("chkOnOff12"));
-    EXPECT_FALSE(isChecked("chkOnOff12"));
+    person_.click(pair(1).powerCheck);
+    EXPECT_FALSE(isChecked(pair(1).powerCheck));
     EXPECT_TRUE(hasLogged("Not connected"));
     host_->set(Fault::mainsFailure, true);
     pass(500);
-    person_.click(id("chkOnOff12"));
-    EXPECT_TRUE(isChecked("chkOnOff12"));
+    person_.click(pair(1).powerCheck);
+    EXPECT_TRUE(isChecked(pair(1).powerCheck));
     pass(500);
-    EXPECT_FALSE(isChecked("chkOnOff12"));
-    person_.click(id("chkOnOff12"));
+    EXPECT_FALSE(isChecked(pair(1).powerCheck));
+    person_.click(pair(1).powerCheck);
     host_->set(Fault::linkLoss, true);
     pass(1000);
-    EXPECT_FALSE(isChecked("chkOnOff12"));
+    EXPECT_FALSE(isChecked(pair(1).powerCheck));
 }
 
 TEST_F(HostTest, DoesNotFlipThePowerButtonsToAndFro) {
     run();
     for (const bool isOn : {false, true}) {
         pass(70);
-        person_.click(id("chkOnOff12"));
+        person_.click(pair(1).powerCheck);
         for (int i = 0; i < 30; ++i) {
             pass(10);
-            ASSERT_EQ(isChecked("chkOnOff12"), isOn) << i;
+            ASSERT_EQ(isChecked(pair(1).powerCheck), isOn) << i;
         }
-        EXPECT_EQ(isLit("shpOnOff"), isOn);
-        EXPECT_EQ(isChecked("chkOnOff34"), isOn);
+        EXPECT_EQ(isLit(kCommon.powerLamp), isOn);
+        EXPECT_EQ(isChecked(pair(2).powerCheck), isOn);
     }
     EXPECT_TRUE(hasLogged("Amplifier off"));
 }

@@ -14,7 +14,7 @@ class ConversationTest : public Tests::PanelTest {
 protected:
     EventLog log_;
     Conversation conversation_{log_};
-    ObservedPanel host_{panel_, conversation_};
+    Connection calls_ = panel_.listen(conversation_);
     Connection events_ = panel_.connect([this](Long id, std::span<Value> arguments) {
         conversation_.raised(id, arguments);
         if (answer_) answer_();
@@ -23,62 +23,22 @@ protected:
     std::function<void()> answer_;
 };
 
-// Notes the calls of members, and what came of them.
-class Notes final : public CallListener {
-public:
-    void called(const Member& member, std::span<const Value> arguments) override {
-        number = member.number;
-        values.assign(arguments.begin(), arguments.end());
-    }
-    void returned(const Member& member, const Value& value) override {
-        isReturned = member.number == number;
-        result = value;
-    }
-    void failed(const Member&, const Error&) override {}
-
-    int number = 0;
-    std::vector<Value> values;
-    Value result;
-    bool isReturned = false;
-};
-
-using ObservedPanelTest = Tests::PanelTest;
-
-TEST_F(ObservedPanelTest, HandsEveryMemberOnAndTellsOfIt) {
-    for (const Member& member : kMembers) {
-        Notes notes;
-        ObservedPanel observed(panel_, notes);
-        std::vector<Value> arguments;
-        for (const Parameter& parameter : member.parameters()) {
-            arguments.push_back(convert(
-                Value(), parameter.type == ValueType::array ? ValueType::integer : parameter.type));
-            if (parameter.type == ValueType::array) arguments.back() = IntegerArray(1, {1, 2});
-        }
-        if (member.name == "DisegnaFormaDOnda") arguments[0] = Integer{1};
-        member.call(observed, arguments);
-        EXPECT_EQ(notes.number, member.number) << member.name;
-        EXPECT_EQ(notes.values, arguments) << member.name;
-        EXPECT_TRUE(notes.isReturned) << member.name;
-        EXPECT_EQ(typeOf(notes.result), member.result) << member.name;
-    }
-}
-
 TEST_F(ConversationTest, AnswersStandUnderTheirEvent) {
     answer_ = [this] {
-        host_.Mute(1, true);
-        host_.Mute(Integer{1});
+        panel_.Mute(1, true);
+        panel_.Mute(Integer{1});
     };
-    person_.click(Tests::id("Command12"));
-    host_.Protection(2, true);
+    person_.click(channel(1).muteButton);
+    panel_.Protection(2, true);
     EXPECT_EQ(log_.lines(), Log({"event Mute 1", "  let Mute 1 -1", "  get Mute 1", "  = -1",
                                  "let Protection 2 -1"}));
 }
 
 TEST_F(ConversationTest, LeavesOutTheSteadyFlowUnlessAskedForEverything) {
     const auto flow = [this] {
-        host_.VPPower(1, 48);
-        host_.DisegnaFormaDOnda(1, {1, {7, 8}});
-        host_.PowerOn();
+        panel_.VPPower(1, 48);
+        panel_.DisegnaFormaDOnda(1, {1, {7, 8}});
+        panel_.PowerOn();
     };
     flow();
     EXPECT_EQ(log_.lines(), Log());
@@ -89,26 +49,26 @@ TEST_F(ConversationTest, LeavesOutTheSteadyFlowUnlessAskedForEverything) {
 }
 
 TEST_F(ConversationTest, LeavesOutWhatOnlyRepeatsTheLastValueOfTheSameIndex) {
-    for (const bool isOn : {true, true, false}) host_.Signal(1, isOn);
-    host_.Signal(2, false);
-    host_.ClearTest();
-    host_.ClearTest();
+    for (const bool isOn : {true, true, false}) panel_.Signal(1, isOn);
+    panel_.Signal(2, false);
+    panel_.ClearTest();
+    panel_.ClearTest();
     EXPECT_EQ(log_.lines(), Log({"let Signal 1 -1", "let Signal 1 0", "let Signal 2 0",
                                  "call ClearTest", "call ClearTest"}));
 }
 
 TEST_F(ConversationTest, ShowsErrors) {
-    EXPECT_THROW(host_.chkTest(6, true), Error);
+    EXPECT_THROW(panel_.chkTest(6, true), Error);
     EXPECT_EQ(log_.lines(),
               Log({"let chkTest 6 -1", "! 340 Control array element '6' doesn't exist"}));
 }
 
 TEST_F(ConversationTest, TellsTheTimeAfterAPause) {
-    host_.Connected(true);
+    panel_.Connected(true);
     conversation_.setTime(999ms);
-    host_.PowerOn(true);
+    panel_.PowerOn(true);
     conversation_.setTime(12'345ms);
-    host_.PowerOn(false);
+    panel_.PowerOn(false);
     EXPECT_EQ(log_.lines(),
               Log({"let Connected -1", "let PowerOn -1", "# 12.3 s", "let PowerOn 0"}));
 }

@@ -1,52 +1,68 @@
 #include "Manager/Station/station.h"
 
-#include <algorithm>
-
-#include <gtest/gtest.h>
-
-#include "Support/bench.h"
+#include "Support/owned_panel.h"
 
 namespace Orvo::Manager {
 namespace {
 
 using namespace std::chrono_literals;
 
-class StationTest : public Tests::PanelTest {
+/// Says the link up and each event's answer, and calls nothing by itself.
+class Answering final : public Device {
+public:
+    explicit Answering(Script::PanelOwner& owner)
+        : events_(owner.panel().connect(
+              [&owner](Long, std::span<Value>) { owner.panel().Mute(1, true); })) {
+        owner.panel().Connected(true);
+    }
+    [[nodiscard]] std::string name() const override { return "Amplifier"; }
+    void advance(std::chrono::milliseconds elapsed) override { silence_ += elapsed; }
+    [[nodiscard]] std::optional<std::chrono::milliseconds> sinceLastWord() const override {
+        return silence_;
+    }
+
+private:
+    std::chrono::milliseconds silence_{0};
+    Connection events_;
+};
+
+class StationTest : public Tests::OwnedPanel {
 protected:
-    Station station_{panel_};
+    using Lines = std::deque<std::string>;
+
+    StationTest() {
+        station_.connect([this] { return std::make_unique<Answering>(owner_); });
+    }
+
+    Station station_{owner_};
 };
 
 TEST_F(StationTest, DisconnectingShowsTheLinkDownAndCallsTheValuesOld) {
-    station_.connectSimulator(1);
     station_.advance(2s);
-    EXPECT_TRUE(isLit("shpConnected"));
-    EXPECT_EQ(station_.situation().connectedTo, "Simulated amplifier (seed 1)");
+    EXPECT_TRUE(station_.situation().isLinkUp);
+    EXPECT_EQ(station_.situation().silence, 2s);
     station_.disconnect();
-    EXPECT_FALSE(isLit("shpConnected"));
-    EXPECT_TRUE(station_.situation().connectedTo.empty());
+    EXPECT_FALSE(station_.situation().isLinkUp);
+    EXPECT_EQ(station_.situation().connectedTo, "");
     EXPECT_TRUE(station_.situation().showsOldValues);
-    EXPECT_EQ(station_.simulator(), nullptr);
 }
 
 TEST_F(StationTest, NothingConnectedAnswersNoEventAnyMore) {
-    station_.connectSimulator(1);
-    station_.advance(2s);
-    station_.connectSimulator(1);
     station_.disconnect();
     station_.log().clear();
-    person_.click(Tests::id("Command12"));
-    station_.advance(2s);
-    EXPECT_EQ(station_.log().lines(), std::deque<std::string>({"event Mute 1"}));
+    click(channel(1).muteButton);
+    EXPECT_EQ(station_.log().lines(), Lines({"event Mute 1"}));
 }
 
-TEST_F(StationTest, WhatTheAmplifierConfirmsLaterIsNoPartOfTheEvent) {
-    station_.connectSimulator(1);
-    station_.advance(3s);
-    person_.click(Tests::id("Command12"));
-    station_.advance(1s);
-    const auto& lines = station_.log().lines();
-    for (const char* line : {"event Mute 1", "let Mute 1 -1"}) {
-        EXPECT_EQ(std::count(lines.begin(), lines.end(), line), 1) << line;
+TEST_F(StationTest, WhatTheDeviceAnswersStandsUnderTheEventOnAFreshPanelToo) {
+    for (int i = 0; i < 2; ++i) {
+        station_.log().clear();
+        click(channel(1).muteButton);
+        panel().Clock(1, true);
+        EXPECT_EQ(station_.log().lines(),
+                  Lines({"event Mute 1", "  let Mute 1 -1", "let Clock 1 -1"}));
+        station_.startAnew();
+        EXPECT_FALSE(station_.situation().showsOldValues);
     }
 }
 

@@ -7,18 +7,17 @@
 namespace Orvo::Manager {
 namespace {
 
-constexpr const Member& kDrawGrid = kMembers[30];
-constexpr const Member& kDrawTrace = kMembers[31];
-static_assert(kDrawGrid.name == "DisegnaAssi" && kDrawTrace.name == "DisegnaFormaDOnda");
+constexpr const Member& kDrawGrid = memberNamed<Integer>("DisegnaAssi");
+constexpr const Member& kDrawTrace = memberNamed<Integer, IntegerArray>("DisegnaFormaDOnda");
 
 void draw(Traces& traces, Integer channel, const IntegerArray& samples) {
     const std::array<Value, 2> arguments{channel, samples};
-    traces.note(kDrawTrace, arguments);
+    traces.called(kDrawTrace, arguments);
 }
 
 void clear(Traces& traces, Integer channel) {
     const std::array<Value, 1> arguments{channel};
-    traces.note(kDrawGrid, arguments);
+    traces.called(kDrawGrid, arguments);
 }
 
 const std::string kHeader = "index,sample (counts),level (V)\n";

@@ -15,16 +15,16 @@ TEST(CommandLine, SaysHowToStartAndWhatToRunRecordAndConnect) {
         parse({"--zoom", "150", "--tab=2", "--read-only", "--fullscreen", "--simulate"}));
     EXPECT_EQ(start.zoom, 150);
     EXPECT_EQ(start.tab, 2);
-    EXPECT_TRUE(start.isReadOnly && start.isFullScreen);
-    EXPECT_EQ(start.seed, 1U);
-    EXPECT_EQ(std::get<Options>(parse({"--simulate=4294967295"})).seed, 4294967295U);
+    EXPECT_TRUE(start.session.isReadOnly && start.isFullScreen);
+    EXPECT_EQ(start.session.seed, 1U);
+    EXPECT_EQ(std::get<Options>(parse({"--simulate=4294967295"})).session.seed, 4294967295U);
     const auto script = std::get<Options>(parse({"--script", "-", "--keep-going"}));
     EXPECT_EQ(script.script, "-");
     EXPECT_TRUE(script.keepsGoing);
     const auto link = std::get<Options>(
         parse({"--record=session", "--record-answers", "--link", "/dev/ttyS0@9600"}));
-    EXPECT_EQ(link.record, "session");
-    EXPECT_TRUE(link.recordsAnswers);
+    EXPECT_EQ(link.session.record, "session");
+    EXPECT_EQ(link.session.answers, Script::Answers::inFull);
     EXPECT_EQ(link.link.value().path, "/dev/ttyS0");
     EXPECT_EQ(link.link.value().speed, 9600U);
 }

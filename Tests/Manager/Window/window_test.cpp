@@ -7,6 +7,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QScrollBar>
@@ -31,12 +32,12 @@ using Simulator::Fault;
 class WindowTest : public testing::Test {
 protected:
     WindowTest() {
-        window_.connectSimulator();
+        window_.session().connectSimulator();
         window_.open();
     }
 
     void live(std::chrono::milliseconds time) {
-        window_.station().advance(time);
+        window_.session().station().advance(time);
         window_.refresh();
     }
 
@@ -79,7 +80,7 @@ TEST_F(WindowTest, EveryActionHasKeysThatNothingElseTakes) {
 TEST_F(WindowTest, SilenceIsToldInWords) {
     live(2s);
     EXPECT_EQ(label("Link"), "Link up");
-    window_.setFault(Fault::linkLoss, true);
+    window_.session().simulator()->set(Fault::linkLoss, true);
     live(8s);
     EXPECT_EQ(label("Link"), "Link down");
     EXPECT_TRUE(label("Last word from the amplifier").contains("No word for"));
@@ -87,7 +88,7 @@ TEST_F(WindowTest, SilenceIsToldInWords) {
 }
 
 TEST_F(WindowTest, MenusFollowWhatIsConnected) {
-    window_.setFault(Fault::mainsFailure, true);
+    window_.session().simulator()->set(Fault::mainsFailure, true);
     window_.refresh();
     EXPECT_TRUE(action("Ctrl+F, 3")->isChecked());
     action("F8")->trigger();
@@ -114,11 +115,32 @@ TEST_F(WindowTest, ReadOnlyModeIsThePanels) {
     EXPECT_FALSE(action("F2")->isChecked());
 }
 
+TEST_F(WindowTest, ALinkThatIsNoneIsRefusedWithAReason) {
+    for (const char* address : {"", "  ", "/dev/ttyS0@77"}) {
+        EXPECT_NE(window_.connectLink(QString(address)), "") << address;
+        EXPECT_NE(window_.session().simulator(), nullptr) << address;
+    }
+    EXPECT_EQ(window_.connectLink(QString(" /dev/nowhere@9600 ")), "");
+    window_.refresh();
+    EXPECT_TRUE(window_.windowTitle().contains("Link to /dev/nowhere at 9600"));
+}
+
+TEST_F(WindowTest, TellsOfARecordingOnAFreshPanelAndOfOneThatCannotBe) {
+    const Tests::TemporaryDirectory directory;
+    window_.session().startRecording(directory.path() / "session.txt");
+    window_.refresh();
+    EXPECT_TRUE(window_.windowTitle().contains("Recording: "));
+    EXPECT_EQ(label("Message"), "Recording from a fresh start to session.txt");
+    EXPECT_TRUE(window_.panelWidget().findChild<QWidget*>("SSTab1")->isVisible());
+    window_.session().startRecording("/no/such/place");
+    EXPECT_TRUE(window_.findChild<QMessageBox*>()->informativeText().contains("/no/such/place"));
+}
+
 TEST_F(WindowTest, TheEventViewShowsTheLastEventsAndIsBounded) {
-    window_.connectNothing();
+    window_.session().connectNothing();
     window_.showEvents(true);
     for (std::size_t i = 0; i < EventLog::kMostLines + 50; ++i) {
-        window_.panelWidget().store().input().click(Tests::id("Command12"));
+        window_.panelWidget().store().input().click(channel(1).muteButton);
         if (i % 777 == 0) window_.refresh();
     }
     auto* sideways = window_.findChild<QPlainTextEdit*>()->horizontalScrollBar();
@@ -192,9 +214,9 @@ TEST_F(WindowTest, ClosingEndsWithAPromptOpen) {
     soon.setSingleShot(true);
     QObject::connect(&soon, &QTimer::timeout, &window_, &QWidget::close);
     soon.start(0);
-    window_.panelWidget().store().enable(Tests::id("Command1"), true);
-    window_.panelWidget().store().show(Tests::id("Command1"), true);
-    window_.panelWidget().store().input().click(Tests::id("Command1"));
+    window_.panelWidget().store().enable(kCommon.resetLogButton, true);
+    window_.panelWidget().store().show(kCommon.resetLogButton, true);
+    window_.panelWidget().store().input().click(kCommon.resetLogButton);
     EXPECT_FALSE(window_.isVisible());
     EXPECT_EQ(window_.findChild<QInputDialog*>(), nullptr);
 }

@@ -22,8 +22,8 @@ TEST_F(Events, PassCopiesThatASinkMayAssignTo) {
     Assigning second;
     const auto one = panel_.connect(first);
     const auto two = panel_.connect(second);
-    person_.click(id("Command11"));
-    person_.click(id("Command11"));
+    person_.click(channel(2).muteButton);
+    person_.click(channel(2).muteButton);
     EXPECT_EQ(first.heard, (std::vector<Integer>{2, 2}));
     EXPECT_EQ(second.heard, (std::vector<Integer>{2, 2}));
 }
@@ -32,9 +32,9 @@ TEST_F(Events, EndWithTheirConnection) {
     int heard = 0;
     {
         const auto connection = panel_.connect([&](Long, std::span<Value>) { ++heard; });
-        person_.click(id("cmdOnOff"));
+        person_.click(kCommon.powerButton);
     }
-    person_.click(id("cmdOnOff"));
+    person_.click(kCommon.powerButton);
     EXPECT_EQ(heard, 1);
 }
 
@@ -50,15 +50,16 @@ TEST_F(Events, LetASinkDisconnectItselfAndAnotherAndConnectANewOne) {
         added = panel_.connect([&](Long, std::span<Value>) { heard.emplace_back("added"); });
     });
     later = panel_.connect([&](Long, std::span<Value>) { heard.emplace_back("later"); });
-    person_.click(id("cmdOnOff"));
+    person_.click(kCommon.powerButton);
     EXPECT_EQ(heard, Lines{"self"});
-    person_.click(id("cmdOnOff"));
+    person_.click(kCommon.powerButton);
     EXPECT_EQ(heard, (Lines{"self", "added"}));
 }
 
 TEST_F(Events, LetASinkReleaseThePanelInTheMidstOfAHandler) {
     // The entry goes on after its event, and a click's event is followed by the mouse's release.
-    for (const auto* name : {"Command17", "cmdOnOff", "chkOnOff12", "cmdGo12"}) {
+    for (const auto button : {kCommon.muteButton.id, kCommon.powerButton.id, pair(1).powerCheck.id,
+                              pair(1).startButton.id}) {
         auto bench = makeBench();
         int heard = 0;
         const auto one = bench->panel().connect([&](Long, std::span<Value>) {
@@ -66,9 +67,9 @@ TEST_F(Events, LetASinkReleaseThePanelInTheMidstOfAHandler) {
             bench->release();
         });
         const auto two = bench->panel().connect([&](Long, std::span<Value>) { ++heard; });
-        bench->store().input().click(id(name));
-        bench->store().input().click(id(name));
-        EXPECT_EQ(heard, 1) << name;
+        bench->store().input().click(button);
+        bench->store().input().click(button);
+        EXPECT_EQ(heard, 1) << Layout::describe(button).name;
     }
 }
 
@@ -79,8 +80,8 @@ TEST_F(Events, GoOnWhenASinkFails) {
     });
     int heard = 0;
     const auto other = panel_.connect([&](Long, std::span<Value>) { ++heard; });
-    person_.click(id("cmdOnOff"));
-    person_.click(id("Command12"));
+    person_.click(kCommon.powerButton);
+    person_.click(channel(1).muteButton);
     EXPECT_EQ(heard, 2);
     EXPECT_EQ(takeLines(),
               (Lines{"OnOff", "! 1003 Host handler failed: no link", "Mute 1", "! 6 Overflow"}));
@@ -106,7 +107,7 @@ TEST_F(Threads, OtherThanThePanelsAreRefusedAndChangeNothing) {
     }).join();
     EXPECT_EQ(direct, 1001);
     EXPECT_EQ(late, 1001);
-    EXPECT_FALSE(isLit("shpConnected"));
+    EXPECT_FALSE(isLit(kCommon.linkLamp));
 }
 
 }  // namespace

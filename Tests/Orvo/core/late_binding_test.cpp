@@ -1,31 +1,7 @@
-#include <array>
-#include <cstring>
-
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
 namespace {
-
-TEST(MemberTable, IsDeclaredInItsOrderByTheInterface) {
-#if defined(__GXX_ABI_VERSION) && defined(__x86_64__)
-    // This ABI's pointer to a virtual function is 1 plus its offset in the virtual table; the
-    // destructor's two entries come first.
-    using I = MarvaneAssistantInterface;
-    const auto slot = [](auto function) {
-        std::array<std::ptrdiff_t, 2> words{};
-        static_assert(sizeof words == sizeof function);
-        std::memcpy(words.data(), &function, sizeof words);
-        return (words[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)) - 1;
-    };
-    EXPECT_EQ(slot(&I::TrimStr), 1);
-    EXPECT_EQ(slot(static_cast<Boolean (I::*)(Integer)>(&I::chkTest)), 7);
-    EXPECT_EQ(slot(&I::ClearTest), 9);
-    EXPECT_EQ(slot(static_cast<void (I::*)(Integer)>(&I::IdDevice)), 15);
-    EXPECT_EQ(slot(static_cast<Boolean (I::*)()>(&I::PowerOn)), 22);
-    EXPECT_EQ(slot(&I::DisegnaFormaDOnda), 32);
-    EXPECT_EQ(slot(static_cast<Boolean (I::*)()>(&I::ReadOnly)), 36);
-#endif
-}
 
 TEST(Conversion, FollowsTheComponentModel) {
     const struct {

@@ -8,8 +8,8 @@ using ReadOnlyMode = PanelTest;
 TEST_F(ReadOnlyMode, DisablesEveryInputThatAPersonCouldChangeTheAmplifierWith) {
     const auto disabled = [this] {
         std::size_t count = 0;
-        for (const auto& widget : Layout::kWidgets) {
-            if (!isEnabled(widget.name) && widget.name != "Combo1") ++count;
+        for (Widgets::WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
+            if (!isEnabled(id) && id != kCommon.amplifierIds) ++count;
         }
         return count;
     };

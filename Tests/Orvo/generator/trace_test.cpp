@@ -1,23 +1,7 @@
-#include "Orvo/generator/trace.h"
-
-#include <numeric>
-
-#include <gtest/gtest.h>
-
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
 namespace {
-
-TEST(TracePoints, SpreadTheSamplesOverTheSurface) {
-    const std::vector<Integer> samples{128, 255, 0};
-    const auto points = tracePoints(samples, 100, 195, 95);
-    EXPECT_FLOAT_EQ(points[0].x, 31.65F);
-    EXPECT_NEAR(points[0].y, 47.69, 0.005);
-    EXPECT_NEAR(points[1].y, 98.31, 0.005);
-    EXPECT_NEAR(points[2].y, -3.34, 0.005);
-    EXPECT_EQ(tracePoints(std::vector<Integer>(100), 100, 195, 95).back().x, 195);
-}
 
 using Trace = PanelTest;
 
@@ -26,9 +10,9 @@ struct Drawn {
     std::vector<Widgets::Point> points{};
 };
 
-Drawn drawnOn(Runtime::Store& store, const char* name) {
+Drawn drawnOn(Runtime::Store& store, Widgets::PictureRef scope) {
     Drawn drawn;
-    for (const auto& item : store.get<Runtime::StoredPicture>(id(name)).state().drawing) {
+    for (const auto& item : store.get<Runtime::StoredPicture>(scope).state().drawing) {
         if (const auto* trace = std::get_if<Runtime::DrawnPolyline>(&item)) {
             EXPECT_EQ(trace->colour, rgb(0, 255, 0));
             drawn.points = trace->points;
@@ -64,10 +48,10 @@ TEST_F(Trace, JoinsTheSamplesFromIndex1AndStopsWhereTheArrayDoes) {
         SCOPED_TRACE(row.label);
         panel_.DisegnaFormaDOnda(2, IntegerArray(1, {1, 2, 3}));
         EXPECT_EQ(errorOf([&] { panel_.DisegnaFormaDOnda(2, row.samples); }), row.error);
-        const Drawn drawn = drawnOn(store_, "Picture2");
+        const Drawn drawn = drawnOn(store_, channel(2).scope);
         EXPECT_EQ(drawn.grid, 19U);
         EXPECT_EQ(drawn.points.size(), row.points);
-        EXPECT_TRUE(drawnOn(store_, "Picture1").points.empty());
+        EXPECT_TRUE(drawnOn(store_, channel(1).scope).points.empty());
     }
 }
 

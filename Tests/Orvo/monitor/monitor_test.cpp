@@ -1,4 +1,5 @@
 #include "Orvo/monitor/volume.h"
+#include "Orvo/values/indexed.h"
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
@@ -8,32 +9,30 @@ using Monitor = PanelTest;
 
 TEST_F(Monitor, LightsExactlyTheLampOfAFlagAndIndex) {
     using I = MarvaneAssistantInterface;
-    const struct {
-        void (I::*set)(Integer, Boolean);
-        std::vector<std::string> lamps;  // from index 0
-    } kRows[] = {
-        {&I::Protection, {"Shape28", "Shape18", "Shape21", "Shape13", "Shape14"}},
-        {&I::Signal, {"", "Shape22", "Shape23", "Shape19", "Shape24"}},
-        {&I::Clock, {"", "Shape6", "Shape4"}},
-        {&I::Ready, {"", "Shape17", "Shape12"}},
-    };
+    using Lamps = std::vector<Widgets::WidgetId>;
     const auto lit = [this] {
-        std::string names;
-        for (const auto& widget : Layout::kWidgets) {
-            const bool isLamp = widget.style.kind == Layout::Kind::shape && !widget.style.isSolid;
-            if (isLamp && isLit(widget.name)) names += widget.name;
+        Lamps lamps;
+        for (Widgets::WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
+            const auto& style = Layout::describe(id).style;
+            const bool isLamp = style.kind == Layout::Kind::shape && !style.isSolid;
+            if (isLamp && isLit({id})) lamps.push_back(id);
         }
-        return names;
+        return lamps;
     };
-    for (const auto& row : kRows) {
-        for (Integer index = -1; index <= 5; ++index) {
-            const bool isThere = index >= 0 && std::size_t(index) < row.lamps.size();
-            const std::string lamp = isThere ? row.lamps[std::size_t(index)] : "";
-            (panel_.*row.set)(index, Boolean(Integer{1}));
-            EXPECT_EQ(lit(), lamp) << row.lamps.back() << ' ' << index;
-            (panel_.*row.set)(index, kFalse);
-            EXPECT_EQ(lit(), "") << row.lamps.back() << ' ' << index;
-        }
+    for (Integer index = -1; index <= 5; ++index) {
+        const auto expectLit = [&](void (I::*set)(Integer, Boolean), const Lamps& lamps) {
+            (panel_.*set)(index, Boolean(Integer{1}));
+            EXPECT_EQ(lit(), lamps) << index;
+            (panel_.*set)(index, kFalse);
+            EXPECT_EQ(lit(), Lamps()) << index;
+        };
+        const auto* channel = entry(Layout::kChannels, index);
+        const auto* pair = entry(Layout::kPairs, index);
+        const Lamps all = index == 0 ? Lamps{kCommon.protectionLamp} : Lamps();
+        expectLit(&I::Protection, channel != nullptr ? Lamps{channel->protectionLamp} : all);
+        expectLit(&I::Signal, channel != nullptr ? Lamps{channel->signalLamp} : Lamps());
+        expectLit(&I::Clock, pair != nullptr ? Lamps{pair->clockLamp} : Lamps());
+        expectLit(&I::Ready, pair != nullptr ? Lamps{pair->readyLamp} : Lamps());
     }
 }
 

@@ -1,6 +1,5 @@
 #include "Orvo/ports/machine_spooler.h"
 
-#include "Orvo/ports/machine_platform.h"
 #include "Orvo/service/block_heap.h"
 #include "Orvo/service/port_discovery.h"
 #include "Support/bench.h"
@@ -86,21 +85,6 @@ TEST_F(MachineSpoolerTest, AnswersAsTheSpoolerDoes) {
         EXPECT_EQ(needed, level == 2 ? kNeeded : 0) << label;
     }
     EXPECT_EQ(asked_, (Lines{"a", "a", "a", "a", "b"}));
-}
-
-TEST(MachinePlatform, ListsTheRealPorts) {
-    if (!std::filesystem::exists("/sys/class/tty")) GTEST_SKIP() << "no /sys is mounted here";
-    PortDiscovery discovery(Runtime::machinePlatform());
-    const Long count = discovery.discover(u"");
-    Lines names;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i) {
-        names.push_back(toUtf8(discovery.ports()[i].PortName));
-        EXPECT_NE(discovery.ports()[i].PortType & PortSpooler::write, 0) << names.back();
-        EXPECT_TRUE(!names.back().starts_with("/dev/") || std::filesystem::exists(names.back()))
-            << names.back();
-    }
-    MarvaneAssistant panel(Runtime::Store::create(), Runtime::machinePlatform());
-    EXPECT_EQ(panel.GetAvailablePorts(u""), count);
 }
 
 }  // namespace

@@ -4,6 +4,9 @@
 #include <cstring>
 #include <functional>
 #include <memory>
+#include <new>
+
+#include <sys/resource.h>
 
 #include "Orvo/service/block_heap.h"
 #include "Support/bench.h"
@@ -38,6 +41,13 @@ TEST_F(PortDiscoveryTest, WritesServerAndTextsInCodePage1252) {
               "\\\\b\xFC"
               "cher\x80?");
     EXPECT_EQ(shown(discovery_.ports()[0]), "?COM€, Überwacher, …, 11");
+}
+
+TEST_F(PortDiscoveryTest, EndsTheServersNameAtItsFirstNul) {
+    for (const String& padded : {String(2, u'\0'), u"rack" + String(70000, u'\0') + u"x"}) {
+        discovery_.discover(padded);
+        EXPECT_EQ(spooler_->askedServer, toUtf8(padded.substr(0, padded.find(u'\0'))));
+    }
 }
 
 TEST_F(PortDiscoveryTest, KeepsTheEntriesAboveTheCount) {
@@ -119,6 +129,19 @@ TEST_F(PortDiscoveryTest, PassesAFailedAllocationOnToTheFillCall) {
     EXPECT_EQ(storedCount(), 0);
 }
 
+TEST_F(PortDiscoveryTest, GivesTheFillCallTheNeededSizeAndNoMore) {
+    struct RoundingHeap final : ProcessHeap {
+        Long allocate(std::size_t bytes) override { return blocks.allocate(bytes + 100); }
+        void release(Long address) override { blocks.release(address); }
+        std::span<std::byte> bytesFrom(Long address) override { return blocks.bytesFrom(address); }
+        BlockHeap blocks;
+    };
+    discovery_ = PortDiscovery({spooler_, std::make_shared<RoundingHeap>()});
+    spooler_->sizeQuery.ports = numbered(1);
+    spooler_->fillCall.ports = numbered(2);
+    EXPECT_EQ(discovery_.discover(u""), 0);
+}
+
 class PortMembersTest : public PortDiscoveryTest {
 protected:
     MarvaneAssistant panel_{Runtime::Store::create(), {spooler_, heap_}};
@@ -131,6 +154,20 @@ TEST_F(PortMembersTest, GetAvailablePortsDiscovers) {
     spooler_->list(numbered(102));
     EXPECT_EQ(errorOf([&] { panel_.GetAvailablePorts(u""); }), 9);
     EXPECT_EQ(MarvaneAssistant(Runtime::Store::create()).GetAvailablePorts(u""), 0);
+}
+
+TEST_F(PortMembersTest, InvokeTurnsWhateverIsThrownIntoAnError) {
+    const auto number = [&](std::function<void()> fail) {
+        spooler_->list(numbered(1));
+        spooler_->spoil = [&](auto) { fail(); };
+        const Value server = String();
+        return panel_.invoke(0x60030017, MemberKind::method, {&server, 1}).error.value().number();
+    };
+    EXPECT_EQ(number([] { throw std::bad_alloc(); }), 7);
+    EXPECT_EQ(number([] { throw std::logic_error("x"); }), 1003);
+    EXPECT_EQ(number([] { throw 5; }), 1003);
+    EXPECT_EQ(heap_->blockCount(), 0U);
+    EXPECT_THROW(number([] { throw Released(); }), Released);
 }
 
 TEST_F(PortMembersTest, TrimStrEndsAtTheFirstNul) {
@@ -173,6 +210,18 @@ TEST(BlockHeap, GoesOnForeverBesideABlockThatStays) {
     }
     EXPECT_EQ(heap.allocate(0x8000'0000), 0);
 }
+
+#ifndef __SANITIZE_ADDRESS__  // which ends the process instead
+TEST(BlockHeap, HasNoBlockWhenTheMachineHasNoMemory) {
+    rlimit before{};
+    getrlimit(RLIMIT_AS, &before);
+    const rlimit none{0, before.rlim_max};
+    setrlimit(RLIMIT_AS, &none);
+    const Long address = BlockHeap().allocate(0x4000'0000);
+    setrlimit(RLIMIT_AS, &before);
+    EXPECT_EQ(address, 0);
+}
+#endif
 
 }  // namespace
 }  // namespace Orvo::Tests

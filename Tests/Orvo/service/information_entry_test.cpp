@@ -16,9 +16,9 @@ TEST_F(InformationEntry, EndsWhenThePanelIsReleasedUnderIt) {
         int asked = 0;
     } person;
     person.bench->store().promptWith(&person);
-    person.bench->store().input().type(id("List1"), 18);
+    person.bench->store().input().type(kCommon.log, 18);
     EXPECT_EQ(person.asked, 1);
-    EXPECT_TRUE(person.bench->store().widget(id("Command1")).isEnabled());
+    EXPECT_TRUE(person.bench->store().widget(kCommon.resetLogButton).isEnabled());
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ protected:
     StoreTest() { store_.notifyTo(this); }
 
     void notify(Notification& notification) override {
-        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
+        constexpr const char* kNames[] = {"click", "release", "key", "tick", "change"};
         heard_.push_back(std::string(kNames[static_cast<int>(notification.kind)]) + ' ' +
                          std::string(Layout::describe(notification.widget).name));
         if (answer_) answer_(notification);
@@ -38,9 +38,9 @@ protected:
 using Heard = std::vector<std::string>;
 
 TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
-    constexpr auto kP1 = Layout::optionRef("optP1");
-    constexpr auto kN1 = Layout::optionRef("optN1");
-    constexpr auto kP3 = Layout::optionRef("optP3");
+    constexpr auto kP1 = channel(1).positive.option;
+    constexpr auto kN1 = channel(1).negative.option;
+    constexpr auto kP3 = channel(3).positive.option;
     store_[kP3].setValue(true);
     store_[kP1].setValue(true);
     person_.click(kN1.id);
@@ -48,10 +48,15 @@ TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
     EXPECT_TRUE(store_[kN1].value());
     EXPECT_TRUE(store_[kP3].value());
     EXPECT_EQ(takeHeard(), (Heard{"click optP3", "click optP1", "click optN1", "release optN1"}));
+    person_.click(kN1.id);
+    person_.type(kN1.id, ' ');
+    store_[kN1].setValue(true);
+    EXPECT_EQ(takeHeard(),
+              (Heard{"click optN1", "release optN1", "key optN1", "click optN1", "click optN1"}));
 }
 
 TEST_F(StoreTest, TicksOnceForAllTheTimeThatItMissed) {
-    store_[Layout::timerRef("tmrVirtualTemp34")].setEnabled(false);
+    store_[pair(2).testTimer].setEnabled(false);
     store_.catchUp(10s);
     EXPECT_EQ(takeHeard(), Heard{"tick tmrVirtualTemp12"});
     EXPECT_EQ(store_.untilNextTick(), 500ms);
@@ -67,7 +72,7 @@ TEST_F(StoreTest, LetsATickPassTimeItself) {
 }
 
 TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
-    constexpr auto kSlider = Layout::sliderRef("ZelvinSlider1");
+    constexpr auto kSlider = channel(1).volumeSlider;
     const auto& state = store_.get<Runtime::StoredSlider>(kSlider.id).state();
     store_[kSlider].setPosition(-40);
     EXPECT_EQ(store_[kSlider].position(), -40);
@@ -97,10 +102,11 @@ TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
 }
 
 TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
-    constexpr auto kPicture = Layout::pictureRef("Picture1");
+    constexpr auto kPicture = channel(1).scope;
     const std::vector<Widgets::Point> points{{0, 0}, {1, 1}, {2, 0}, {3, 1}};
-    OperationLog thirdLine(6);
-    store_.observeWith(&thirdLine);
+    OperationLog log;
+    log.failAt = 6;  // the third line
+    store_.observeWith(&log);
     EXPECT_EQ(errorOf([&] { store_[kPicture].polyline(points, Layout::kGreen); }), 7);
     const auto& drawing = store_.get<Runtime::StoredPicture>(kPicture.id).state().drawing;
     ASSERT_EQ(drawing.size(), 1U);

@@ -36,18 +36,15 @@ protected:
         }
         return nullptr;
     }
-    QAccessibleInterface* known(const char* name) { return known(idOf(name)); }
-    std::string words(const char* name) {
-        const auto* thing = known(name);
+    std::string words(WidgetId id) {
+        const auto* thing = known(id);
         return (thing->text(QAccessible::Name) + ": " + thing->text(QAccessible::Value))
             .toStdString();
     }
 
-    void light(const char* lamp) {
-        store_[Widgets::ShapeRef{idOf(lamp)}].setFillStyle(Widgets::FillStyle::solid);
-    }
-    void showDigits(std::initializer_list<const char*> names, Integer digit) {
-        for (const char* name : names) store_[Widgets::DigitRef{idOf(name)}].setDigit(digit++);
+    void light(Widgets::ShapeRef lamp) { store_[lamp].setFillStyle(Widgets::FillStyle::solid); }
+    void showDigits(const Layout::Readout& readout, Integer digit) {
+        for (const auto place : readout.digits()) store_[place].setDigit(digit++);
     }
 };
 
@@ -85,42 +82,43 @@ TEST_F(AccessibilityTest, EveryWidgetThatTellsOrTakesSomethingIsKnownByName) {
 }
 
 TEST_F(AccessibilityTest, WhatIsReadOutIsWhatIsShown) {
-    light("Shape18");
-    showDigits({"LED3", "LED4", "LED26"}, 0);
-    showDigits({"LED18", "LED17"}, 1);
-    showDigits({"LED11", "LED12"}, 1);
-    showDigits({"ledTemp12(0)"}, 1);
-    store_[Widgets::LabelRef{idOf("Label10")}].setCaption(u"");
-    store_[Widgets::LabelRef{idOf("lblTestResult(3)")}].setCaption(u"FAIL");
-    store_[Widgets::SliderRef{idOf("ZelvinSlider2")}].setPosition(20);
-    store_[Widgets::SliderRef{idOf("ZelvinSlider6")}].setPosition(20);
+    light(channel(1).protectionLamp);
+    showDigits(pair(1).negativePower, 0);
+    showDigits(channel(2).volume, 1);
+    showDigits(channel(4).volume, 1);
+    store_[pair(1).temperature.places[0]].setDigit(1);
+    store_[*channel(4).volume.sign].setCaption(u"");
+    store_[kCommon.testResults.at(3)].setCaption(u"FAIL");
+    store_[channel(2).volumeSlider].setPosition(20);
+    store_[pair(2).testSlider].setPosition(20);
     settle();
-    EXPECT_EQ(words("Shape18"), "Protection channel 1: lit");
-    EXPECT_EQ(words("Shape21"), "Protection channel 2: dark");
-    EXPECT_EQ(words("LED26"), "Negative power bus channels 1 and 2: -12 V");
-    EXPECT_EQ(words("LED17"), "Volume readout channel 2: -12 dB");
-    EXPECT_EQ(words("LED12"), "Volume readout channel 4: 12 dB") << "its sign is gone";
-    EXPECT_EQ(words("ledTemp12(0)"), "Temperature channels 1 and 2: no value");
-    EXPECT_EQ(words("lblTestResult(3)"), "Positive aux bus test: FAIL");
-    EXPECT_EQ(words("lblTestResult(4)"), "Negative aux bus test: no result");
-    EXPECT_EQ(words("ZelvinSlider2"), "Volume channel 2: -10 dB");
-    EXPECT_EQ(words("ZelvinSlider6"), "Test temperature channels 3 and 4: 20 °C");
-    EXPECT_EQ(control("ZelvinSlider2").toolTip(), "Volume channel 2: -10 dB");
+    EXPECT_EQ(words(channel(1).protectionLamp), "Protection channel 1: lit");
+    EXPECT_EQ(words(channel(2).protectionLamp), "Protection channel 2: dark");
+    EXPECT_EQ(words(pair(1).negativePower.places[2]), "Negative power bus channels 1 and 2: -12 V");
+    EXPECT_EQ(words(channel(2).volume.places[1]), "Volume readout channel 2: -12 dB");
+    EXPECT_EQ(words(channel(4).volume.places[1]), "Volume readout channel 4: 12 dB")
+        << "its sign is gone";
+    EXPECT_EQ(words(pair(1).temperature.places[0]), "Temperature channels 1 and 2: no value");
+    EXPECT_EQ(words(kCommon.testResults.at(3)), "Positive aux bus test: FAIL");
+    EXPECT_EQ(words(kCommon.testResults.at(4)), "Negative aux bus test: no result");
+    EXPECT_EQ(words(channel(2).volumeSlider), "Volume channel 2: -10 dB");
+    EXPECT_EQ(words(pair(2).testSlider), "Test temperature channels 3 and 4: 20 °C");
+    EXPECT_EQ(control(channel(2).volumeSlider).toolTip(), "Volume channel 2: -10 dB");
 }
 
 TEST_F(AccessibilityTest, AssistiveTechnologyMovesASliderAsAPersonDoes) {
     toTab(1);
-    auto* volume = known("ZelvinSlider1")->valueInterface();
+    auto* volume = known(channel(1).volumeSlider)->valueInterface();
     EXPECT_EQ(volume->maximumValue(), 30);
     EXPECT_EQ(volume->minimumValue(), -30);
     volume->setCurrentValue(-8.0);
     settle();
     EXPECT_EQ(volume->currentValue(), -8);
-    EXPECT_EQ(store_[Widgets::SliderRef{idOf("ZelvinSlider1")}].position(), 19);
+    EXPECT_EQ(store_[channel(1).volumeSlider].position(), 19);
     volume->setCurrentValue(1e9);
     settle();
     EXPECT_EQ(volume->currentValue(), 30);
-    store_[Widgets::SliderRef{idOf("ZelvinSlider1")}].setEnabled(false);
+    store_[channel(1).volumeSlider].setEnabled(false);
     volume->setCurrentValue(0);
     settle();
     EXPECT_EQ(panel_.heard, "ZelvinSlider1 change, ZelvinSlider1 change") << "and no third time";
@@ -128,25 +126,27 @@ TEST_F(AccessibilityTest, AssistiveTechnologyMovesASliderAsAPersonDoes) {
 
 TEST_F(AccessibilityTest, AssistiveTechnologyPressesWhatCanBePressed) {
     toTab(1);
-    for (const char* name : {"Command12", "optP2", "chkOnOff12"}) {
-        known(name)->actionInterface()->doAction(known(name)->actionInterface()->actionNames()[0]);
+    for (const auto button :
+         {channel(1).muteButton.id, channel(2).positive.option.id, pair(1).powerCheck.id}) {
+        known(button)->actionInterface()->doAction(
+            known(button)->actionInterface()->actionNames()[0]);
     }
     for (const char* click : {"Command12 click", "optP2 click", "chkOnOff12 click"}) {
         const auto isHeard = [&] { return panel_.heard.find(click) != std::string::npos; };
         EXPECT_TRUE(QTest::qWaitFor(isHeard)) << click;
     }
     settle();
-    EXPECT_TRUE(known("optP2")->state().checked);
+    EXPECT_TRUE(known(channel(2).positive.option)->state().checked);
 }
 
 TEST_F(AccessibilityTest, TheLogIsAListOfItsLines) {
-    auto& list = store_[Widgets::ListRef{idOf("List1")}];
+    auto& list = store_[kCommon.log];
     list.addItem(u"first");
     list.addItem(u"second");
     settle();
-    control("List1").setFocus();
-    QTest::keyClick(&control("List1"), Qt::Key_End);
-    const auto* log = known("List1");
+    control(kCommon.log).setFocus();
+    QTest::keyClick(&control(kCommon.log), Qt::Key_End);
+    const auto* log = known(kCommon.log);
     ASSERT_EQ(log->childCount(), 2);
     EXPECT_EQ(log->focusChild()->text(QAccessible::Name), "second");
     EXPECT_TRUE(log->child(1)->state().selected);
@@ -158,26 +158,26 @@ TEST_F(AccessibilityTest, TheLogIsAListOfItsLines) {
 }
 
 TEST_F(AccessibilityTest, ALampSaysInItsTooltipWhetherItIsLit) {
-    light("shpConnected");
+    light(kCommon.linkLamp);
     settle();
-    const QPoint at = page(0).placeOf(idOf("shpConnected")).center();
+    const QPoint at = page(0).placeOf(kCommon.linkLamp).center();
     QHelpEvent help(QEvent::ToolTip, at, page(0).mapToGlobal(at));
     QApplication::sendEvent(&page(0), &help);
     EXPECT_EQ(QToolTip::text(), "Link: lit");
 }
 
 TEST_F(AccessibilityTest, TheTabKeyReachesEveryControlAndShowsIt) {
-    store_.enable(idOf("Combo1"), true);
+    store_.enable(kCommon.amplifierIds, true);
     for (int tab = 0; tab < 3; ++tab) {
         toTab(tab);
         std::set<std::string> reached;
-        QWidget* strip = &control("SSTab1");
+        QWidget* strip = &control(kTabs);
         strip->setFocus();
         WidgetId last = 0;
         for (QWidget* focused = nullptr; focused != strip;) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             focused = QApplication::focusWidget();
-            const WidgetId next = idOf(focused->objectName().toStdString());
+            const WidgetId next = Layout::findWidget(focused->objectName().toStdString()).value();
             EXPECT_TRUE(next > last || focused == strip) << "not in the layout's order";
             last = next;
             ASSERT_TRUE(reached.insert(focused->objectName().toStdString()).second);
@@ -228,10 +228,10 @@ TEST(AccessibilityOfAPanelTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
     host.show();
     host.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
-    panel.findChild<QWidget*>("cmdOnOff")->setFocus();
+    panel.control(kCommon.powerButton)->setFocus();
     panel.store().input().selectTab(0, 1);
     panel.flush();
-    EXPECT_TRUE(panel.findChild<QWidget*>("SSTab1")->hasFocus());
+    EXPECT_TRUE(panel.control(kTabs)->hasFocus());
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <QTabBar>
 
 #include "Orvo/window/drawing/fonts.h"
-#include "Orvo/window/painted/painted.h"
+#include "Orvo/window/painted/painted_kinds.h"
 #include "window_fixture.h"
 
 namespace Orvo::Window {
@@ -16,14 +16,14 @@ class CaptionsTest : public WindowTest {
 protected:
     /// What the widget leaves on a page, faint edges apart.
     [[nodiscard]] QRect inkOf(WidgetId id, const Scale& scale) const {
-        const auto painted = makePainted(store_, id);
-        painted->layOut(scale);
+        PaintedLabel painted(store_, id);
+        painted.layOut(scale);
         const QRect canvas = scale.rect(id).adjusted(-99, -99, 99, 99);
         QImage image(canvas.size(), QImage::Format_ARGB32);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.translate(-canvas.topLeft());
-        painted->paint(painter);
+        painted.paint(painter);
         painter.end();
         return boundsOf(image).translated(canvas.topLeft());
     }
@@ -52,9 +52,8 @@ TEST_F(CaptionsTest, EveryLabelKeepsToItsPlace) {
     for (const double zoom : kZooms) {
         const Scale scale(zoom);
         const int slack = scale.thickness(1);
-        for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
+        for (const WidgetId id : Layout::kAll<Layout::Kind::label>) {
             const auto& widget = Layout::describe(id);
-            if (widget.style.kind != Layout::Kind::label) continue;
             const QRect place = scale.rect(id);
             const QRect ink = inkOf(id, scale);
             EXPECT_FALSE(ink.isEmpty()) << widget.name;
@@ -83,7 +82,7 @@ TEST_F(CaptionsTest, EveryButtonHasRoomForItsCaption) {
 }
 
 TEST_F(CaptionsTest, EveryTabHasRoomForItsCaption) {
-    const auto& strip = control<QTabBar>("SSTab1");
+    const auto& strip = control<QTabBar>(kTabs);
     for (const double zoom : kZooms) {
         front_.setZoom(zoom);
         for (int tab = 0; tab < strip.count(); ++tab) {

@@ -12,8 +12,7 @@ class ControlsTest : public WindowTest {};
 TEST_F(ControlsTest, EveryControlIsWhereTheLayoutHasItAndAsTheStoreSays) {
     for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
         const auto& widget = Layout::describe(id);
-        auto* shown = front_.findChild<QWidget*>(
-            QLatin1StringView(widget.name.data(), qsizetype(widget.name.size())));
+        const auto* shown = front_.control(id);
         if (shown == nullptr) continue;
         SCOPED_TRACE(widget.name);
         EXPECT_EQ(shown->geometry(), Scale(1).rect(id));
@@ -27,39 +26,40 @@ TEST_F(ControlsTest, EveryControlIsWhereTheLayoutHasItAndAsTheStoreSays) {
 
 TEST_F(ControlsTest, AControlFollowsTheStore) {
     toTab(1);
-    store_[Widgets::OptionRef{idOf("optP2")}].setValue(true);
-    store_[Widgets::CheckRef{idOf("chkOnOff12")}].setValue(Widgets::CheckValue::checked);
-    store_[Widgets::ButtonRef{idOf("cmdGo12")}].setEnabled(false);
-    store_.show(idOf("Command1"), true);
-    store_[Widgets::ComboRef{idOf("Combo1")}].setText(u"300");
+    store_[channel(2).positive.option].setValue(true);
+    store_[pair(1).powerCheck].setValue(Widgets::CheckValue::checked);
+    store_[pair(1).startButton].setEnabled(false);
+    store_.show(kCommon.resetLogButton, true);
+    store_[kCommon.amplifierIds].setText(u"300");
     settle();
-    EXPECT_TRUE(control<QAbstractButton>("optP2").isChecked());
-    EXPECT_TRUE(control<QAbstractButton>("chkOnOff12").isChecked());
-    EXPECT_FALSE(control("cmdGo12").isEnabled());
-    EXPECT_FALSE(control("Command1").isHidden());
-    EXPECT_EQ(control<QComboBox>("Combo1").currentIndex(), -1);
+    EXPECT_TRUE(control<QAbstractButton>(channel(2).positive.option).isChecked());
+    EXPECT_TRUE(control<QAbstractButton>(pair(1).powerCheck).isChecked());
+    EXPECT_FALSE(control(pair(1).startButton).isEnabled());
+    EXPECT_FALSE(control(kCommon.resetLogButton).isHidden());
+    EXPECT_EQ(control<QComboBox>(kCommon.amplifierIds).currentIndex(), -1);
 }
 
 TEST_F(ControlsTest, WhatHoldsForAContainerHoldsForItsContents) {
     store_[Widgets::TabsRef{0}].setTabEnabled(1, false);
-    store_.show(idOf("Frame13"), false);
+    store_.show(Layout::describe(pair(2).waves[4]).container, false);
     settle();
-    EXPECT_FALSE(control("optLineIn12").isEnabled());
-    EXPECT_TRUE(control("optLineIn34").isHidden());
+    EXPECT_FALSE(control(pair(1).waves[4]).isEnabled());
+    EXPECT_TRUE(control(pair(2).waves[4]).isHidden());
 }
 
 TEST_F(ControlsTest, TheKeyboardStopsOnceInAGroupOfOptions) {
     const auto stops = [&] {
-        std::string names;
-        for (const char* name : {"optP1", "optN1", "optP2", "optN2"}) {
-            if (control(name).focusPolicy() == Qt::StrongFocus) names += name;
+        std::vector<WidgetId> options;
+        for (const auto option : {channel(1).positive.option, channel(1).negative.option,
+                                  channel(2).positive.option, channel(2).negative.option}) {
+            if (control(option).focusPolicy() == Qt::StrongFocus) options.push_back(option);
         }
-        return names;
+        return options;
     };
-    EXPECT_EQ(stops(), "optP1optN1optP2optN2") << "none is selected yet";
-    store_[Widgets::OptionRef{idOf("optN2")}].setValue(true);
+    EXPECT_EQ(stops().size(), 4U) << "none is selected yet";
+    store_[channel(2).negative.option].setValue(true);
     settle();
-    EXPECT_EQ(stops(), "optN2");
+    EXPECT_EQ(stops(), std::vector<WidgetId>{channel(2).negative.option});
 }
 
 TEST_F(ControlsTest, TheHourglassShowsAtOnce) {

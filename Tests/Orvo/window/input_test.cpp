@@ -50,8 +50,7 @@ void clickGroove(QWidget& widget) {
 
 struct InputRow {
     const char* label;
-    int tab;
-    const char* widget;
+    WidgetId widget;
     Gesture gesture;
     const char* heard;
 };
@@ -60,52 +59,54 @@ class InputTest : public WindowTest {};
 
 TEST_F(InputTest, WhatAPersonDoesReachesThePanel) {
     const InputRow rows[] = {
-        {"left click", 0, "cmdOnOff", click(Qt::LeftButton), "cmdOnOff click, cmdOnOff release"},
-        {"right click", 0, "cmdOnOff", click(Qt::RightButton), "cmdOnOff release"},
-        {"middle click", 1, "chkOnOff12", click(Qt::MiddleButton), "chkOnOff12 release"},
-        {"dragged off", 1, "chkOnOff12", pressAndReleaseBeside, "chkOnOff12 release"},
-        {"click on a check box", 1, "chkOnOff12", click(Qt::LeftButton),
+        {"left click", kCommon.powerButton, click(Qt::LeftButton),
+         "cmdOnOff click, cmdOnOff release"},
+        {"right click", kCommon.powerButton, click(Qt::RightButton), "cmdOnOff release"},
+        {"middle click", pair(1).powerCheck, click(Qt::MiddleButton), "chkOnOff12 release"},
+        {"dragged off", pair(1).powerCheck, pressAndReleaseBeside, "chkOnOff12 release"},
+        {"click on a check box", pair(1).powerCheck, click(Qt::LeftButton),
          "chkOnOff12 click, chkOnOff12 release"},
-        {"click on an option", 1, "optN1", click(Qt::LeftButton), "optN1 click, optN1 release"},
-        {"space", 0, "cmdOnOff", key(Qt::Key_Space), "cmdOnOff key32, cmdOnOff click"},
-        {"enter", 0, "cmdOnOff", key(Qt::Key_Return), "cmdOnOff key13, cmdOnOff click"},
-        {"space on a check box", 1, "chkOnOff12", key(Qt::Key_Space),
+        {"click on an option", channel(1).negative.option, click(Qt::LeftButton),
+         "optN1 click, optN1 release"},
+        {"space", kCommon.powerButton, key(Qt::Key_Space), "cmdOnOff key32, cmdOnOff click"},
+        {"enter", kCommon.powerButton, key(Qt::Key_Return), "cmdOnOff key13, cmdOnOff click"},
+        {"space on a check box", pair(1).powerCheck, key(Qt::Key_Space),
          "chkOnOff12 key32, chkOnOff12 click"},
-        {"enter on a check box", 1, "chkOnOff12", key(Qt::Key_Return), ""},
-        {"arrow to the next option", 1, "optN1", key(Qt::Key_Down), "optP2 click"},
-        {"arrow round the end", 1, "optN2", key(Qt::Key_Down), "optP1 click"},
-        {"arrow back", 1, "optN2", key(Qt::Key_Up), "optP2 click"},
-        {"shortcut", 0, "List1", key(Qt::Key_P, Qt::AltModifier), "cmdOnOff click"},
-        {"shortcut of the tab in front", 2, "cmdGo34", key(Qt::Key_S, Qt::AltModifier),
+        {"enter on a check box", pair(1).powerCheck, key(Qt::Key_Return), ""},
+        {"arrow to the next option", channel(1).negative.option, key(Qt::Key_Down), "optP2 click"},
+        {"arrow round the end", channel(2).negative.option, key(Qt::Key_Down), "optP1 click"},
+        {"arrow back", channel(2).negative.option, key(Qt::Key_Up), "optP2 click"},
+        {"shortcut", kCommon.log, key(Qt::Key_P, Qt::AltModifier), "cmdOnOff click"},
+        {"shortcut of the tab in front", pair(2).startButton, key(Qt::Key_S, Qt::AltModifier),
          "cmdGo34 click"},
-        {"Ctrl+R in the log", 0, "List1", key(Qt::Key_R, Qt::ControlModifier), "List1 key18"},
-        {"arrow in the log", 0, "List1", key(Qt::Key_Down), ""},
-        {"key in a disabled combo", 0, "Combo1", key(Qt::Key_5), ""},
-        {"slider dragged", 1, "ZelvinSlider1", dragUp,
+        {"Ctrl+R in the log", kCommon.log, key(Qt::Key_R, Qt::ControlModifier), "List1 key18"},
+        {"arrow in the log", kCommon.log, key(Qt::Key_Down), ""},
+        {"key in a disabled combo", kCommon.amplifierIds, key(Qt::Key_5), ""},
+        {"slider dragged", channel(1).volumeSlider, dragUp,
          "ZelvinSlider1 change, ZelvinSlider1 release"},
-        {"click on the groove", 1, "ZelvinSlider1", clickGroove,
+        {"click on the groove", channel(1).volumeSlider, clickGroove,
          "ZelvinSlider1 change, ZelvinSlider1 release"},
-        {"down on a slider", 1, "ZelvinSlider1", key(Qt::Key_Down), "ZelvinSlider1 change"},
-        {"up at the loudest", 1, "ZelvinSlider1", key(Qt::Key_Up), ""},
-        {"wheel without the focus", 1, "ZelvinSlider3", wheel(false), ""},
-        {"wheel with the focus", 1, "ZelvinSlider3", wheel(true), "ZelvinSlider3 change"},
-        {"wheel over the tabs", 0, "SSTab1", wheel(true), ""},
+        {"down on a slider", channel(1).volumeSlider, key(Qt::Key_Down), "ZelvinSlider1 change"},
+        {"up at the loudest", channel(1).volumeSlider, key(Qt::Key_Up), ""},
+        {"wheel without the focus", pair(1).testSlider, wheel(false), ""},
+        {"wheel with the focus", pair(1).testSlider, wheel(true), "ZelvinSlider3 change"},
+        {"wheel over the tabs", kTabs, wheel(true), ""},
     };
     for (const InputRow& row : rows) {
         SCOPED_TRACE(row.label);
-        toTab(row.tab);
-        store_[Widgets::SliderRef{idOf("ZelvinSlider1")}].setPosition(0);
+        toTab(row.widget == kTabs ? 0 : pageOf(row.widget));
+        store_[channel(1).volumeSlider].setPosition(0);
         settle();
         panel_.heard.clear();
         row.gesture(control(row.widget));
         EXPECT_EQ(panel_.heard, row.heard);
-        control("SSTab1").setFocus();
+        control(kTabs).setFocus();
     }
 }
 
 TEST_F(InputTest, TheLogGetsItsKeyBeforeAShortcutOfTheHostDoes) {
     QShortcut refresh(QKeySequence("Ctrl+R"), &front_);
-    QWidget& log = control("List1");
+    QWidget& log = control(kCommon.log);
     log.setFocus();
     QTest::keyClick(&log, Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(panel_.heard, "List1 key18");
@@ -113,7 +114,7 @@ TEST_F(InputTest, TheLogGetsItsKeyBeforeAShortcutOfTheHostDoes) {
 
 TEST_F(InputTest, ACheckBoxFlipsOncePerClick) {
     toTab(1);
-    auto& power = control<QAbstractButton>("chkOnOff12");
+    auto& power = control<QAbstractButton>(pair(1).powerCheck);
     QTest::mouseClick(&power, Qt::LeftButton);
     settle();
     EXPECT_TRUE(power.isChecked());
@@ -127,9 +128,9 @@ TEST_F(InputTest, ACheckBoxFlipsOncePerClick) {
 
 TEST_F(InputTest, ASliderIsHeldWhileItsButtonIsDown) {
     toTab(1);
-    QWidget& slider = control("ZelvinSlider1");
+    QWidget& slider = control(channel(1).volumeSlider);
     const auto isHeld = [&] {
-        return store_.get<Runtime::StoredSlider>(idOf("ZelvinSlider1")).state().isHeld;
+        return store_.get<Runtime::StoredSlider>(channel(1).volumeSlider).state().isHeld;
     };
     QTest::mousePress(&slider, Qt::LeftButton);
     EXPECT_TRUE(isHeld());
@@ -143,23 +144,23 @@ TEST_F(InputTest, ASliderIsHeldWhileItsButtonIsDown) {
 TEST_F(InputTest, UpIsMoreOnEverySlider) {
     toTab(1);
     struct {
-        const char* name;
+        Widgets::SliderRef slider;
         Integer before, after;
-    } rows[] = {{"ZelvinSlider1", 15, 14}, {"ZelvinSlider3", 15, 16}};
+    } rows[] = {{channel(1).volumeSlider, 15, 14}, {pair(1).testSlider, 15, 16}};
     for (const auto& row : rows) {
-        auto& slider = store_[Widgets::SliderRef{idOf(row.name)}];
+        auto& slider = store_[row.slider];
         slider.setPosition(row.before);
-        key(Qt::Key_Up)(control(row.name));
-        EXPECT_EQ(slider.position(), row.after) << row.name;
+        key(Qt::Key_Up)(control(row.slider));
+        EXPECT_EQ(slider.position(), row.after) << Layout::describe(row.slider).name;
     }
 }
 
 TEST_F(InputTest, AComboTakesWhatTheStoreTakes) {
-    auto& combo = store_[Widgets::ComboRef{idOf("Combo1")}];
+    auto& combo = store_[kCommon.amplifierIds];
     for (const char16_t* item : {u"1", u"2", u"12"}) combo.addItem(item);
     combo.setEnabled(true);
     settle();
-    auto& box = control<QComboBox>("Combo1");
+    auto& box = control<QComboBox>(kCommon.amplifierIds);
     key(Qt::Key_2)(box);
     EXPECT_EQ(combo.text(), u"12");
     key(Qt::Key_Backspace)(box);
@@ -177,13 +178,13 @@ TEST_F(InputTest, AComboTakesWhatTheStoreTakes) {
 }
 
 TEST_F(InputTest, TabsFollowMouseKeysAndTheStoresWord) {
-    auto& tabs = control<QTabBar>("SSTab1");
+    auto& tabs = control<QTabBar>(kTabs);
     QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
     settle();
-    EXPECT_TRUE(control("cmdGo12").isVisible());
+    EXPECT_TRUE(control(pair(1).startButton).isVisible());
     key(Qt::Key_Right)(tabs);
     settle();
-    EXPECT_TRUE(control("cmdGo34").isVisible());
+    EXPECT_TRUE(control(pair(2).startButton).isVisible());
     store_[Widgets::TabsRef{0}].setTabEnabled(2, false);
     settle();
     EXPECT_EQ(tabs.currentIndex(), 1);

@@ -44,18 +44,18 @@ protected:
 };
 
 TEST_F(PaintingTest, OnlyWhatChangedIsPainted) {
-    const QRegion lamp = paintedBy(
-        [&] { store_[Widgets::ShapeRef{idOf("Shape6")}].setFillStyle(Widgets::FillStyle::solid); });
-    const QRect place = Scale(1).rect(idOf("Shape6"));
+    const QRegion lamp =
+        paintedBy([&] { store_[pair(1).clockLamp].setFillStyle(Widgets::FillStyle::solid); });
+    const QRect place = Scale(1).rect(pair(1).clockLamp);
     EXPECT_TRUE(lamp.boundingRect().contains(place));
     EXPECT_TRUE(place.adjusted(-8, -8, 8, 8).contains(lamp.boundingRect())) << "the glow, no more";
 }
 
 TEST_F(PaintingTest, WhatIsUnchangedOrBehindAnotherTabIsNotPainted) {
     const auto nothing = paintedBy([&] {
-        store_[Widgets::DigitRef{idOf("LED9")}].setDigit(8);
-        store_[Widgets::ShapeRef{idOf("Shape6")}].setFillStyle(Widgets::FillStyle::transparent);
-        store_[Widgets::LabelRef{idOf("lblConnected12")}].setCaption(u"Connected");
+        store_[channel(3).volume.places[0]].setDigit(8);
+        store_[pair(1).clockLamp].setFillStyle(Widgets::FillStyle::transparent);
+        store_[pair(1).linkText].setCaption(u"Connected");
     });
     EXPECT_TRUE(nothing.isEmpty());
 }
@@ -63,29 +63,29 @@ TEST_F(PaintingTest, WhatIsUnchangedOrBehindAnotherTabIsNotPainted) {
 TEST_F(PaintingTest, ManyWritesArePaintedOnce) {
     PaintWatch watch(front_);
     for (int i = 0; i < 10'000; ++i) {
-        store_[Widgets::DigitRef{idOf("LED1")}].setDigit(Integer(i % 10));
-        store_[Widgets::SliderRef{idOf("ZelvinSlider1")}].setPosition(Integer(i % 30));
+        store_[pair(1).positivePower.places[0]].setDigit(Integer(i % 10));
+        store_[channel(1).volumeSlider].setPosition(Integer(i % 30));
     }
     QTest::qWait(60);
     EXPECT_EQ(watch.events, 2) << "the page and the slider";
 }
 
 TEST_F(PaintingTest, TextThatRanOverItsPlaceIsWipedAway) {
-    auto& result = store_[Widgets::LabelRef{idOf("lblConnected12")}];
+    auto& result = store_[pair(1).linkText];
     result.setCaption(u"Disconnected, and for long");
     settle();
     const QRect wide = paintedBy([&] { result.setCaption(u"x"); }).boundingRect();
-    EXPECT_GT(wide.width(), 2 * Scale(1).rect(idOf("lblConnected12")).width());
+    EXPECT_GT(wide.width(), 2 * Scale(1).rect(pair(1).linkText).width());
 }
 
 TEST_F(PaintingTest, AScopeShowsWhatIsDrawnInItsOwnUnits) {
-    auto& surface = store_[Widgets::PictureRef{idOf("Picture1")}];
+    auto& surface = store_[channel(1).scope];
     for (const double zoom : {1.0, 2.0}) {
         front_.setZoom(zoom);
         surface.clear();
         surface.line({0, 50}, {195, 50}, rgb(0, 255, 0));
         settle();
-        const QImage image = control("Picture1").grab().toImage();
+        const QImage image = control(channel(1).scope).grab().toImage();
         const auto pixel = [&](double x, double y) {
             return image.pixelColor(int((2 + x + 0.5) * zoom), int((2 + y + 0.5) * zoom));
         };
@@ -93,6 +93,19 @@ TEST_F(PaintingTest, AScopeShowsWhatIsDrawnInItsOwnUnits) {
         EXPECT_EQ(pixel(194, 50), QColor(0, 255, 0));
         EXPECT_EQ(pixel(100, 48), QColor(0, 0, 0));
     }
+}
+
+TEST_F(PaintingTest, ATraceColoursItsOwnPixelsAlone) {
+    auto& surface = store_[channel(1).scope];
+    surface.clear();
+    settle();
+    QImage expected = control(channel(1).scope).grab().toImage();
+    for (int x = 30; x < 195; ++x) expected.setPixelColor(2 + x, 2 + 50, QColor(0, 255, 0));
+    std::vector<Widgets::Point> points;
+    for (int i = 0; i < 1000; ++i) points.push_back({30 + 165 * float(i) / 1000, 50});
+    surface.polyline(points, rgb(0, 255, 0));
+    settle();
+    EXPECT_EQ(control(channel(1).scope).grab().toImage(), expected);
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/store/store.h"
 #include "Orvo/window/drawing/scale.h"
+#include "Support/roles.h"
 
 namespace Orvo::Window {
 namespace {
@@ -38,12 +39,12 @@ protected:
     }
     void TearDown() override { delete widget_; }
 
-    QWidget& control(const char* name) { return *widget_->findChild<QWidget*>(name); }
+    QWidget& control(WidgetId id) { return *widget_->control(id); }
     /// As the window system tells it, from where Qt goes on after a handler.
-    void press(const char* name) { tell(name, QTest::mousePress); }
-    void click(const char* name) {
-        press(name);
-        tell(name, QTest::mouseRelease);
+    void press(WidgetId id) { tell(id, QTest::mousePress); }
+    void click(WidgetId id) {
+        press(id);
+        tell(id, QTest::mouseRelease);
     }
     void toTab(int tab) {
         widget_->store().input().selectTab(0, tab);
@@ -57,25 +58,25 @@ protected:
 private:
     using Action = void (*)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int);
 
-    void tell(const char* name, Action action) {
-        const int tab = pageOf(Layout::findWidget(name).value());
+    void tell(WidgetId id, Action action) {
+        const int tab = pageOf(id);
         if (widget_->store().get<Runtime::StoredTabs>(0).state().current != tab) toTab(tab);
-        const QPoint place = control(name).mapTo(widget_, control(name).rect().center());
+        const QPoint place = control(id).mapTo(widget_, control(id).rect().center());
         action(widget_->windowHandle(), Qt::LeftButton, {}, place, -1);
     }
 };
 
 TEST_F(PanelWidgetTest, TheRoundTripIsOnTheScreenAFrameLater) {
     host_.act = [&] { widget_->panel().PowerOn(true); };
-    QTest::mouseClick(&control("cmdOnOff"), Qt::LeftButton);
-    auto& power = dynamic_cast<QAbstractButton&>(control("chkOnOff12"));
+    QTest::mouseClick(&control(kCommon.powerButton), Qt::LeftButton);
+    auto& power = dynamic_cast<QAbstractButton&>(control(pair(1).powerCheck));
     EXPECT_TRUE(QTest::qWaitFor([&] { return power.isChecked(); }));
 }
 
 TEST_F(PanelWidgetTest, TimersRunByTheRealClock) {
     int ticks = 0;
     widget_->panel().TimerVirtualTemp34(false);
-    widget_->store().input().slide(Layout::sliderRef("ZelvinSlider3").id, 50);
+    widget_->store().input().slide(pair(1).testSlider, 50);
     host_.act = [&] { ++ticks; };
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }, 10'000));
 }
@@ -103,24 +104,25 @@ TEST_F(PanelWidgetTest, AHandlerMayDeleteIt) {
         const char* label;
         std::function<void()> gesture;
     } rows[] = {
-        {"click", [&] { click("cmdOnOff"); }},
-        {"screen reader", [&] { dynamic_cast<QAbstractButton&>(control("cmdOnOff")).click(); }},
-        {"release", [&] { click("chkOnOff12"); }},
-        {"key", [&] { QTest::keyClick(&control("cmdOnOff"), Qt::Key_Return); }},
+        {"click", [&] { click(kCommon.powerButton); }},
+        {"screen reader",
+         [&] { dynamic_cast<QAbstractButton&>(control(kCommon.powerButton)).click(); }},
+        {"release", [&] { click(pair(1).powerCheck); }},
+        {"key", [&] { QTest::keyClick(&control(kCommon.powerButton), Qt::Key_Return); }},
         {"shortcut", [&] { QTest::keyClick(widget_, Qt::Key_P, Qt::AltModifier); }},
-        {"slider key", [&] { QTest::keyClick(&control("ZelvinSlider1"), Qt::Key_Down); }},
-        {"slider", [&] { press("ZelvinSlider1"); }},
+        {"slider key", [&] { QTest::keyClick(&control(channel(1).volumeSlider), Qt::Key_Down); }},
+        {"slider", [&] { press(channel(1).volumeSlider); }},
         {"tick",
          [&] {
-             widget_->store().input().slide(Layout::sliderRef("ZelvinSlider3").id, 50);
+             widget_->store().input().slide(pair(1).testSlider, 50);
              host_.act = [&] { delete widget_; };
              QTest::qWait(1700);
          }},
         {"pick",
          [&] {
-             widget_->store().enable(Layout::find<Layout::Kind::combo>("Combo1").id, true);
+             widget_->store().enable(kCommon.amplifierIds, true);
              widget_->flush();
-             QTest::keyClick(&control("Combo1"), Qt::Key_Down);
+             QTest::keyClick(&control(kCommon.amplifierIds), Qt::Key_Down);
              QApplication::processEvents();
          }},
     };
@@ -194,10 +196,10 @@ TEST_F(PromptTest, ClosingTheWindowEndsTheEntryAtWhicheverPrompt) {
         });
         answering.start(1);
         widget_->show();
-        store_->input().type(Layout::listRef("List1").id, 18);
+        store_->input().type(kCommon.log, 18);
         EXPECT_EQ(asked, closedAt);
         EXPECT_EQ(raised, 0);
-        EXPECT_TRUE(store_->widget(Layout::buttonRef("Command1").id).isEnabled());
+        EXPECT_TRUE(store_->widget(kCommon.resetLogButton).isEnabled());
         EXPECT_EQ(store_->pointer(), Widgets::Pointer::standard);
     }
 }

@@ -26,7 +26,7 @@ IntegerArray trace(int periods) {
 
 void expectAsKept(const char* name, const QImage& actual, const std::vector<QRect>& texts) {
     const QString kept = QString(ORVO_PICTURES "/%1.png").arg(name);
-    if (std::getenv("ORVO_UPDATE") != nullptr) actual.save(kept);
+    if (std::getenv("ORVO_ACCEPT") != nullptr) actual.save(kept);
     const QImage reference = QImage(kept).convertToFormat(QImage::Format_RGB32);
     const QString left = QString(ORVO_OUTPUT "/%1-").arg(name);
     QDir().mkpath(ORVO_OUTPUT);

@@ -15,7 +15,7 @@ namespace Orvo::Window {
 
 /// Compares with the reference picture of this name, and leaves the picture and the difference.
 ///
-/// ORVO_UPDATE=1 ./test -R Pictures paints the reference pictures anew; a review then looks at
+/// ORVO_ACCEPT=1 ./test -R Pictures paints the reference pictures anew; a review then looks at
 /// them.
 void expectAsKept(const char* name, const QImage& actual, const std::vector<QRect>& texts);
 

@@ -12,7 +12,7 @@
 namespace Orvo::Window {
 namespace {
 
-TEST(SliderTrackTest, PositionsAndPlacesBelongTogether) {
+TEST(SliderTrack, PositionsAndPlacesBelongTogether) {
     for (const ZeroAt zero : {ZeroAt::top, ZeroAt::bottom}) {
         for (const int maximum : {30, 100}) {
             const SliderTrack track{8, 48, maximum, zero};
@@ -23,7 +23,7 @@ TEST(SliderTrackTest, PositionsAndPlacesBelongTogether) {
     }
 }
 
-TEST(SliderTrackTest, BeyondTheTrackIsItsEnd) {
+TEST(SliderTrack, BeyondTheTrackIsItsEnd) {
     const SliderTrack track{8, 48, 30, ZeroAt::bottom};
     EXPECT_EQ(track.positionAt(-100), 30);
     EXPECT_EQ(track.positionAt(1000), 0);
@@ -47,7 +47,7 @@ std::vector<Widgets::Point> trace(std::size_t samples, float (*valueAt)(std::siz
     return points;
 }
 
-TEST(TraceTest, IsThePictureOfItsSegmentsPixelForPixel) {
+TEST(TraceLines, IsThePictureOfItsSegmentsPixelForPixel) {
     const auto sine = [](std::size_t i) { return 47 + 40 * std::sin(float(i) * 0.07F); };
     const auto square = [](std::size_t i) { return i / 50 % 2 == 0 ? 8.5F : 90.25F; };
     const auto noise = [](std::size_t i) { return float(i * 7919 % 131) - 15; };
@@ -71,25 +71,7 @@ TEST(TraceTest, IsThePictureOfItsSegmentsPixelForPixel) {
     EXPECT_TRUE(traceLines({}, 1, 1).isEmpty());
 }
 
-TEST(TraceTest, TheHaloLeavesNoGap) {
-    const auto points =
-        trace(500, [](std::size_t i) { return 47 + 40 * std::sin(float(i) * 0.7F); });
-    for (const int thickness : {1, 2, 4}) {
-        for (const int reach : {1, 3}) {
-            QList<QLine> lines = traceLines(points, 1, 1);
-            const QImage broad = picture(lines, thickness + 2 * reach);
-            for (QLine& line : lines) line.translate(reach, reach);
-            QImage both = picture(lines, thickness);
-            QPainter painter(&both);
-            painter.setPen(Qt::green);
-            drawHalo(painter, lines, thickness, reach);
-            painter.end();
-            EXPECT_EQ(both, broad) << thickness << " and " << reach;
-        }
-    }
-}
-
-TEST(TraceTest, DrawsASegmentAsALineBetweenItsPixels) {
+TEST(TraceLines, DrawsASegmentAsALineBetweenItsPixels) {
     const Widgets::Point points[] = {{10, 90.5F}, {14.75F, 3}, {14.9F, 20}};
     QImage expected(390, 190, QImage::Format_RGB32);
     expected.fill(Qt::black);

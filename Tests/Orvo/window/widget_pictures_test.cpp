@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <functional>
-#include <string_view>
 
 #include <QAbstractButton>
 #include <QPainter>
 
+#include "Support/roles.h"
 #include "pictures_fixture.h"
 
 namespace Orvo::Window {
@@ -13,37 +13,33 @@ namespace {
 constexpr int kZoom = 2;
 constexpr int kMargin = 8;  // pixels
 
-WidgetId idOf(std::string_view name) { return Layout::findWidget(name).value(); }
-
 /// One picture for each kind of widget: the states that it can be in, side by side.
 class WidgetPicturesTest : public PicturesTest {
 protected:
     WidgetPicturesTest() { widget_.setZoom(kZoom); }
 
-    void add(std::string_view name) {
-        const WidgetId id = idOf(name);
+    void add(WidgetId id) {
         const QRect place = Scale(kZoom).rect(id);
         tiles_.push_back(
             picture(pageOf(id)).copy(place.adjusted(-kMargin, -kMargin, kMargin, kMargin)));
     }
 
     /// As it is, without the focus and with it, and disabled.
-    void addStates(std::string_view name) {
-        store_.enable(idOf(name), true);
-        add(name);
-        control(name).setFocus(Qt::TabFocusReason);
-        add(name);
-        control(name).clearFocus();
-        store_.enable(idOf(name), false);
-        add(name);
-        store_.enable(idOf(name), true);
+    void addStates(WidgetId id) {
+        store_.enable(id, true);
+        add(id);
+        control(id).setFocus(Qt::TabFocusReason);
+        add(id);
+        control(id).clearFocus();
+        store_.enable(id, false);
+        add(id);
+        store_.enable(id, true);
         widget_.flush();
     }
 
-    QWidget& control(std::string_view name) {
-        picture(pageOf(idOf(name)));
-        return *widget_.findChild<QWidget*>(
-            QString::fromLatin1(name.data(), qsizetype(name.size())));
+    QWidget& control(WidgetId id) {
+        picture(pageOf(id));
+        return *widget_.control(id);
     }
 
     void expectTilesAsKept(const char* name, bool isText) const {
@@ -70,18 +66,19 @@ private:
 };
 
 TEST_F(WidgetPicturesTest, Digits) {
-    add("ledTemp12(0)");
+    add(pair(1).temperature.places[0]);
     for (Integer digit = 0; digit <= 9; ++digit) {
-        store_[Widgets::DigitRef{idOf("LED3")}].setDigit(digit);
-        add("LED3");
+        store_[pair(1).negativePower.places[0]].setDigit(digit);
+        add(pair(1).negativePower.places[0]);
     }
     expectTilesAsKept("digits", false);
 }
 
 TEST_F(WidgetPicturesTest, Lamps) {
-    for (const char* lamp : {"Shape17", "Shape18", "Shape28", "shpOnOff"}) {
+    for (const auto lamp : {pair(1).readyLamp, channel(1).protectionLamp, kCommon.protectionLamp,
+                            kCommon.powerLamp}) {
         for (const auto fill : {Widgets::FillStyle::transparent, Widgets::FillStyle::solid}) {
-            store_[Widgets::ShapeRef{idOf(lamp)}].setFillStyle(fill);
+            store_[lamp].setFillStyle(fill);
             add(lamp);
         }
     }
@@ -89,23 +86,25 @@ TEST_F(WidgetPicturesTest, Lamps) {
 }
 
 TEST_F(WidgetPicturesTest, Lines) {
-    add("Frame11");
-    for (const char* option : {"optN1", "optP2", "optN2"}) {
-        store_.input().click(idOf(option));
-        add("Frame11");
+    add(Layout::describe(channel(1).positive.option).container);
+    for (const auto option :
+         {channel(1).negative.option, channel(2).positive.option, channel(2).negative.option}) {
+        store_.input().click(option);
+        add(Layout::describe(channel(1).positive.option).container);
     }
     expectTilesAsKept("route", false);
 }
 
 TEST_F(WidgetPicturesTest, OptionsAndChecks) {
-    for (const char* button : {"opt100hz_ch12", "opt1000hz_ch12", "chkOnOff12"}) addStates(button);
-    store_.input().click(idOf("chkOnOff12"));
-    addStates("chkOnOff12");
+    for (const auto button : {pair(1).waves[0].id, pair(1).waves[1].id, pair(1).powerCheck.id})
+        addStates(button);
+    store_.input().click(pair(1).powerCheck);
+    addStates(pair(1).powerCheck);
     expectTilesAsKept("options", false);
 }
 
 TEST_F(WidgetPicturesTest, Buttons) {
-    for (const char* button : {"Command12", "cmdGo12", "cmdOnOff"}) {
+    for (const auto button : {channel(1).muteButton, pair(1).startButton, kCommon.powerButton}) {
         addStates(button);
         dynamic_cast<QAbstractButton&>(control(button)).setDown(true);
         add(button);
@@ -114,42 +113,41 @@ TEST_F(WidgetPicturesTest, Buttons) {
 }
 
 TEST_F(WidgetPicturesTest, Sliders) {
-    for (const char* slider : {"ZelvinSlider1", "ZelvinSlider3"}) {
+    for (const auto slider : {channel(1).volumeSlider, pair(1).testSlider}) {
         addStates(slider);
-        store_.input().hold(idOf(slider));
+        store_.input().hold(slider);
         for (const int position : {0, 13, 100}) {
-            store_.input().move(idOf(slider), position);
+            store_.input().move(slider, position);
             add(slider);
         }
-        store_.input().drop(idOf(slider));
+        store_.input().drop(slider);
     }
     expectTilesAsKept("sliders", false);
 }
 
 TEST_F(WidgetPicturesTest, ListsAndScopes) {
-    addStates("List1");
+    addStates(kCommon.log);
     panel_.CancellaTesto();
-    add("List1");
-    addStates("Combo1");
-    add("Picture1");
+    add(kCommon.log);
+    addStates(kCommon.amplifierIds);
+    add(channel(1).scope);
     panel_.DisegnaAssi(1);
-    add("Picture1");
-    add("SSTScope1");
+    add(channel(1).scope);
+    add(Layout::describe(channel(1).scope).container);
     expectTilesAsKept("lists", true);
 }
 
 TEST_F(WidgetPicturesTest, Captions) {
     for (const bool isConnected : {true, false}) {
         panel_.Connected(isConnected);
-        add("lblConnected12");
+        add(pair(1).linkText);
     }
-    add("lblTestResult(0)");
+    add(kCommon.testResults.at(0));
     panel_.ClearTest();
     panel_.chkTest(1, true);
     panel_.chkTest(2, false);
-    for (const char* label :
-         {"lblTestResult(0)", "lblTestResult(1)", "lblTestResult(2)", "Label59"})
-        add(label);
+    for (Integer row = 0; row < 3; ++row) add(kCommon.testResults.at(row));
+    add(kCommon.title);
     expectTilesAsKept("captions", true);
 }
 

@@ -8,14 +8,15 @@
 #include <QTest>
 
 #include "Orvo/window/panel_screen.h"
+#include "Support/roles.h"
 
 namespace Orvo::Window {
 
 /// Writes down what a panel would be told.
-class OperationLog final : public Widgets::NotificationSink {
+class NotificationLog final : public Widgets::NotificationSink {
 public:
     void notify(Widgets::Notification& notification) override {
-        constexpr const char* kNames[] = {"creation", "click", "release", "key", "tick", "change"};
+        constexpr const char* kNames[] = {"click", "release", "key", "tick", "change"};
         if (!heard.empty()) heard += ", ";
         heard += std::string(Layout::describe(notification.widget).name) + " " +
                  kNames[static_cast<int>(notification.kind)];
@@ -38,11 +39,9 @@ protected:
         settle();
     }
 
-    static WidgetId idOf(std::string_view name) { return Layout::findWidget(name).value(); }
-
     template <class Widget = QWidget>
-    Widget& control(const char* name) {
-        return dynamic_cast<Widget&>(*front_.findChild<QWidget*>(name));
+    Widget& control(WidgetId widget) {
+        return dynamic_cast<Widget&>(*front_.control(widget));
     }
 
     void toTab(int tab) {
@@ -58,7 +57,7 @@ protected:
 
     std::shared_ptr<Runtime::Store> owner_ = Runtime::Store::create();
     Runtime::Store& store_ = *owner_;
-    OperationLog panel_;
+    NotificationLog panel_;
     PanelScreen front_{owner_};
 };
 

@@ -62,8 +62,7 @@ QVariant PaintedAccessible::currentValue() const {
 
 QVariant PaintedAccessible::maximumValue() const {
     if (kind() == Kind::shape) return 1;
-    const auto digits = readoutOf(id_).size();
-    return int(std::pow(10, digits)) - 1;
+    return int(std::pow(10, readoutWith(id_)->width)) - 1;
 }
 
 QVariant PaintedAccessible::minimumValue() const {

@@ -1,10 +1,13 @@
 #include "Orvo/window/controls/buttons.h"
 
+#include <algorithm>
+
 #include <QKeyEvent>
 #include <QPainter>
 
 #include "Artwork/Drawings/drawings.h"
 #include "Orvo/window/drawing/chrome.h"
+#include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
 
@@ -21,7 +24,7 @@ void CommandButton::paintEvent(QPaintEvent*) {
     drawFace(painter, rect(), back, isDown() ? Face::sunken : Face::raised, zoom());
 
     const int sunk = isDown() ? qRound(zoom()) : 0;
-    painter.setPen(isEnabled() ? toQt(looks().text) : QColor(84, 84, 84));
+    painter.setPen(isEnabled() ? toQt(looks().text) : Palette::kDisabledCaption);
     painter.drawText(rect().translated(sunk, sunk), Qt::AlignCenter | Qt::TextWordWrap,
                      toQt(description().caption));
     drawFocus(painter, *this, zoom());
@@ -39,14 +42,11 @@ void OptionButton::refresh() {
 }
 
 bool OptionButton::isTabStop() const {
-    if (stored<Runtime::StoredOption>().value) return true;
-    for (WidgetId other = 0; other < Layout::kWidgetCount; ++other) {
-        const auto& widget = Layout::describe(other);
-        if (widget.container != description().container || widget.style.kind != looks().kind)
-            continue;
-        if (store().get<Runtime::StoredOption>(other).state().value) return false;
-    }
-    return true;
+    const auto& options = Layout::kAll<Layout::Kind::option>;
+    return isChecked() || std::none_of(options.begin(), options.end(), [this](WidgetId other) {
+               return Layout::areFellows(other, id()) &&
+                      store().get<Runtime::StoredOption>(other).state().value;
+           });
 }
 
 void OptionButton::paintEvent(QPaintEvent*) {
@@ -54,10 +54,10 @@ void OptionButton::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QPointF centre = QRectF(rect()).center();
     const double radius = 5.2 * zoom();
-    const QColor ring = isEnabled() ? QColor(225, 230, 238) : QColor(125, 130, 138);
+    const QColor ring = isEnabled() ? Palette::kOptionRing : Palette::kDisabledOptionRing;
     painter.setPen(QPen(ring, 1.2 * zoom()));
-    painter.setBrush(isDown() || (isEnabled() && underMouse()) ? QColor(52, 60, 76)
-                                                               : QColor(20, 24, 32));
+    painter.setBrush(isDown() || (isEnabled() && underMouse()) ? Palette::kPointedOption
+                                                               : Palette::kOption);
     painter.drawEllipse(centre, radius, radius);
     if (isChecked()) {
         painter.setPen(Qt::NoPen);
@@ -85,12 +85,10 @@ void OptionButton::selectNext(int step) {
     constexpr int kCount = int(Layout::kWidgetCount);
     for (int i = 1; i < kCount; ++i) {
         const auto next = WidgetId((id() + kCount + step * i) % kCount);
-        const auto& widget = Layout::describe(next);
-        if (widget.container != description().container || widget.style.kind != looks().kind)
-            continue;
-        if (!store().acceptsInput(next)) continue;
-        const auto name = QLatin1StringView(widget.name.data(), qsizetype(widget.name.size()));
-        if (auto* button = parentWidget()->findChild<QWidget*>(name))
+        if (!Layout::areFellows(next, id()) || !store().acceptsInput(next)) continue;
+        const std::string_view name = Layout::describe(next).name;
+        if (auto* button = parentWidget()->findChild<QWidget*>(
+                QLatin1StringView(name.data(), qsizetype(name.size()))))
             button->setFocus(Qt::TabFocusReason);
         return input().activate(next);
     }
@@ -119,8 +117,8 @@ void PowerButton::paintEvent(QPaintEvent*) {
     const bool isSunken = isChecked() != isDown();
     QPainter painter(this);
     Artwork::paint(painter, isSunken ? Artwork::kPowerDown : Artwork::kPowerUp, rect());
-    if (!isEnabled()) drawVeil(painter, QColor(40, 46, 58, 170));
-    if (isEnabled() && underMouse()) drawVeil(painter, QColor(255, 255, 255, 20));
+    if (!isEnabled()) drawVeil(painter, Palette::kDisabledVeil);
+    if (isEnabled() && underMouse()) drawVeil(painter, Palette::kPointedVeil);
     drawFocus(painter, *this, zoom());
 }
 

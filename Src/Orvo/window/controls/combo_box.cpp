@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 
 #include "Orvo/window/drawing/chrome.h"
+#include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
 
@@ -37,8 +38,8 @@ void ComboBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF body = QRectF(rect()).adjusted(zoom() / 2, zoom() / 2, -zoom() / 2, -zoom() / 2);
-    const QColor ink = isEnabled() ? toQt(looks().text) : QColor(105, 105, 110);
-    painter.setPen(QPen(QColor(130, 134, 144), zoom()));
+    const QColor ink = isEnabled() ? toQt(looks().text) : Palette::kDisabledComboInk;
+    painter.setPen(QPen(Palette::kComboEdge, zoom()));
     painter.setBrush(toQt(looks().back));
     painter.drawRoundedRect(body, 2 * zoom(), 2 * zoom());
 

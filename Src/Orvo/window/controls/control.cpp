@@ -1,5 +1,8 @@
 #include "Orvo/window/controls/control.h"
 
+#include <type_traits>
+
+#include "Orvo/widgets/kind_table.h"
 #include "Orvo/window/controls/buttons.h"
 #include "Orvo/window/controls/combo_box.h"
 #include "Orvo/window/controls/log_view.h"
@@ -29,33 +32,29 @@ void Control::refresh() {
 
 namespace {
 
-Control* construct(Runtime::Store& store, WidgetId id, QWidget* parent) {
-    switch (Layout::describe(id).style.kind) {
-        case Layout::Kind::button:
-            return new CommandButton(store, id, parent);
-        case Layout::Kind::option:
-            return new OptionButton(store, id, parent);
-        case Layout::Kind::check:
-            return new PowerButton(store, id, parent);
-        case Layout::Kind::combo:
-            return new ComboBox(store, id, parent);
-        case Layout::Kind::list:
-            return new LogView(store, id, parent);
-        case Layout::Kind::slider:
-            return new Slider(store, id, parent);
-        case Layout::Kind::picture:
-            return new Scope(store, id, parent);
-        default:
-            return nullptr;
-    }
-}
+using Layout::Kind;
+using Widgets::For;
+
+// clang-format off
+using Controls = Widgets::KindTable<
+    For<Kind::button, CommandButton>,
+    For<Kind::option, OptionButton>,
+    For<Kind::check, PowerButton>,
+    For<Kind::combo, ComboBox>,
+    For<Kind::list, LogView>,
+    For<Kind::slider, Slider>,
+    For<Kind::picture, Scope>>;
+// clang-format on
 
 }  // namespace
 
 // A screen reader that is told of a name asks whose it is, and keeps what it learns: not while the
 // control is still being constructed.
 Control* makeControl(Runtime::Store& store, WidgetId id, QWidget* parent) {
-    Control* made = construct(store, id, parent);
+    Control* made = Controls::visit(
+        Layout::kindOf(id), [&]<class Shown>(std::type_identity<Shown> /*kind*/) -> Control* {
+            return new Shown(store, id, parent);
+        });
     if (made != nullptr) describeTo(made->self(), id);
     return made;
 }

@@ -5,6 +5,8 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 
+#include "Orvo/window/drawing/palette.h"
+
 namespace Orvo::Window {
 
 /// A slim, dark scroll bar. Where its parts are is still the style's to say.
@@ -16,14 +18,14 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillRect(rect(), QColor(28, 32, 38));
+        painter.fillRect(rect(), Palette::kScrollBar);
         if (minimum() == maximum()) return;
         QStyleOptionSlider option;
         initStyleOption(&option);
         const QRectF handle = style()->subControlRect(QStyle::CC_ScrollBar, &option,
                                                       QStyle::SC_ScrollBarSlider, this);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(isSliderDown() ? QColor(130, 140, 152) : QColor(92, 100, 112));
+        painter.setBrush(isSliderDown() ? Palette::kHeldScrollHandle : Palette::kScrollHandle);
         painter.drawRoundedRect(handle.adjusted(2, 1, -2, -1), 3, 3);
     }
 };

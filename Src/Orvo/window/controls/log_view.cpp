@@ -15,6 +15,7 @@
 #include "Orvo/service/information_entry.h"
 #include "Orvo/window/controls/log_scroll_bar.h"
 #include "Orvo/window/drawing/chrome.h"
+#include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
 
@@ -148,7 +149,7 @@ void LogView::keyPressEvent(QKeyEvent* event) {
     const String typed = typedBy(*event);
     bool isTaken = typed.empty();
     for (const char16_t character : typed) {
-        isTaken |= input().type(id(), Integer(character)) != 0;
+        isTaken |= input().type(id(), Integer(character));
         if (!self) return;
     }
     if (!isTaken) return;
@@ -171,14 +172,14 @@ void LogView::paintEvent(QPaintEvent* event) {
     const int last = std::min(rowCount() - 1, top() + dirty.bottom() / rowHeight_);
     for (int row = top() + dirty.top() / rowHeight_; row <= last; ++row) drawRow(painter, row);
     if (!hasFocus()) return;
-    painter.setPen(QPen(QColor(64, 156, 255), 2 * qRound(zoom())));
+    painter.setPen(QPen(Palette::kFocus, 2 * qRound(zoom())));
     painter.drawRect(viewport()->rect());
 }
 
 void LogView::drawRow(QPainter& painter, int row) const {
     const QModelIndex index = model_.index(row);
     const QRect place = visualRect(index);
-    if (selectionModel()->isSelected(index)) painter.fillRect(place, QColor(0, 78, 22));
+    if (selectionModel()->isSelected(index)) painter.fillRect(place, Palette::kSelectedLine);
     painter.setPen(isEnabled() ? toQt(looks().text) : toQt(looks().text).darker(160));
     const int margin = qRound(kMargin * zoom());
     const QRect line = place.adjusted(margin, 0, -margin, 0);

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "Orvo/window/controls/trace_lines.h"
+#include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
 
@@ -32,8 +33,8 @@ QRect Scope::surface() const {
 void Scope::paintEvent(QPaintEvent*) {
     if (picture_.isNull() || picture_.devicePixelRatio() != devicePixelRatioF()) draw();
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(96, 104, 116));
-    painter.fillRect(rect().adjusted(0, 0, -qRound(zoom()), -qRound(zoom())), QColor(10, 12, 16));
+    painter.fillRect(rect(), Palette::kScopeFrame);
+    painter.fillRect(rect().adjusted(0, 0, -qRound(zoom()), -qRound(zoom())), Palette::kScopeShade);
     painter.drawPixmap(surface().topLeft(), picture_);
 }
 
@@ -71,15 +72,9 @@ void Scope::draw(QPainter& painter, const Runtime::DrawnText& text) const {
     painter.drawText(QPointF(text.at.x * across_, baseline), toQt(text.text));
 }
 
-// A beam, and the phosphor around it that it also makes shine.
 void Scope::draw(QPainter& painter, const Runtime::DrawnPolyline& polyline) const {
-    constexpr int kDimmer = 320;  // percent
-    const QList<QLine> lines = traceLines(polyline.points, across_, down_);
-    const int beam = qMax(1, qRound(down_));
-    painter.setPen(toQt(polyline.colour).darker(kDimmer));
-    drawHalo(painter, lines, beam, qMax(1, beam / 2));
     painter.setPen(toQt(polyline.colour));
-    drawLines(painter, lines, beam);
+    drawLines(painter, traceLines(polyline.points, across_, down_), qMax(1, qRound(down_)));
 }
 
 }  // namespace Orvo::Window

@@ -9,6 +9,7 @@
 
 #include "Orvo/window/controls/mouse.h"
 #include "Orvo/window/drawing/chrome.h"
+#include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
 
@@ -125,7 +126,7 @@ void Slider::wheelEvent(QWheelEvent* event) {
 
 void Slider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(14, 16, 20));
+    painter.fillRect(rect(), Palette::kSlider);
     painter.setRenderHint(QPainter::Antialiasing);
     drawScale(painter);
     drawGroove(painter);
@@ -139,7 +140,7 @@ void Slider::drawScale(QPainter& painter) const {
     const double from = (kGroove / 2 + 2) * zoom();
     for (int tick = 0; tick < kTicks; ++tick) {
         const bool isMain = tick % kMainTick == 0;
-        const QColor colour = isMain ? QColor(190, 196, 206) : QColor(128, 135, 147);
+        const QColor colour = isMain ? Palette::kMainTick : Palette::kTick;
         painter.setPen(QPen(isEnabled() ? colour : colour.darker(200), zoom()));
         const double y = qRound(along.top + along.length * tick / (kTicks - 1)) + 0.5;
         const double to = from + (isMain ? 5 : 3) * zoom();
@@ -152,8 +153,8 @@ void Slider::drawGroove(QPainter& painter) const {
     const SliderTrack along = track();
     const double half = kGroove / 2 * zoom();
     QRectF groove(width() / 2.0 - half, along.top - half, 2 * half, along.length + 2 * half);
-    painter.setPen(QPen(QColor(84, 91, 102), zoom()));
-    painter.setBrush(QColor(0, 0, 0));
+    painter.setPen(QPen(Palette::kGrooveEdge, zoom()));
+    painter.setBrush(Palette::kGroove);
     painter.drawRoundedRect(groove, half, half);
 }
 
@@ -173,12 +174,13 @@ void Slider::drawCap(QPainter& painter) const {
     light.setColorAt(1, metal(0.6));
     const double radius = 2 * zoom();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 130));
+    painter.setBrush(Palette::kCapShadow);
     painter.drawRoundedRect(place.translated(0, 1.5 * zoom()), radius, radius);
-    painter.setPen(QPen(QColor(24, 27, 32), zoom()));
+    painter.setPen(QPen(Palette::kCapEdge, zoom()));
     painter.setBrush(light);
     painter.drawRoundedRect(place, radius, radius);
-    painter.setPen(QPen(isEnabled() ? QColor(176, 24, 24) : QColor(60, 62, 66), 1.6 * zoom()));
+    painter.setPen(
+        QPen(isEnabled() ? Palette::kCapIndex : Palette::kDisabledCapIndex, 1.6 * zoom()));
     const double y = place.center().y();
     painter.drawLine(QPointF(place.left() + zoom(), y), QPointF(place.right() - zoom(), y));
 }

@@ -5,6 +5,8 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "Orvo/window/drawing/palette.h"
+
 namespace Orvo::Window {
 
 namespace {
@@ -17,8 +19,8 @@ struct TabColours {
 };
 
 TabColours coloursOf(int tab) {
-    if (tab == 0) return {{233, 235, 239}, toQt(Layout::kCommonText)};
-    return {{36, 43, 55}, toQt(Layout::kPairText)};
+    if (tab == 0) return {Palette::kCommonTab, toQt(Layout::kCommonText)};
+    return {Palette::kPairTab, toQt(Layout::kPairText)};
 }
 
 }  // namespace
@@ -67,7 +69,7 @@ QSize TabStrip::tabSizeHint(int index) const {
 
 void TabStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(70, 77, 90));
+    painter.fillRect(rect(), Palette::kTabStrip);
     painter.setRenderHint(QPainter::Antialiasing);
     for (int tab = 0; tab < count(); ++tab) drawTab(painter, tab);
 }
@@ -76,17 +78,17 @@ void TabStrip::drawTab(QPainter& painter, int tab) const {
     const bool isInFront = tab == currentIndex();
     const QRectF place = QRectF(tabRect(tab)).adjusted(zoom(), 2 * zoom(), -zoom(), 0);
     const TabColours colours =
-        isInFront ? coloursOf(tab) : TabColours{{92, 100, 115}, {222, 226, 233}};
+        isInFront ? coloursOf(tab) : TabColours{Palette::kTabBehind, Palette::kTabBehindText};
     painter.save();
     painter.setClipRect(place);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isTabEnabled(tab) ? colours.face : QColor(78, 85, 98));
+    painter.setBrush(isTabEnabled(tab) ? colours.face : Palette::kDisabledTab);
     painter.drawRoundedRect(place.adjusted(0, 0, 0, 8 * zoom()), 4 * zoom(), 4 * zoom());
     painter.restore();
-    painter.setPen(isTabEnabled(tab) ? colours.text : QColor(130, 137, 150));
+    painter.setPen(isTabEnabled(tab) ? colours.text : Palette::kDisabledTabText);
     painter.drawText(place, Qt::AlignCenter, tabText(tab));
     if (!isInFront || !hasFocus()) return;
-    painter.setPen(QPen(QColor(64, 156, 255), 1.5 * zoom()));
+    painter.setPen(QPen(Palette::kFocus, 1.5 * zoom()));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(place.adjusted(2 * zoom(), 2 * zoom(), -2 * zoom(), -2 * zoom()),
                             2 * zoom(), 2 * zoom());

@@ -33,13 +33,6 @@ struct Column {
     int bottom;
 };
 
-void drawMoved(QPainter& painter, const QList<QLine>& lines, int right, int below) {
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.translate(right, below);
-    painter.drawLines(lines);
-    painter.translate(-right, -below);
-}
-
 }  // namespace
 
 QList<QLine> traceLines(std::span<const Widgets::Point> points, double across, double down) {
@@ -62,19 +55,13 @@ QList<QLine> traceLines(std::span<const Widgets::Point> points, double across, d
 }
 
 void drawLines(QPainter& painter, const QList<QLine>& lines, int thickness) {
+    painter.setRenderHint(QPainter::Antialiasing, false);
     for (int right = 0; right < thickness; ++right) {
-        for (int below = 0; below < thickness; ++below) drawMoved(painter, lines, right, below);
-    }
-}
-
-// A curve that leads out of a square meets its edge, so the squares' edges cover all but the curve.
-void drawHalo(QPainter& painter, const QList<QLine>& lines, int thickness, int reach) {
-    const int last = thickness - 1 + reach;
-    for (int right = -reach; right <= last; ++right) {
-        const bool isSide = right == -reach || right == last;
-        const int step = isSide ? 1 : last + reach;
-        for (int below = -reach; below <= last; below += step)
-            drawMoved(painter, lines, right, below);
+        for (int below = 0; below < thickness; ++below) {
+            painter.translate(right, below);
+            painter.drawLines(lines);
+            painter.translate(-right, -below);
+        }
     }
 }
 

@@ -22,7 +22,4 @@ QList<QLine> traceLines(std::span<const Widgets::Point> points, double across, d
 /// Draws lines in the painter's colour, as squares of this many pixels in a row.
 void drawLines(QPainter& painter, const QList<QLine>& lines, int thickness);
 
-/// Draws what surrounds such lines, as far as `reach` pixels; above 0. The lines go on top.
-void drawHalo(QPainter& painter, const QList<QLine>& lines, int thickness, int reach);
-
 }  // namespace Orvo::Window

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QWidget>
 
+#include "Orvo/window/drawing/palette.h"
+
 namespace Orvo::Window {
 
 void drawFace(QPainter& painter, const QRectF& place, QColor colour, Face face, double zoom) {
@@ -16,7 +18,7 @@ void drawFace(QPainter& painter, const QRectF& place, QColor colour, Face face, 
     painter.setBrush(light);
     painter.drawRoundedRect(body, radius, radius);
     if (face == Face::sunken) return;
-    painter.setPen(QPen(QColor(255, 255, 255, 90), zoom));
+    painter.setPen(QPen(Palette::kFaceGleam, zoom));
     painter.drawLine(body.topLeft() + QPointF(radius, zoom),
                      body.topRight() + QPointF(-radius, zoom));
 }
@@ -32,8 +34,8 @@ void drawRings(QPainter& painter, const QWidget& widget, double zoom, const Draw
         painter.setPen(QPen(colour, width));
         draw(QRectF(widget.rect()).adjusted(inset, inset, -inset, -inset));
     };
-    ring(0.75 * zoom, 1.5 * zoom, QColor(40, 128, 240));
-    ring(2 * zoom, zoom, QColor(255, 255, 255, 170));
+    ring(0.75 * zoom, 1.5 * zoom, Palette::kFocus);
+    ring(2 * zoom, zoom, Palette::kFocusInside);
 }
 
 }  // namespace

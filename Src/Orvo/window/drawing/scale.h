@@ -18,7 +18,7 @@ struct Corner {
 
 constexpr Corner cornerOf(WidgetId container) {
     Corner corner;
-    for (WidgetId id = container; id != Layout::kNoWidget; id = Layout::describe(id).container) {
+    for (WidgetId id = container; id != Layout::kPanel; id = Layout::describe(id).container) {
         corner.left += Layout::describe(id).place.left;
         corner.top += Layout::describe(id).place.top;
     }

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "Orvo/layout/layout.h"
+#include "Orvo/layout/roles.h"
 
 namespace Orvo::Window {
 
@@ -13,9 +13,8 @@ enum class ZeroAt : std::uint8_t { top, bottom };
 /// Up is more, on every slider. A volume slider's position counts the steps below the loudest, so
 /// that its 0 is at the top; a test temperature is its slider's position, whose 0 is at the bottom.
 constexpr ZeroAt zeroOf(Widgets::WidgetId slider) {
-    const bool isTemperature = slider == Layout::sliderRef("ZelvinSlider3").id ||
-                               slider == Layout::sliderRef("ZelvinSlider6").id;
-    return isTemperature ? ZeroAt::bottom : ZeroAt::top;
+    const auto isTestSlider = [slider](const auto& pair) { return pair.testSlider == slider; };
+    return std::ranges::any_of(Layout::kPairs, isTestSlider) ? ZeroAt::bottom : ZeroAt::top;
 }
 
 /// Where the middle of a slider's cap may be, and which positions that stands for.

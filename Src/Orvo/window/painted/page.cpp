@@ -1,6 +1,7 @@
 #include "Orvo/window/painted/page.h"
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 #include <QHelpEvent>
@@ -8,7 +9,9 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
+#include "Orvo/window/painted/painted_kinds.h"
 #include "Orvo/window/spoken/names.h"
 #include "Orvo/window/spoken/spoken.h"
 
@@ -20,7 +23,11 @@ Page::Page(const Runtime::Store& store, int tab, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
         if (pageOf(id) != tab) continue;
-        auto painted = makePainted(store, id);
+        auto painted = PaintedKinds::visit(
+            Layout::kindOf(id),
+            [&]<class Shown>(std::type_identity<Shown> /*kind*/) -> std::unique_ptr<Painted> {
+                return std::make_unique<Shown>(store, id);
+            });
         if (!painted) continue;
         layers_.push_back({id, std::move(painted), {}});
         if (!nameOf(id).isEmpty()) speakers_.push_back(id);
@@ -54,8 +61,9 @@ bool Page::repaintWidget(WidgetId id) {
 
 QRect Page::placeOf(WidgetId speaker) const {
     QRect place = boundsOf(speaker);
-    if (Layout::describe(speaker).style.kind != Layout::Kind::digit) return place;
-    for (const WidgetId digit : readoutOf(speaker)) place = place.united(boundsOf(digit));
+    const Layout::Readout* readout = readoutWith(speaker);
+    if (readout == nullptr) return place;
+    for (const WidgetId digit : readout->digits()) place = place.united(boundsOf(digit));
     return place;
 }
 
@@ -77,7 +85,7 @@ void Page::showTip(const QHelpEvent& event) {
 
 void Page::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.fillRect(event->rect(), QColor(24, 29, 38));
+    painter.fillRect(event->rect(), Palette::kPage);
     for (const Layer& layer : layers_) {
         if (!event->region().intersects(layer.bounds) || !layer.painted->isShown()) continue;
         painter.save();

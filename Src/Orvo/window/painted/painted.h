@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 #include <QRect>
 
 #include "Orvo/store/store.h"
@@ -21,10 +19,10 @@ public:
     Painted& operator=(const Painted&) = delete;
 
     /// Everything that `paint` may touch as the widget is now, in pixels of the page.
-    [[nodiscard]] virtual QRect bounds() const = 0;
+    [[nodiscard]] virtual QRect bounds() const { return place_; }
     virtual void paint(QPainter& painter) const = 0;
     /// Called before anything else, and for each change of the zoom.
-    virtual void layOut(const Scale& scale) = 0;
+    virtual void layOut(const Scale& scale) { place_ = scale.rect(id_); }
 
     [[nodiscard]] bool isShown() const { return store_.isShown(id_); }
 
@@ -35,14 +33,12 @@ protected:
     }
     [[nodiscard]] const Layout::Widget& description() const { return Layout::describe(id_); }
     [[nodiscard]] const Layout::Style& looks() const { return description().style; }
-    [[nodiscard]] WidgetId id() const { return id_; }
+    [[nodiscard]] const QRect& place() const { return place_; }
 
 private:
     const Runtime::Store& store_;
     WidgetId id_;
+    QRect place_;
 };
-
-/// Null for kinds that are not painted.
-std::unique_ptr<Painted> makePainted(const Runtime::Store& store, WidgetId id);
 
 }  // namespace Orvo::Window

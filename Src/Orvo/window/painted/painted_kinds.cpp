@@ -28,17 +28,13 @@ void PaintedLine::paint(QPainter& painter) const {
     painter.drawLine(line_);
 }
 
-void PaintedFrame::layOut(const Scale& scale) { place_ = scale.rect(id()); }
-
-QRect PaintedFrame::bounds() const { return place_; }
-
-void PaintedFrame::paint(QPainter& painter) const { painter.fillRect(place_, toQt(looks().back)); }
+void PaintedFrame::paint(QPainter& painter) const { painter.fillRect(place(), toQt(looks().back)); }
 
 void PaintedDigit::layOut(const Scale& scale) {
-    place_ = scale.rect(id());
+    Painted::layOut(scale);
     zoom_ = scale.zoom();
     QTransform cell;
-    cell.translate(place_.left(), place_.top());
+    cell.translate(place().left(), place().top());
     cell.scale(scale.zoom(), scale.zoom());
     for (int segment = 0; segment < kSegmentCount; ++segment) {
         QPainterPath outline;
@@ -47,8 +43,6 @@ void PaintedDigit::layOut(const Scale& scale) {
         segments_[std::size_t(segment)] = cell.map(outline);
     }
 }
-
-QRect PaintedDigit::bounds() const { return place_; }
 
 // The unlit ones first, so that the light falls on them.
 void PaintedDigit::paint(QPainter& painter) const {
@@ -81,23 +75,23 @@ void PaintedDigit::paintUnlit(QPainter& painter, const QPainterPath& segment) co
 void PaintedScopeHeader::layOut(const Scale& scale) {
     const auto& place = description().place;
     const Corner corner = cornerOf(description().container);
-    place_ = scale.rect(corner.left + place.left, corner.top + place.top, place.width,
-                        Layout::kScopeTabHeight);
+    header_ = scale.rect(corner.left + place.left, corner.top + place.top, place.width,
+                         Layout::kScopeTabHeight);
     font_ = toQt(looks().font, scale.zoom());
 }
 
-QRect PaintedScopeHeader::bounds() const { return place_; }
+QRect PaintedScopeHeader::bounds() const { return header_; }
 
 void PaintedScopeHeader::paint(QPainter& painter) const {
     const QString text = toQt(description().caption);
-    const int margin = place_.height() / 2;
+    const int margin = header_.height() / 2;
     const int width = qCeil(widthOf(text, font_)) + 2 * margin;
-    const QRect tab(place_.topLeft(), QSize(width, place_.height()));
+    const QRect tab(header_.topLeft(), QSize(width, header_.height()));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(tab);
     painter.setPen(Qt::NoPen);
     painter.setBrush(toQt(looks().back));
-    const double radius = place_.height() / 4.0;
+    const double radius = header_.height() / 4.0;
     painter.drawRoundedRect(QRectF(tab).adjusted(0, 0, 0, radius), radius, radius);
     painter.setClipping(false);
     painter.setFont(font_);
@@ -108,25 +102,23 @@ void PaintedScopeHeader::paint(QPainter& painter) const {
 }
 
 void PaintedImage::layOut(const Scale& scale) {
-    place_ = scale.rect(id());
+    Painted::layOut(scale);
     artwork_ = {};
 }
-
-QRect PaintedImage::bounds() const { return place_; }
 
 void PaintedImage::paint(QPainter& painter) const {
     const double ratio = painter.device()->devicePixelRatioF();
     if (artwork_.isNull() || artwork_.devicePixelRatio() != ratio) draw(ratio);
-    painter.drawPixmap(place_.topLeft(), artwork_);
+    painter.drawPixmap(place().topLeft(), artwork_);
 }
 
 void PaintedImage::draw(double devicePixelRatio) const {
-    artwork_ = QPixmap(place_.size() * devicePixelRatio);
+    artwork_ = QPixmap(place().size() * devicePixelRatio);
     artwork_.setDevicePixelRatio(devicePixelRatio);
     QPainter painter(&artwork_);
     const bool isCommon = looks().image == Layout::Image::commonTab;
     Artwork::paint(painter, isCommon ? Artwork::kCommonTab : Artwork::kPairTab,
-                   QRectF(QPointF(), QSizeF(place_.size())));
+                   QRectF(QPointF(), QSizeF(place().size())));
 }
 
 }  // namespace Orvo::Window

@@ -7,10 +7,14 @@
 #include <QPainterPath>
 #include <QPixmap>
 
+#include "Orvo/widgets/kind_table.h"
 #include "Orvo/window/painted/painted.h"
 #include "Orvo/window/painted/segments.h"
 
 namespace Orvo::Window {
+
+using Layout::Kind;
+using Widgets::For;
 
 /// One line of text may run over its place to the right, as the layout's places for results are as
 /// wide as the first text. The text that the layout gives is narrowed where it needs more.
@@ -30,7 +34,6 @@ private:
     void paintEdge(QPainter& painter, QColor colour) const;
     void paintText(QPainter& painter) const;
 
-    QRect place_;
     int edge_ = 1;  // pixels
     QFont font_;
     QFont firstFont_;
@@ -51,7 +54,6 @@ private:
     void paintLamp(QPainter& painter) const;
     void paintGlow(QPainter& painter) const;
 
-    QRect place_;
     double pen_ = 1;
     double glow_ = 0;
 };
@@ -73,12 +75,7 @@ private:
 class PaintedFrame final : public Painted {
 public:
     using Painted::Painted;
-    void layOut(const Scale& scale) override;
-    [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
-
-private:
-    QRect place_;
 };
 
 /// Seven segments.
@@ -86,14 +83,12 @@ class PaintedDigit final : public Painted {
 public:
     using Painted::Painted;
     void layOut(const Scale& scale) override;
-    [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
 
 private:
     void paintLit(QPainter& painter, const QPainterPath& segment) const;
     void paintUnlit(QPainter& painter, const QPainterPath& segment) const;
 
-    QRect place_;
     double zoom_ = 1;
     std::array<QPainterPath, kSegmentCount> segments_;
 };
@@ -107,7 +102,7 @@ public:
     void paint(QPainter& painter) const override;
 
 private:
-    QRect place_;
+    QRect header_;
     QFont font_;
 };
 
@@ -116,14 +111,23 @@ class PaintedImage final : public Painted {
 public:
     using Painted::Painted;
     void layOut(const Scale& scale) override;
-    [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
 
 private:
     void draw(double devicePixelRatio) const;
 
-    QRect place_;
     mutable QPixmap artwork_;
 };
+
+// clang-format off
+using PaintedKinds = Widgets::KindTable<
+    For<Kind::label, PaintedLabel>,
+    For<Kind::shape, PaintedShape>,
+    For<Kind::line, PaintedLine>,
+    For<Kind::frame, PaintedFrame>,
+    For<Kind::digit, PaintedDigit>,
+    For<Kind::tabs, PaintedScopeHeader>,
+    For<Kind::image, PaintedImage>>;
+// clang-format on
 
 }  // namespace Orvo::Window

@@ -13,7 +13,7 @@ bool isPale(QColor colour) { return qGray(colour.rgb()) > 160; }
 }  // namespace
 
 void PaintedLabel::layOut(const Scale& scale) {
-    place_ = scale.rect(id());
+    Painted::layOut(scale);
     edge_ = scale.thickness(1);
     font_ = toQt(looks().font, scale.zoom());
     firstFont_ = fontOfFirst();
@@ -24,7 +24,7 @@ QFont PaintedLabel::fontOfFirst() const {
     const QString first = toQt(description().caption).trimmed();
     if (looks().flow == Layout::TextFlow::wrapped) return font_;
     const bool isExtended = looks().font.face == Layout::Face::microgramma;
-    const int width = place_.width();
+    const int width = place().width();
     return isExtended ? fitted(font_, first, width) : narrowed(font_, first, width);
 }
 
@@ -36,18 +36,18 @@ QFont PaintedLabel::font() const {
 
 // Capitals in the middle: some faces have much more room above them than below.
 int PaintedLabel::baseline() const {
-    return qRound(place_.top() + (place_.height() + QFontMetricsF(font()).capHeight()) / 2);
+    return qRound(place().top() + (place().height() + QFontMetricsF(font()).capHeight()) / 2);
 }
 
 QRect PaintedLabel::textPlace() const {
-    if (looks().flow == Layout::TextFlow::wrapped) return place_;
-    return place_.adjusted(0, 0, qCeil(widthOf(text(), font())), 0);
+    if (looks().flow == Layout::TextFlow::wrapped) return place();
+    return place().adjusted(0, 0, qCeil(widthOf(text(), font())), 0);
 }
 
 QRect PaintedLabel::bounds() const {
     // A pixel more for what italics and antialiasing put outside.
     const int more = edge_ + 1;
-    return place_.united(textPlace()).adjusted(-more, -more, more, more);
+    return place().united(textPlace()).adjusted(-more, -more, more, more);
 }
 
 // What is laid out dark has a light ground: a pale text would be lost on it without a dark edge.
@@ -73,8 +73,8 @@ void PaintedLabel::paintEdge(QPainter& painter, QColor colour) const {
 
 void PaintedLabel::paintText(QPainter& painter) const {
     if (looks().flow == Layout::TextFlow::line)
-        return painter.drawText(QPointF(place_.left(), baseline()), text());
-    painter.drawText(place_, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextDontClip, text());
+        return painter.drawText(QPointF(place().left(), baseline()), text());
+    painter.drawText(place(), Qt::AlignCenter | Qt::TextWordWrap | Qt::TextDontClip, text());
 }
 
 }  // namespace Orvo::Window

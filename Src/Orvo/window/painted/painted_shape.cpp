@@ -1,6 +1,7 @@
 #include <QPainter>
 #include <QRadialGradient>
 
+#include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
 #include "Orvo/window/painted/painted_kinds.h"
 
@@ -18,7 +19,7 @@ QColor withAlpha(QColor colour, int alpha) {
 }  // namespace
 
 void PaintedShape::layOut(const Scale& scale) {
-    place_ = scale.rect(id());
+    Painted::layOut(scale);
     pen_ = scale.measure(1);
     glow_ = isLamp() ? scale.measure(kGlow) : 0;
 }
@@ -28,15 +29,15 @@ bool PaintedShape::isLamp() const {
 }
 
 QRectF PaintedShape::circle() const {
-    const double diameter = qMin(place_.width(), place_.height());
+    const double diameter = qMin(place().width(), place().height());
     QRectF circle(0, 0, diameter, diameter);
-    circle.moveCenter(QRectF(place_).center());
+    circle.moveCenter(QRectF(place()).center());
     return circle;
 }
 
 QRect PaintedShape::bounds() const {
     const int margin = qCeil(glow_) + 1;
-    return place_.adjusted(-margin, -margin, margin, margin);
+    return place().adjusted(-margin, -margin, margin, margin);
 }
 
 void PaintedShape::paint(QPainter& painter) const {
@@ -52,16 +53,16 @@ void PaintedShape::paintOutline(QPainter& painter) const {
     const double half = pen_ / 2;
     painter.setPen(QPen(withAlpha(toQt(looks().border), 150), pen_));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(place_).adjusted(half, half, -half, -half));
+    painter.drawRect(QRectF(place()).adjusted(half, half, -half, -half));
 }
 
 void PaintedShape::paintLamp(QPainter& painter) const {
-    const bool isLit = stored<Runtime::StoredShape>().fillStyle == Widgets::FillStyle::solid;
+    const bool isLit = stored<Runtime::StoredShape>().isLit();
     const QColor colour = toQt(isLit ? looks().fill : looks().back);
     const QRectF lamp = circle().adjusted(pen_ / 2, pen_ / 2, -pen_ / 2, -pen_ / 2);
     if (isLit) paintGlow(painter);
 
-    painter.setPen(QPen(QColor(136, 144, 158, 150), pen_));
+    painter.setPen(QPen(Palette::kLampRim, pen_));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(circle().adjusted(-pen_ / 2, -pen_ / 2, pen_ / 2, pen_ / 2));
 

@@ -14,4 +14,7 @@ QString nameOf(Widgets::WidgetId id);
 /// What a readout and a slider are measured in; empty for everything else.
 QString unitOf(Widgets::WidgetId id);
 
+/// Its shortcut, "Alt+P"; empty when it has none.
+QString keysOf(Widgets::WidgetId id);
+
 }  // namespace Orvo::Window

@@ -1,9 +1,11 @@
 #include "Orvo/window/spoken/spoken.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "Orvo/monitor/volume.h"
+#include "Orvo/values/indexed.h"
 #include "Orvo/window/drawing/slider_track.h"
 #include "Orvo/window/drawing/text.h"
 #include "Orvo/window/spoken/names.h"
@@ -21,27 +23,29 @@ QString captionOf(const Runtime::Store& store, WidgetId label) {
 }
 
 bool isLit(const Runtime::Store& store, WidgetId lamp) {
-    return store.get<Runtime::StoredShape>(lamp).state().fillStyle == Widgets::FillStyle::solid;
+    return store.get<Runtime::StoredShape>(lamp).state().isLit();
 }
 
 bool isOn(const Runtime::Store& store, WidgetId check) {
     return store.get<Runtime::StoredCheck>(check).state().value == Widgets::CheckValue::checked;
 }
 
-// A readout's sign, if it has one, is the label in front of it.
-bool isNegative(const Runtime::Store& store, WidgetId firstDigit) {
-    const auto before = WidgetId(firstDigit - 1);
-    return kindOf(before) == Kind::label && captionOf(store, before) == "-";
-}
+constexpr auto kReadouts = joined(
+    ofEach(Layout::kPairs,
+           [](Integer, const Layout::Pair& pair) {
+               return std::array{&pair.temperature, &pair.positivePower, &pair.negativePower,
+                                 &pair.positiveAux, &pair.negativeAux};
+           }),
+    ofEach(Layout::kChannels, [](Integer, const auto& its) { return std::array{&its.volume}; }));
 
-std::optional<int> numberOnReadout(const Runtime::Store& store, WidgetId firstDigit) {
+std::optional<int> numberOn(const Runtime::Store& store, const Layout::Readout& readout) {
     int number = 0;
-    for (const WidgetId id : readoutOf(firstDigit)) {
+    for (const WidgetId id : readout.digits()) {
         const auto digit = store.get<Runtime::StoredDigit>(id).state().digit;
         if (!digit) return std::nullopt;
         number = 10 * number + *digit;
     }
-    return isNegative(store, firstDigit) ? -number : number;
+    return readout.sign && captionOf(store, *readout.sign) == "-" ? -number : number;
 }
 
 QString traceOn(const Runtime::Store& store, WidgetId picture) {
@@ -59,18 +63,16 @@ QString textOf(const Runtime::Store& store, WidgetId label) {
 
 }  // namespace
 
-std::vector<WidgetId> readoutOf(WidgetId digit) {
-    std::vector<WidgetId> digits;
-    for (WidgetId id = speakerOf(digit); kindOf(id) == Kind::digit; ++id) digits.push_back(id);
-    return digits;
+const Layout::Readout* readoutWith(WidgetId part) {
+    const auto* found = std::ranges::find_if(kReadouts, [part](const Layout::Readout* readout) {
+        return readout->sign == part || std::ranges::count(readout->digits(), part) > 0;
+    });
+    return found != kReadouts.end() ? *found : nullptr;
 }
 
-// A label stands in front of every readout.
 WidgetId speakerOf(WidgetId id) {
-    if (kindOf(id) == Kind::label && kindOf(WidgetId(id + 1)) == Kind::digit) ++id;
-    if (kindOf(id) != Kind::digit) return id;
-    while (kindOf(WidgetId(id - 1)) == Kind::digit) --id;
-    return id;
+    const Layout::Readout* readout = readoutWith(id);
+    return readout != nullptr ? readout->places[0].id : id;
 }
 
 int measureAt(WidgetId slider, int position) {
@@ -90,7 +92,7 @@ std::optional<int> numberOf(const Runtime::Store& store, WidgetId id) {
         case Kind::shape:
             return int(isLit(store, id));
         case Kind::digit:
-            return numberOnReadout(store, speakerOf(id));
+            return numberOn(store, *readoutWith(id));
         case Kind::slider:
             return measureAt(id, store.get<Runtime::StoredSlider>(id).state().shown());
         default:

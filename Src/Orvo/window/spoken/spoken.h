@@ -1,10 +1,10 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
 #include <QString>
 
+#include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
 
 // What the named widgets say, in words. A lamp says "lit" or "dark", a readout "-42 V", a result
@@ -22,8 +22,8 @@ std::optional<int> numberOf(const Runtime::Store& store, WidgetId id);
 /// "Protection channel 1: lit"; the name alone where there is no value.
 QString sentenceOf(const Runtime::Store& store, WidgetId id);
 
-/// The digits of the readout that a digit belongs to, the highest first.
-std::vector<WidgetId> readoutOf(WidgetId digit);
+/// The readout that a digit or a sign belongs to; null for anything else.
+const Layout::Readout* readoutWith(WidgetId part);
 
 /// The widget that speaks for this one: for a readout's sign and digits the first digit, else the
 /// widget itself.

@@ -1,7 +1,5 @@
 #include "Orvo/generator/grid.h"
-
-#include <gtest/gtest.h>
-
+#include "Orvo/generator/trace.h"
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
@@ -27,6 +25,16 @@ TEST(GridMarks, LieEveryTenthOfTheHeight) {
     }
     EXPECT_TRUE(gridMarks(5).empty());
     EXPECT_EQ(errorOf([] { gridMarks(32768); }), 6);
+}
+
+TEST(TracePoints, SpreadTheSamplesOverTheSurface) {
+    const std::vector<Integer> samples{128, 255, 0};
+    const auto points = tracePoints(samples, 100, 195, 95);
+    EXPECT_FLOAT_EQ(points[0].x, 31.65F);
+    EXPECT_NEAR(points[0].y, 47.69, 0.005);
+    EXPECT_NEAR(points[1].y, 98.31, 0.005);
+    EXPECT_NEAR(points[2].y, -3.34, 0.005);
+    EXPECT_EQ(tracePoints(std::vector<Integer>(100), 100, 195, 95).back().x, 195);
 }
 
 }  // namespace

@@ -1,0 +1,165 @@
+#include "Manager/Session/manager_session.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "Manager/Link/link_device.h"
+#include "Orvo/layout/roles.h"
+
+namespace Orvo::Manager {
+namespace {
+
+using namespace std::chrono_literals;
+
+// Read-only mode takes it away from the person.
+
+// Why a file can't be opened this way, if it can't.
+std::optional<std::string> obstacle(const std::string& file, std::ios::openmode mode) {
+    std::fstream stream(file, mode);
+    const bool isUsable = stream.is_open() && (stream.peek(), !stream.bad());
+    if (isUsable) return std::nullopt;
+    return file + ": " + std::generic_category().message(errno);
+}
+
+}  // namespace
+
+ManagerSession::ManagerSession(Script::PanelOwner& owner, Script::Person& person,
+                               SessionSettings settings, SessionObserver& observer)
+    : owner_(owner),
+      person_(person),
+      settings_(std::move(settings)),
+      observer_(observer),
+      recorder_(settings_.record.empty() ? nullptr
+                                         : std::make_unique<Script::Recorder>(
+                                               settings_.record, owner, settings_.answers)),
+      station_(owner) {
+    serveFreshPanels();
+    listenToErrors();
+    setReadOnly(settings_.isReadOnly);
+}
+
+ManagerSession::~ManagerSession() { owner_.panel().setErrorHandler({}); }
+
+// After the recorder, which is to hear what a fresh panel is told.
+void ManagerSession::serveFreshPanels() {
+    renewals_ = owner_.onRenewed([this] { panelRenewed(); });
+}
+
+void ManagerSession::panelRenewed() {
+    listenToErrors();
+    if (settings_.isReadOnly && !isReplaying()) setReadOnly(true);
+}
+
+void ManagerSession::listenToErrors() {
+    owner_.panel().setErrorHandler([this](const Error& error) {
+        station_.conversation().failed(error);
+        observer_.say("Error " + std::to_string(error.number()) + ": " + error.what());
+    });
+}
+
+void ManagerSession::letPass(std::chrono::milliseconds time) {
+    if (!isReplaying()) owner_.store().advance(time);
+    station_.advance(time);
+    endHourglass(time);
+    endReplayThatIsOver();
+}
+
+// The panel leaves it to its host to take the hourglass away again: when the amplifier has spoken
+// since, or will not. A replay does so itself.
+void ManagerSession::endHourglass(std::chrono::milliseconds time) {
+    Runtime::Store& store = owner_.store();
+    hourglass_ = store.pointer() == Widgets::Pointer::standard ? 0ms : hourglass_ + time;
+    if (hourglass_ == 0ms) return;
+    const auto silence = station_.situation().silence.value_or(hourglass_);
+    const bool isAwaited = station_.isConnected() && silence >= hourglass_ && silence < kStaleAfter;
+    if (isAwaited || isReplaying()) return;
+    store.mousePointer().setPointer(Widgets::Pointer::standard);
+    if (isRecording()) recorder_->pointerIsSet();
+}
+
+void ManagerSession::connectSimulator(Simulator::PowerAtStart power) {
+    stopReplay();
+    station_.connect([this, power] {
+        return std::make_unique<SimulatedHost>(owner_.panel(), settings_.seed, power);
+    });
+}
+
+void ManagerSession::connectLink(const LinkAddress& address) {
+    stopReplay();
+    station_.connect([this, address] { return std::make_unique<LinkDevice>(owner_, address); });
+}
+
+void ManagerSession::connectNothing() {
+    stopReplay();
+    station_.disconnect();
+}
+
+SimulatedHost* ManagerSession::simulator() const {
+    return dynamic_cast<SimulatedHost*>(station_.device());
+}
+
+// Where nothing can be recorded, nothing is given up.
+void ManagerSession::startRecording(const std::string& file) {
+    if (const auto reason = obstacle(file, std::ios::app)) {
+        return observer_.warn({"Not recorded", "The session can't be recorded.", *reason});
+    }
+    stopReplay();
+    stopRecording();
+    const bool wasReadOnly = isReadOnly();
+    const auto tab = owner_.store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current;
+    recorder_ = std::make_unique<Script::Recorder>(file, owner_, settings_.answers);
+    serveFreshPanels();
+    station_.startAnew();
+    if (wasReadOnly && !isReadOnly()) setReadOnly(true);
+    owner_.store().input().selectTab(Layout::kTabs.id, tab);
+    observer_.say("Recording from a fresh start to " +
+                  std::filesystem::path(file).filename().string());
+}
+
+void ManagerSession::stopRecording() {
+    if (!isRecording()) return;
+    recorder_.reset();
+    observer_.say("The session is recorded");
+}
+
+void ManagerSession::startReplay(const std::string& file) {
+    if (const auto reason = obstacle(file, std::ios::in)) {
+        return observer_.warn({"Not replayed", "The session can't be read.", *reason});
+    }
+    stopRecording();
+    station_.connect(
+        [this, file] { return std::make_unique<ReplayDevice>(owner_, person_, file); });
+    owner_.renew();
+}
+
+void ManagerSession::stopReplay() {
+    if (!isReplaying()) return;
+    station_.disconnect();
+    if (settings_.isReadOnly) setReadOnly(true);
+    observer_.say("The replay is over");
+}
+
+const Script::Replay* ManagerSession::replay() const {
+    const auto* device = dynamic_cast<ReplayDevice*>(station_.device());
+    return device == nullptr ? nullptr : &device->replay();
+}
+
+void ManagerSession::endReplayThatIsOver() {
+    const Script::Replay* replay = this->replay();
+    if (replay == nullptr || !replay->isOver()) return;
+    const auto complaint = replay->complaint();
+    stopReplay();
+    if (!complaint) return;
+    observer_.warn(
+        {"The replay ended early", "The session has a line that can't be replayed.", *complaint});
+}
+
+bool ManagerSession::isReadOnly() const {
+    return !owner_.store().widget(Layout::kCommon.powerButton).isEnabled();
+}
+
+}  // namespace Orvo::Manager

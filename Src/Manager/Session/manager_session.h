@@ -1,0 +1,94 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "Manager/Host/simulated_host.h"
+#include "Manager/Link/link_address.h"
+#include "Manager/Session/replay_device.h"
+#include "Manager/Station/station.h"
+#include "Script/recorder.h"
+
+namespace Orvo::Manager {
+
+struct SessionSettings {
+    std::uint32_t seed = 1;   ///< the simulator's
+    bool isReadOnly = false;  ///< fresh panels too, but for a replay's
+    std::string record{};     ///< a file; empty: none
+    Script::Answers answers = Script::Answers::asCancelled;
+};
+
+/// What a person wanted and couldn't have; in UTF-8.
+struct Failure {
+    std::string title;
+    std::string text;
+    std::string details;
+};
+
+/// Is told what a person should know.
+class SessionObserver {
+public:
+    virtual ~SessionObserver() = default;
+    virtual void say(const std::string& message) = 0;
+    virtual void warn(const Failure& failure) = 0;
+};
+
+/// What a person works with while the program runs: the panel, what plays its host, and what is
+/// kept of it. One thing at a time plays the host: what is connected ends a replay, and a replay
+/// ends a recording.
+class ManagerSession final {
+public:
+    /// All must live as long. Throws std::system_error when the session is to be recorded in a file
+    /// that can't be opened.
+    ManagerSession(Script::PanelOwner& owner, Script::Person& person, SessionSettings settings,
+                   SessionObserver& observer);
+    ~ManagerSession();
+    ManagerSession(const ManagerSession&) = delete;
+    ManagerSession& operator=(const ManagerSession&) = delete;
+
+    /// Lets time pass for the panel and for what is connected.
+    void letPass(std::chrono::milliseconds time);
+
+    /// With the seed of the settings, from the beginning.
+    void connectSimulator(Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
+    void connectLink(const LinkAddress& address);
+    void connectNothing();
+    /// Null when it isn't what is connected.
+    [[nodiscard]] SimulatedHost* simulator() const;
+
+    /// From a fresh panel on, to which what is connected is connected anew; the tab in front stays.
+    void startRecording(const std::string& file);
+    void stopRecording();
+    [[nodiscard]] bool isRecording() const { return recorder_ != nullptr; }
+
+    /// On a fresh panel, with nothing else connected.
+    void startReplay(const std::string& file);
+    void stopReplay();
+    [[nodiscard]] bool isReplaying() const { return replay() != nullptr; }
+
+    void setReadOnly(bool isReadOnly) { owner_.panel().ReadOnly(isReadOnly); }
+    [[nodiscard]] bool isReadOnly() const;
+
+    [[nodiscard]] Station& station() { return station_; }
+
+private:
+    void serveFreshPanels();
+    void panelRenewed();
+    void listenToErrors();
+    [[nodiscard]] const Script::Replay* replay() const;
+    void endHourglass(std::chrono::milliseconds time);
+    void endReplayThatIsOver();
+
+    Script::PanelOwner& owner_;
+    Script::Person& person_;
+    const SessionSettings settings_;
+    SessionObserver& observer_;
+    std::unique_ptr<Script::Recorder> recorder_;  // null when nothing is recorded
+    Station station_;
+    Connection renewals_;
+    std::chrono::milliseconds hourglass_{0};  // how long it has been there
+};
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,65 @@
+#include "Manager/Window/window_panel.h"
+
+#include <QAbstractButton>
+
+#include "Manager/Window/file_saver.h"
+#include "Manager/Window/pictures.h"
+#include "Manager/Window/pointed_input.h"
+#include "Orvo/window/drawing/text.h"
+
+namespace Orvo::Manager {
+namespace {
+
+using Verb = Runtime::Deed::Verb;
+
+// A key that doesn't work a button is of no use to it.
+bool worksButton(const Runtime::Deed& deed) {
+    switch (deed.verb) {
+        case Verb::click:
+        case Verb::release:
+        case Verb::activate:
+            return true;
+        case Verb::key:
+            return deed.number == '\r' || deed.number == ' ';
+        default:
+            return false;
+    }
+}
+
+// A mere code is no key.
+bool isTyped(const Runtime::Deed& deed) { return deed.verb == Verb::key && deed.number != 0; }
+
+}  // namespace
+
+void WindowPanel::shoot(const String& file) {
+    const QString error = write(Window::toQt(file), toPng(pictureOf(window_)));
+    if (!error.isEmpty()) throw Error(75, "Path/File access error");
+}
+
+void WindowPanel::perform(const Runtime::Deed& deed) {
+    QWidget* control = controlFor(deed);
+    if (control == nullptr) return Person::perform(deed);
+    // The controls learn only with the next frame what they may do.
+    window_.flush();
+    switch (deed.verb) {
+        case Verb::click:
+            return clickOn(*control, deed.button, ReleasedWhere::onWidget);
+        case Verb::release:
+            return clickOn(*control, deed.button, ReleasedWhere::elsewhere);
+        default:
+            return typeInto(*control, deed.verb == Verb::activate ? u' ' : char16_t(deed.number));
+    }
+}
+
+// Null when it is nothing for a control of the toolkit's.
+QWidget* WindowPanel::controlFor(const Runtime::Deed& deed) const {
+    const auto& widget = Layout::describe(deed.widget);
+    const auto kind = widget.style.kind;
+    const auto name = QString::fromLatin1(widget.name.data(), qsizetype(widget.name.size()));
+    if (kind == Layout::Kind::list || kind == Layout::Kind::combo) {
+        return isTyped(deed) ? window_.findChild<QWidget*>(name) : nullptr;
+    }
+    return worksButton(deed) ? window_.findChild<QAbstractButton*>(name) : nullptr;
+}
+
+}  // namespace Orvo::Manager

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <chrono>
+
+#include "Orvo/ports/port_records.h"
+#include "Orvo/store/store.h"
+
+namespace Orvo::Script {
+
+/// Whoever sits in front of a panel, and what they can do there.
+class Person {
+public:
+    virtual ~Person() = default;
+
+    /// Of the present panel.
+    virtual Runtime::Store& store() = 0;
+
+    virtual void perform(const Runtime::Deed& deed) { store().input().perform(deed); }
+    /// Does nothing for so long; timers that come due tick.
+    virtual void wait(std::chrono::milliseconds time) { store().advance(time); }
+
+    /// Writes a PNG picture of the panel. Throws Error when that fails, or there is no window.
+    virtual void shoot(const String& file);
+    /// The ports that the print spooler has from now on; without any its enumeration fails. Throws
+    /// Error where the spooler is a machine's.
+    virtual void connectPorts(Runtime::Ports ports);
+};
+
+}  // namespace Orvo::Script

@@ -1,0 +1,28 @@
+#include "Script/store_panel.h"
+
+#include <utility>
+
+namespace Orvo::Script {
+
+class StorePanel::Spooler final : public PortSpooler {
+public:
+    bool enumPorts(const std::string& /*server*/, Long /*level*/, Long address,
+                   std::span<std::byte> buffer, Long& needed, Long& count) override {
+        return Runtime::writePortRecords(ports, address, buffer, needed, count) && !ports.empty();
+    }
+
+    Runtime::Ports ports;  // NOLINT(*-non-private-member-variables-in-classes)
+};
+
+StorePanel::StorePanel() : spooler_(std::make_shared<Spooler>()) { exchange(); }
+
+void StorePanel::connectPorts(Runtime::Ports ports) { spooler_->ports = std::move(ports); }
+
+// A panel that can't be made leaves the present one.
+void StorePanel::exchange() {
+    auto store = Runtime::Store::create();
+    panel_ = std::make_unique<MarvaneAssistant>(store, Platform{.spooler = spooler_});
+    store_ = std::move(store);
+}
+
+}  // namespace Orvo::Script

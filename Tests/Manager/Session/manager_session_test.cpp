@@ -1,0 +1,209 @@
+#include "Manager/Session/manager_session.h"
+
+#include "Script/recordings.h"
+#include "Support/owned_panel.h"
+#include "Support/temporary_directory.h"
+
+namespace Orvo::Manager {
+namespace {
+
+using namespace std::chrono_literals;
+using namespace Tests;
+
+class SessionTest : public OwnedPanel, public SessionObserver {
+protected:
+    void begin(const SessionSettings& settings) {
+        session_.reset();
+        owner_.renew();
+        session_.emplace(owner_, owner_, settings, *this);
+    }
+
+    void say(const std::string&) override {}
+    void warn(const Failure& failure) override { warnings_.push_back(failure.details); }
+
+    void replay(const std::string& script) {
+        std::ofstream(file_) << script;
+        session_->startReplay(file_);
+    }
+
+    void letReplayEnd() {
+        while (session_->isReplaying()) session_->letPass(100ms);
+    }
+
+    std::vector<std::string> loggedEvents() {
+        std::string text;
+        for (const std::string& line : session_->station().log().lines()) text += line + '\n';
+        return eventsIn(text);
+    }
+
+    TemporaryDirectory directory_;
+    std::string file_ = directory_.path() / "session.txt";
+    std::vector<std::string> warnings_;
+    std::optional<ManagerSession> session_{std::in_place, owner_, owner_, SessionSettings{}, *this};
+};
+
+TEST_F(SessionTest, AReplayHasTheSameEventsAndEndsInTheSameState) {
+    Typist typist;
+    begin({.record = file_, .answers = Script::Answers::inFull});
+    store().promptWith(&typist);
+    session_->connectSimulator();
+    session_->letPass(2s);
+    for (const Widgets::WidgetId widget : std::initializer_list<Widgets::WidgetId>{
+             channel(1).muteButton, pair(1).startButton, pair(2).startButton,
+             kCommon.internalDataButton}) {
+        click(widget);
+        session_->letPass(333ms);
+    }
+    person().press(channel(1).volumeSlider);
+    for (int position = 5; position < 20; position += 3) {
+        person().move(channel(1).volumeSlider, position);
+        session_->letPass(40ms);
+    }
+    person().release(channel(1).volumeSlider, Runtime::MouseButton::left,
+                     Runtime::ReleasedWhere::elsewhere);
+    person().slide(pair(1).testSlider, 9);
+    person().type(kCommon.log, 18);
+    session_->simulator()->set(Simulator::Fault::mainsFailure, true);
+    // Late by far: the timers tick as often as they came due.
+    session_->letPass(7s);
+    session_->connectNothing();
+    session_->letPass(1600ms);
+    session_->stopRecording();
+
+    const std::string script = contentOf(file_);
+    Script::StorePanel fresh;
+    const std::string answers = answersOn(fresh, script);
+    EXPECT_EQ(answers.find("\n? "), std::string::npos);
+    EXPECT_EQ(eventsIn(answers), eventsIn(script));
+    EXPECT_EQ(stateOf(fresh), stateOf(owner_));
+    EXPECT_GT(eventsIn(script).size(), 10U);
+}
+
+TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
+    session_->connectSimulator();
+    session_->letPass(2s);
+    session_->startRecording(file_);
+    EXPECT_FALSE(isLit(kCommon.linkLamp)) << "a fresh panel";
+    for (const Widgets::WidgetId widget : std::initializer_list<Widgets::WidgetId>{
+             channel(1).muteButton, pair(1).startButton, kCommon.internalDataButton}) {
+        session_->letPass(1s);
+        click(widget);
+    }
+    session_->letPass(1s);
+    EXPECT_EQ(panel().Mute(1), kTrue);
+    session_->stopRecording();
+    click(channel(2).muteButton);
+    session_->station().log().clear();
+    session_->startReplay(file_);
+    EXPECT_EQ(panel().Mute(1), kFalse);
+    letReplayEnd();
+    EXPECT_EQ(warnings_, std::vector<std::string>());
+    EXPECT_EQ(panel().Mute(1), kTrue);
+    EXPECT_EQ(loggedEvents(), eventsIn(contentOf(file_)));
+    EXPECT_GE(loggedEvents().size(), 3U);
+    EXPECT_TRUE(session_->station().traces().has(1));
+}
+
+TEST_F(SessionTest, AReplayTakesItsTime) {
+    replay("let Mute 1 true\non Mute wait 5000\nclick Command12\nwait 1000\nlet Mute 2 true\n");
+    session_->letPass(900ms);
+    EXPECT_EQ(panel().Mute(1), kTrue);
+    EXPECT_EQ(store().now(), 5900ms) << "a handler's wait is over at once";
+    EXPECT_EQ(panel().Mute(2), kFalse);
+    session_->letPass(100ms);
+    EXPECT_EQ(panel().Mute(2), kTrue);
+}
+
+TEST_F(SessionTest, AReplayEndsWithWhatItDoesNotUnderstand) {
+    replay("let Mute 1 true\nnew\nlet Mute 2 true\n  jump\nlet Mute 3 true\n");
+    letReplayEnd();
+    ASSERT_EQ(warnings_.size(), 1U);
+    EXPECT_TRUE(warnings_[0].starts_with("session.txt:4:3: "));
+    const std::vector<Boolean> muted{panel().Mute(1), panel().Mute(2), panel().Mute(3)};
+    EXPECT_EQ(muted, (std::vector{kFalse, kTrue, kFalse}));
+}
+
+TEST_F(SessionTest, WhatIsConnectedEndsAReplay) {
+    store().promptWith(nullptr);
+    replay("wait 1000\nlet Mute 1 true\n");
+    session_->letPass(25ms);
+    EXPECT_NE(store().prompter(), nullptr);
+    session_->connectSimulator();
+    EXPECT_EQ(store().prompter(), nullptr);
+    EXPECT_FALSE(session_->isReplaying());
+    session_->letPass(2s);
+    EXPECT_EQ(panel().Mute(1), kFalse);
+}
+
+TEST_F(SessionTest, WhatCannotBeRecordedOrReplayedIsToldAndChangesNothing) {
+    session_->connectSimulator();
+    const auto* const before = &store();
+    session_->startRecording("/no/such/place");
+    session_->startReplay("/no/such/session");
+    session_->startReplay(directory_.path());
+    EXPECT_EQ(warnings_,
+              (std::vector<std::string>{"/no/such/place: No such file or directory",
+                                        "/no/such/session: No such file or directory",
+                                        directory_.path().string() + ": Is a directory"}));
+    EXPECT_FALSE(session_->isRecording());
+    EXPECT_NE(session_->simulator(), nullptr);
+    EXPECT_EQ(&store(), before);
+    EXPECT_THROW(begin({.record = "/no/such/place"}), std::system_error);
+}
+
+TEST_F(SessionTest, ARecordingStaysReadOnlyAndOnItsTab) {
+    session_->setReadOnly(true);
+    person().selectTab(Layout::kTabs.id, 2);
+    session_->startRecording(file_);
+    EXPECT_TRUE(session_->isReadOnly());
+    EXPECT_EQ(store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current, 2);
+}
+
+TEST_F(SessionTest, AFreshPanelIsReadOnlyWhenTheSettingsSaySoButForAReplays) {
+    begin({.isReadOnly = true});
+    session_->startRecording(file_);
+    session_->stopRecording();
+    EXPECT_NE(contentOf(file_).find("new\nlet ReadOnly -1\n"), std::string::npos);
+    replay("new\nwait 1\n");
+    EXPECT_FALSE(session_->isReadOnly());
+    letReplayEnd();
+    EXPECT_TRUE(session_->isReadOnly());
+}
+
+TEST_F(SessionTest, AnErrorThatNoCallerWaitsForIsAmongTheEvents) {
+    struct Saboteur final : Runtime::OperationObserver {
+        void before(const Runtime::Operation&) override { throw Error(7, "Gone"); }
+    } saboteur;
+    session_->station().log().clear();
+    click(channel(1).muteButton);
+    store().observeWith(&saboteur);
+    click(channel(1).negative.option);
+    store().observeWith(nullptr);
+    EXPECT_EQ(session_->station().log().lines(),
+              (std::deque<std::string>{"event Mute 1", "! 7 Gone"}));
+}
+
+TEST_F(SessionTest, TheHourglassEndsWhenTheAmplifierHasSpokenOrWillNot) {
+    const auto isBusy = [this] { return store().pointer() == Widgets::Pointer::hourglass; };
+    const auto beBusy = [this] { store().mousePointer().setPointer(Widgets::Pointer::hourglass); };
+    session_->connectSimulator();
+    session_->letPass(2s);
+    beBusy();
+    session_->letPass(1s);
+    session_->letPass(1s);
+    EXPECT_FALSE(isBusy());
+    session_->simulator()->set(Simulator::Fault::linkLoss, true);
+    session_->letPass(25ms);
+    beBusy();
+    session_->letPass(1s);
+    EXPECT_TRUE(isBusy());
+    for (int i = 0; i < 4; ++i) session_->letPass(1s);
+    EXPECT_FALSE(isBusy());
+    session_->connectNothing();
+    beBusy();
+    session_->letPass(25ms);
+    EXPECT_FALSE(isBusy());
+}
+
+}  // namespace
+}  // namespace Orvo::Manager

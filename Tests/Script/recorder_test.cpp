@@ -1,0 +1,219 @@
+#include "Script/recorder.h"
+
+#include <functional>
+
+#include "Script/recordings.h"
+#include "Support/owned_panel.h"
+#include "Support/temporary_directory.h"
+
+namespace Orvo::Script {
+namespace {
+
+using namespace std::chrono_literals;
+using namespace Tests;
+using Runtime::MouseButton;
+using Runtime::ReleasedWhere;
+
+class RecorderTest : public OwnedPanel {
+protected:
+    /// What is in the file after `act`, but for the heading, the recording still going on.
+    std::string recorded(Answers answers, const std::function<void()>& act) {
+        const Recorder recorder(file_, owner_, answers);
+        act();
+        const std::string text = contentOf(file_);
+        return text.substr(text.find('\n') + 1);
+    }
+
+    void enterInformation() { person().type(kCommon.log, 18); }
+
+    TemporaryDirectory directory_;
+    std::string file_ = directory_.path() / "record.txt";
+};
+
+TEST_F(RecorderTest, WhatIsTypedAtPromptsStandsBeforeTheirCauseOrIsKeptSecret) {
+    const std::pair<Answers, const char*> rows[] = {
+        {Answers::inFull,
+         "answer \"530284\"\nanswer \"A 1\"\nanswer \"B 2\"\nanswer \"Näytös\"\n"
+         "key List1 18\n# event GeneralInformations 1 \"Näytös\" \"A 1\" \"B 2\"\n"},
+        {Answers::asCancelled,
+         "answer cancel\nkey List1 18\n# event GeneralInformations …\npointer 11\n"},
+    };
+    for (const auto& [answers, text] : rows) {
+        Typist typist;
+        store().promptWith(&typist);
+        EXPECT_EQ(recorded(answers, [this] { enterInformation(); }), text);
+    }
+}
+
+TEST_F(RecorderTest, WritesWhatThePersonDoesAndThePanelTakes) {
+    const std::string text = recorded(Answers::inFull, [this] {
+        person().press(channel(1).muteButton);
+        store().advance(70ms);
+        person().release(channel(1).muteButton);
+        person().press(kCommon.powerButton, MouseButton::right);
+        person().release(kCommon.powerButton, MouseButton::right, ReleasedWhere::elsewhere);
+        person().press(channel(2).volumeSlider);
+        person().move(channel(2).volumeSlider, 999);
+        person().move(channel(2).volumeSlider, 999);
+        person().release(channel(2).volumeSlider);
+        person().drop(channel(2).volumeSlider);
+        person().selectTab(kTabs, 7);
+        person().pick(kCommon.amplifierIds, u"no such item");
+        store().enable(kCommon.powerButton, false);
+        click(kCommon.powerButton);
+    });
+    EXPECT_EQ(text,
+              "wait 70\nclick Command12\n# event Mute 1\nrelease cmdOnOff right\n"
+              "hold ZelvinSlider2\nslide ZelvinSlider2 30\n# event VolumeChange 2 -30\n"
+              "hold ZelvinSlider2\ndrop ZelvinSlider2\n");
+}
+
+TEST_F(RecorderTest, GoesOnWithAFreshPanel) {
+    const std::string text = recorded(Answers::inFull, [this] {
+        store().advance(5ms);
+        owner_.renew();
+        panel().Mute(1, true);
+        click(channel(1).muteButton);
+    });
+    EXPECT_EQ(text, "wait 5\nnew\nlet Mute 1 -1\nclick Command12\n# event Mute 1\n");
+}
+
+TEST_F(RecorderTest, CallsOfAHandlerAreMadeMeanwhile) {
+    const std::string text = recorded(Answers::inFull, [this] {
+        const auto host = panel().connect([this](Long, std::span<Value>) {
+            panel().Mute(1, true);
+            EXPECT_THROW(panel().VNPower(1, -5), Error);
+        });
+        click(channel(1).muteButton);
+    });
+    EXPECT_EQ(text,
+              "meanwhile let Mute 1 -1\nmeanwhile let VNPower 1 -5\n"
+              "click Command12\n# event Mute 1\n# ! 13 Type mismatch\n");
+}
+
+TEST_F(RecorderTest, AFullDiskIsComplainedOfOnceAndStopsNobodyElse) {
+    testing::internal::CaptureStderr();
+    {
+        const Recorder recorder("/dev/full", owner_, Answers::inFull);
+        for (int i = 0; i < 3; ++i) click(channel(1).muteButton);
+        panel().Mute(1, true);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "/dev/full: No space left on device: the recording ends here\n");
+    EXPECT_EQ(panel().Mute(1), kTrue);
+}
+
+/// A host with handlers of its own, whose session is recorded and then replayed.
+class ReplayTest : public RecorderTest {
+protected:
+    /// Does `act` to a panel whose host answers every event so, and expects the replay to do the
+    /// same, but for the event that carries answers.
+    void expectSameReplay(const std::function<void()>& handler, const std::function<void()>& act,
+                          Answers answered = Answers::inFull) {
+        const std::string script = recorded(answered, [&] {
+            const auto host = panel().connect([&](Long, std::span<Value>) { handler(); });
+            act();
+        });
+        StorePanel fresh;
+        const std::string answers = answersOn(fresh, script);
+        EXPECT_EQ(answers.find("\n? "), std::string::npos) << answers;
+        EXPECT_EQ(eventsWithoutSecrets(answers), eventsWithoutSecrets(script)) << script;
+        EXPECT_EQ(stateOf(fresh), stateOf(owner_)) << script;
+    }
+
+private:
+    static std::vector<std::string> eventsWithoutSecrets(const std::string& text) {
+        auto events = eventsIn(text);
+        std::erase_if(events, [](const std::string& event) { return event.ends_with("…"); });
+        return events;
+    }
+};
+
+TEST_F(ReplayTest, AHandlersCallsComeBeforeTheActionGoesOn) {
+    Typist typist;
+    store().promptWith(&typist);
+    expectSameReplay([this] { panel().ReadOnly(true); }, [this] { enterInformation(); });
+}
+
+TEST_F(ReplayTest, ATicksHandlerStopsTheTimerThatComesNext) {
+    const auto handler = [this, ticks = -2]() mutable {
+        if (++ticks > 0) panel().TimerVirtualTemp34(false);
+    };
+    expectSameReplay(handler, [this] {
+        person().slide(pair(1).testSlider, 40);
+        person().slide(pair(2).testSlider, 60);
+        store().advance(20s);
+    });
+}
+
+// Each time an event is raised its host does something else, now and then something that raises
+// another.
+TEST_F(ReplayTest, AnEventThatIsRaisedAgainIsAnsweredAnew) {
+    int count = 0;
+    const auto handler = [&] {
+        if (++count % 3 == 0) return;
+        panel().Mute(1, count % 2 == 0);
+        if (count % 5 == 0) person().slide(channel(2).volumeSlider, count);
+        panel().AggiugiTesto(String(std::size_t(count), u'x'));
+    };
+    expectSameReplay(handler, [this] {
+        person().slide(pair(1).testSlider, 40);
+        person().slide(pair(2).testSlider, 60);
+        for (int position = 1; position < 20; ++position) {
+            person().slide(channel(1).volumeSlider, position);
+            click(channel(1).muteButton);
+            person().activate(position % 2 == 0 ? pair(1).waves[3] : pair(1).waves[4]);
+            store().advance(7777ms);
+        }
+    });
+    EXPECT_GT(count, 100) << "events";
+}
+
+/// Does something before it answers.
+class BusyTypist final : public Typist {
+public:
+    explicit BusyTypist(std::function<void()> act) : act_(std::move(act)) {}
+    std::optional<String> ask(const Widgets::Question& question) override {
+        act_();
+        return Typist::ask(question);
+    }
+
+private:
+    std::function<void()> act_;
+};
+
+TEST_F(ReplayTest, WhatIsDoneUnderAPromptComesBeforeItsAnswerBeItSecretOrNot) {
+    for (const Answers answers : {Answers::inFull, Answers::asCancelled}) {
+        owner_.renew();
+        Integer deviceId = 40;
+        BusyTypist typist([&] {
+            panel().IdDevice(++deviceId);
+            store().advance(1500ms);
+            click(channel(1).muteButton);
+            panel().Volume(2, deviceId);
+        });
+        store().promptWith(&typist);
+        const auto act = [this] {
+            enterInformation();
+            click(channel(1).muteButton);
+        };
+        expectSameReplay([this] { panel().Mute(1, !panel().Mute(1)); }, act, answers);
+        store().promptWith(nullptr);
+    }
+}
+
+TEST_F(RecorderTest, TheFileIsCompleteWhileAPromptIsOpen) {
+    std::string begun;
+    BusyTypist typist([&] {
+        store().advance(5ms);
+        begun += contentOf(file_) + "---\n";
+    });
+    store().promptWith(&typist);
+    recorded(Answers::inFull, [this] { enterInformation(); });
+    EXPECT_NE(begun.find("meanwhile wait 5\nanswer \"530284\"\nkey List1 18\n---"),
+              std::string::npos)
+        << begun;
+}
+
+}  // namespace
+}  // namespace Orvo::Script

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <fstream>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "Script/person.h"
+#include "Script/session.h"
+
+// What tests of recorded sessions compare.
+namespace Orvo::Tests {
+
+inline std::string contentOf(const std::string& path) {
+    std::ostringstream content;
+    content << std::ifstream(path).rdbuf();
+    return content.str();
+}
+
+/// What a script answers on a panel.
+template <class Panel>
+std::string answersOn(Panel& panel, const std::string& script) {
+    std::string answers;
+    Script::Session session(panel, panel, {},
+                            [&](std::string_view line) { answers.append(line).append("\n"); });
+    std::istringstream lines(script);
+    for (std::string line; std::getline(lines, line);) session.run(line);
+    return answers;
+}
+
+/// All that a panel shows.
+template <class Panel>
+std::string stateOf(Panel& panel) {
+    std::string script = "show Screen\n";
+    for (const Layout::Widget& widget : Layout::kWidgets) {
+        const std::string name(widget.name);
+        const auto kind = widget.style.kind;
+        if (kind == Layout::Kind::list || kind == Layout::Kind::combo) script += "items " + name;
+        if (kind == Layout::Kind::picture) script += "drawing " + name;
+        script += "\nshow " + name + '\n';
+    }
+    return answersOn(panel, script);
+}
+
+/// The events that a recording or the answers to it tell of, in whatever stands before them.
+inline std::vector<std::string> eventsIn(const std::string& text) {
+    std::vector<std::string> events;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        const auto at = line.find_first_not_of("# ");
+        if (at != std::string::npos && line.substr(at).starts_with("event ")) {
+            events.push_back(line.substr(at));
+        }
+    }
+    return events;
+}
+
+/// Types one answer after the other, then cancels.
+class Typist : public Runtime::Prompter {
+public:
+    std::optional<String> ask(const Widgets::Question&) override {
+        if (texts_.empty()) return std::nullopt;
+        const String text = texts_.front();
+        texts_.erase(texts_.begin());
+        return text;
+    }
+
+private:
+    std::vector<String> texts_{u"530284", u"A 1", u"B 2", u"Näytös"};
+};
+
+}  // namespace Orvo::Tests

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Script/store_panel.h"
+#include "Support/bench.h"
+
+namespace Orvo::Tests {
+
+/// A panel on the store alone that may be exchanged for a fresh one, and a person in front.
+class OwnedPanel : public testing::Test {
+protected:
+    MarvaneAssistant& panel() { return owner_.panel(); }
+    Runtime::Store& store() { return owner_.store(); }
+    Runtime::UserInput& person() { return store().input(); }
+    void click(Widgets::WidgetId widget) { person().click(widget); }
+    bool isLit(Widgets::ShapeRef lamp) {
+        return store().get<Runtime::StoredShape>(lamp).state().isLit();
+    }
+
+    Script::StorePanel owner_;
+};
+
+}  // namespace Orvo::Tests
