@@ -12,7 +12,9 @@ declare -A packages_for=(
     # an offscreen window would show no text without any.
     [window]="qt6-base-dev libgl-dev fonts-dejavu-core fonts-liberation"
     # From xvfb on, what the window is read with from outside; that test is skipped without.
-    [tests]="libgtest-dev libbenchmark-dev xvfb dbus-daemon at-spi2-core"
+    [tests]="libgtest-dev xvfb dbus-daemon at-spi2-core"
+    # What is measured beside the project; those rows are left out without.
+    [benchmarks]="libqcustomplot-dev libboost-dev"
     # For CI only, as this starts a print server on the machine; the tests that
     # need one are skipped without.
     [server]="cups-daemon"
