@@ -20,7 +20,7 @@ protected:
     std::string recorded(Answers answers, const std::function<void()>& act) {
         const Recorder recorder(file_, owner_, answers);
         act();
-        const std::string text = contentOf(file_);
+        const std::string text = textIn(file_);
         return text.substr(text.find('\n') + 1);
     }
 
@@ -129,12 +129,6 @@ private:
     }
 };
 
-TEST_F(ReplayTest, AHandlersCallsComeBeforeTheActionGoesOn) {
-    Typist typist;
-    store().promptWith(&typist);
-    expectSameReplay([this] { panel().ReadOnly(true); }, [this] { enterInformation(); });
-}
-
 TEST_F(ReplayTest, ATicksHandlerStopsTheTimerThatComesNext) {
     const auto handler = [this, ticks = -2]() mutable {
         if (++ticks > 0) panel().TimerVirtualTemp34(false);
@@ -206,7 +200,7 @@ TEST_F(RecorderTest, TheFileIsCompleteWhileAPromptIsOpen) {
     std::string begun;
     BusyTypist typist([&] {
         store().advance(5ms);
-        begun += contentOf(file_) + "---\n";
+        begun += textIn(file_) + "---\n";
     });
     store().promptWith(&typist);
     recorded(Answers::inFull, [this] { enterInformation(); });

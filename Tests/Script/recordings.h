@@ -1,6 +1,5 @@
 #pragma once
 
-#include <fstream>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -8,15 +7,10 @@
 
 #include "Script/person.h"
 #include "Script/session.h"
+#include "Support/approved.h"
 
 // What tests of recorded sessions compare.
 namespace Orvo::Tests {
-
-inline std::string contentOf(const std::string& path) {
-    std::ostringstream content;
-    content << std::ifstream(path).rdbuf();
-    return content.str();
-}
 
 /// What a script answers on a panel.
 template <class Panel>

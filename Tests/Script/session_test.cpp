@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvo/layout/roles.h"
 #include "Script/store_panel.h"
 #include "Script/text_of.h"
 
@@ -39,14 +38,6 @@ TEST_F(SessionTest, ADeviceMaySendTheHostsCommandsOnly) {
         }
     }
     EXPECT_EQ(answersTo("on Mute let Mute 1 true", Grammar::Speaker::device), Lines{"ok"});
-}
-
-TEST_F(SessionTest, EventsThatNoCommandCausedAreAnsweredToo) {
-    Lines answers;
-    Session session(panel, panel, {}, [&](std::string_view line) { answers.emplace_back(line); });
-    session.run("on Mute get PowerOn");
-    panel.store().input().click(Orvo::Layout::channel(1).muteButton);
-    EXPECT_EQ(answers, (Lines{"ok", "event Mute 1", "  = 0"}));
 }
 
 // Fails every reading of a slider, each time with another number.

@@ -51,14 +51,6 @@ protected:
         ASSERT_GE(other_, 0);
     }
 
-    void openPipe() {
-        ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
-        connectLink();
-        station_.advance(25ms);
-        other_ = ::open(path_.c_str(), O_WRONLY | O_NONBLOCK);
-        ASSERT_GE(other_, 0);
-    }
-
     void goOnline() {
         listenOnSocket();
         connectLink();
@@ -114,6 +106,7 @@ protected:
 TEST_F(LinkTest, ASocketCarriesCommandsAnswersAndEvents) {
     goOnline();
     EXPECT_EQ(ask("let Connected true\r\nget Mute 1\n"), "ok\n= 0\n");
+    EXPECT_EQ(ask("click Command12\n"), "? click is not for here\n");
     EXPECT_TRUE(isLit(kCommon.linkLamp));
     EXPECT_TRUE(station_.situation().isLinkUp);
     ask("on Mute let Mute 1 true\n");
@@ -124,7 +117,10 @@ TEST_F(LinkTest, ASocketCarriesCommandsAnswersAndEvents) {
 }
 
 TEST_F(LinkTest, APipeBringsCommands) {
-    openPipe();
+    ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
+    connectLink();
+    station_.advance(25ms);
+    other_ = ::open(path_.c_str(), O_WRONLY | O_NONBLOCK);
     send("let Connected true\n");
     station_.advance(25ms);
     EXPECT_TRUE(isLit(kCommon.linkLamp));
@@ -176,17 +172,6 @@ TEST_F(LinkTest, WaitsForWhatIsNotThereYet) {
     station_.advance(25ms);
     EXPECT_TRUE(station_.situation().connectedTo.ends_with("(no serial device, pipe or socket)"));
     EXPECT_TRUE(station_.situation().showsOldValues) << "the socket's";
-}
-
-TEST_F(LinkTest, OnlyTheHostsCommandsAreTaken) {
-    goOnline();
-    for (const char* line : {"click Command12", "shot x", "on Mute click Command12", "\x01\xFF\"\\",
-                             "let Mute 1 maybe"}) {
-        const std::string answer = ask(line + std::string("\n"));
-        EXPECT_TRUE(answer.starts_with("? ")) << line << ": " << answer;
-        EXPECT_EQ(std::count(answer.begin(), answer.end(), '\n'), 1) << line;
-    }
-    EXPECT_EQ(station_.log().lines(), (std::deque<std::string>{"let Connected 0"}));
 }
 
 TEST_F(LinkTest, AMegabyteWithoutALineBreakIsOneRefusal) {

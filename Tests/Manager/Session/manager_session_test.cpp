@@ -70,7 +70,7 @@ TEST_F(SessionTest, AReplayHasTheSameEventsAndEndsInTheSameState) {
     session_->letPass(1600ms);
     session_->stopRecording();
 
-    const std::string script = contentOf(file_);
+    const std::string script = textIn(file_);
     Script::StorePanel fresh;
     const std::string answers = answersOn(fresh, script);
     EXPECT_EQ(answers.find("\n? "), std::string::npos);
@@ -99,7 +99,7 @@ TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
     letReplayEnd();
     EXPECT_EQ(warnings_, std::vector<std::string>());
     EXPECT_EQ(panel().Mute(1), kTrue);
-    EXPECT_EQ(loggedEvents(), eventsIn(contentOf(file_)));
+    EXPECT_EQ(loggedEvents(), eventsIn(textIn(file_)));
     EXPECT_GE(loggedEvents().size(), 3U);
     EXPECT_TRUE(session_->station().traces().has(1));
 }
@@ -163,7 +163,7 @@ TEST_F(SessionTest, AFreshPanelIsReadOnlyWhenTheSettingsSaySoButForAReplays) {
     begin({.isReadOnly = true});
     session_->startRecording(file_);
     session_->stopRecording();
-    EXPECT_NE(contentOf(file_).find("new\nlet ReadOnly -1\n"), std::string::npos);
+    EXPECT_NE(textIn(file_).find("new\nlet ReadOnly -1\n"), std::string::npos);
     replay("new\nwait 1\n");
     EXPECT_FALSE(session_->isReadOnly());
     letReplayEnd();

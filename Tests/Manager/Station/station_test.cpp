@@ -47,13 +47,6 @@ TEST_F(StationTest, DisconnectingShowsTheLinkDownAndCallsTheValuesOld) {
     EXPECT_TRUE(station_.situation().showsOldValues);
 }
 
-TEST_F(StationTest, NothingConnectedAnswersNoEventAnyMore) {
-    station_.disconnect();
-    station_.log().clear();
-    click(channel(1).muteButton);
-    EXPECT_EQ(station_.log().lines(), Lines({"event Mute 1"}));
-}
-
 TEST_F(StationTest, WhatTheDeviceAnswersStandsUnderTheEventOnAFreshPanelToo) {
     for (int i = 0; i < 2; ++i) {
         station_.log().clear();

