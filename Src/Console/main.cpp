@@ -7,6 +7,7 @@
 
 #include "Console/options.h"
 #include "Console/terminal.h"
+#include "Script/buffered_output.h"
 #include "Script/completion.h"
 #include "Script/help.h"
 #include "Script/script_runner.h"
@@ -18,7 +19,7 @@ namespace {
 using namespace Orvo::Console;
 using namespace Orvo::Script;
 
-constexpr Grammar kGrammar{.speaker = Grammar::Speaker::anyone, .place = Place::inMemory};
+constexpr Grammar kGrammar{.place = Place::inMemory};
 
 int talk() {
     StorePanel panel;

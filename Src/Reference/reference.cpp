@@ -4,6 +4,7 @@
 #include <iterator>
 #include <span>
 
+#include "Orvo/core/event_table.h"
 #include "Reference/header_comments.h"
 #include "Reference/reference_prose.h"
 #include "Script/help.h"

@@ -107,11 +107,11 @@ Runtime::Ports takePorts(Arguments& arguments, const WordKind& kind) {
     return ports;
 }
 
-const Event* takeEvent(Arguments& arguments, const WordKind& kind) {
+std::reference_wrapper<const Event> takeEvent(Arguments& arguments, const WordKind& kind) {
     const Word& word = arguments.take(kind);
     const auto* found = std::find_if(kEvents.begin(), kEvents.end(),
                                      [&](const Event& row) { return row.name == word.source; });
-    if (found != kEvents.end()) return found;
+    if (found != kEvents.end()) return *found;
     throw Misunderstood{"there is no event " + excerpt(word.source), word.offset};
 }
 

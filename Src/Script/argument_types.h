@@ -4,6 +4,7 @@
 #include <array>
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <string_view>
@@ -124,7 +125,7 @@ int takePosition(Arguments& arguments, const WordKind& kind);
 String takeText(Arguments& arguments, const WordKind& kind);
 std::optional<String> takeAnswer(Arguments& arguments, const WordKind& kind);
 Runtime::Ports takePorts(Arguments& arguments, const WordKind& kind);
-const Event* takeEvent(Arguments& arguments, const WordKind& kind);
+std::reference_wrapper<const Event> takeEvent(Arguments& arguments, const WordKind& kind);
 std::vector<std::string_view> eventNames(const Grammar& grammar);
 Call takeLateCall(Arguments& arguments, const WordKind& kind);
 
@@ -176,8 +177,8 @@ inline constexpr Argument<std::optional<String>> kAnswer{
 inline constexpr Argument<Runtime::Ports> kPorts{
     {.name = "NAME …", .presence = WordKind::Presence::optional}, Detail::takePorts};
 
-inline constexpr Argument<const Event*> kEvent{{.name = "EVENT", .names = Detail::eventNames},
-                                               Detail::takeEvent};
+inline constexpr Argument<std::reference_wrapper<const Event>> kEvent{
+    {.name = "EVENT", .names = Detail::eventNames}, Detail::takeEvent};
 inline constexpr auto kMember = Detail::kMemberName<Detail::isAny>;
 inline constexpr auto kLet = Detail::namedCall<MemberKind::let>("NAME [INDEX] VALUE");
 inline constexpr auto kGet = Detail::namedCall<MemberKind::get>("NAME [INDEX]");

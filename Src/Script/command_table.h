@@ -1,14 +1,17 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string_view>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
+#include "Script/answers.h"
 #include "Script/argument_types.h"
 #include "Script/host_side.h"
 #include "Script/looking.h"
-#include "Script/person_side.h"
+#include "Script/session.h"
 #include "Script/text_of.h"
 
 // The language's commands, one row each.
@@ -18,12 +21,27 @@ namespace Detail {
 template <const auto&... kArguments>
 inline constexpr std::array<WordKind, sizeof...(kArguments)> kWords{kArguments...};
 
+// A function of the session's or the person's own, or one that returns the closing line.
+template <auto kFunction, class... Values>
+std::string carryOut(Session& session, const Values&... values) {
+    using Function = decltype(kFunction);
+    if constexpr (std::is_invocable_v<Function, Person&, const Values&...>) {
+        std::invoke(kFunction, session.person(), values...);
+        return ok();
+    } else if constexpr (std::is_invocable_r_v<std::string, Function, Session&, const Values&...>) {
+        return std::invoke(kFunction, session, values...);
+    } else {
+        std::invoke(kFunction, session, values...);
+        return ok();
+    }
+}
+
 // Braces, so that the values are taken from left to right.
 template <auto kFunction, const auto&... kArguments>
 ParsedCommand parseCommand([[maybe_unused]] Arguments& arguments) {
     return [values = std::tuple{kArguments.take(arguments)...}](Session& session) {
-        return std::apply([&session](const auto&... value) { return kFunction(session, value...); },
-                          values);
+        return std::apply(
+            [&](const auto&... value) { return carryOut<kFunction>(session, value...); }, values);
     };
 }
 
@@ -56,8 +74,10 @@ template <Runtime::Deed::Verb kVerb, const auto&... kArguments>
 ParsedCommand parseDeed(Arguments& arguments) {
     Runtime::Deed deed{.verb = kVerb, .widget = Layout::kTabs.id};
     (take(deed, kArguments, arguments), ...);
-    return
-        [deed = std::move(deed)](Session& session) { return PersonSide::perform(session, deed); };
+    return [deed = std::move(deed)](Session& session) {
+        session.perform(deed);
+        return ok();
+    };
 }
 
 inline std::string wordOf(WidgetId widget) {
@@ -96,7 +116,6 @@ consteval auto commandTable() {
     using enum Side;
     using Do = Runtime::Deed::Verb;
     namespace H = HostSide;
-    namespace P = PersonSide;
     namespace L = Looking;
     // clang-format off
     return std::to_array<Command>({
@@ -107,9 +126,10 @@ consteval auto commandTable() {
         command<H::id, kMember>              ("id",        host,    "The dispatch id of a member."),
         command<H::members>                  ("members",   host,    "Lists the members in interface order: number, name, kind, dispatch id."),
         command<H::events>                   ("events",    host,    "Lists the events: dispatch id, name, arguments."),
-        command<H::on, kEvent, kNested>      ("on",        host,    "From now on the host answers the event with this command; several for one event run in the order given."),
-        command<H::off, kEvent>              ("off",       host,    "Forgets the commands given for the event."),
-        command<H::renew>                    ("new",       host,    "Releases the panel and creates a fresh one; forgets what `on`, `answer`, `meanwhile` and `set` have said."),
+        command<&Session::remember, kEvent, kNested>
+                                             ("on",        host,    "From now on the host answers the event with this command; several for one event run in the order given."),
+        command<&Session::forget, kEvent>    ("off",       host,    "Forgets the commands given for the event."),
+        command<&Session::renew>             ("new",       host,    "Releases the panel and creates a fresh one; forgets what `on`, `answer`, `meanwhile` and `set` have said."),
 
         deed<Do::click, kOnScreen, kButton>  ("click",              "A mouse button, the left one unless another is named, is pressed and released over the widget."),
         deed<Do::release, kOnScreen, kButton>("release",            "The button is pressed on the widget, dragged off it and released: no click, but the widget gets the release."),
@@ -120,10 +140,12 @@ consteval auto commandTable() {
         deed<Do::hold, kSlider>              ("hold",               "The slider's button is pressed and kept pressed."),
         deed<Do::drop, kSlider>              ("drop",               "The slider's button is let go."),
         deed<Do::tab, kTab>                  ("tab",                "This tab of the panel, counted from 0, is selected."),
-        command<P::answer, kAnswer>          ("answer",    person,  "What is typed at the next input prompt that has no answer yet, or that it is cancelled."),
-        command<P::meanwhile, kNested>       ("meanwhile", person,  "Queues a command for the midst of another: it is carried out when the panel next raises an event or opens a prompt, before that is done with."),
-        command<P::resume>                   ("resume",    person,  "Ends what is queued for one event; what is queued behind it is for the next one, or for a prompt."),
-        command<P::wait, kMilliseconds>      ("wait",      person,  "Time passes; timers that come due tick, in order."),
+        command<&Session::queueAnswer, kAnswer>
+                                             ("answer",    person,  "What is typed at the next input prompt that has no answer yet, or that it is cancelled."),
+        command<&Session::queueCommand, kNested>
+                                             ("meanwhile", person,  "Queues a command for the midst of another: it is carried out when the panel next raises an event or opens a prompt, before that is done with."),
+        command<&Session::queueResumption>   ("resume",    person,  "Ends what is queued for one event; what is queued behind it is for the next one, or for a prompt."),
+        command<&Person::wait, kMilliseconds>("wait",      person,  "Time passes; timers that come due tick, in order."),
 
         command<L::show, kWidgetOrScreen>    ("show",      looking, "What a widget, or the screen, shows."),
         command<L::items, kItemHolder>       ("items",     looking, "Lists the items of a list or combo box."),
@@ -132,9 +154,10 @@ consteval auto commandTable() {
         command<L::set, kWidget, kProperty, kTruth>
                                              ("set",       looking, "Changes the layout under the panel's feet."),
         command<L::pointer, kPointer>        ("pointer",   looking, "Sets the screen's pointer, as a host does that takes the panel's hourglass away."),
-        command<L::spooler, kPorts>          ("spooler",   looking, "The ports that the print spooler has from now on, for `GetAvailablePorts`; without a name it has none, and its enumeration fails.", Place::inMemory),
-        command<L::shot, kFile>              ("shot",      looking, "Writes a PNG picture of the panel as it stands on the screen.", Place::inWindow),
-        command<L::quit>                     ("quit",      looking, "Ends the program."),
+        command<&Person::connectPorts, kPorts>
+                                             ("spooler",   looking, "The ports that the print spooler has from now on, for `GetAvailablePorts`; without a name it has none, and its enumeration fails.", Place::inMemory),
+        command<&Person::shoot, kFile>       ("shot",      looking, "Writes a PNG picture of the panel as it stands on the screen.", Place::inWindow),
+        command<&Session::quit>              ("quit",      looking, "Ends the program."),
     });
     // clang-format on
 }

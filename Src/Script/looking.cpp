@@ -2,9 +2,11 @@
 
 #include <concepts>
 #include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
 
 #include "Script/answers.h"
-#include "Script/session.h"
 #include "Script/text_of.h"
 
 namespace Orvo::Script::Looking {
@@ -88,43 +90,25 @@ std::string properties(const StoredSlider& slider) {
 
 std::string properties(const StoredStill& /*still*/) { return {}; }
 
-template <class Items>
-std::string listed(Session& session, const Items& items) {
-    for (const String& item : items) session.row(textOf(StringView(item)));
-    return resultIs(std::to_string(items.size()));
+std::string textOfItem(const String& item) { return textOf(StringView(item)); }
+
+using Lines = std::vector<std::string>;
+
+void add(Lines& lines, const LineSegment& line) {
+    lines.push_back("line " + textOf(line.from) + ' ' + textOf(line.to) + ' ' +
+                    textOf(line.colour));
 }
 
-// Lists what is drawn, and counts the rows.
-class DrawingList {
-public:
-    explicit DrawingList(Session& session) : session_(session) {}
-
-    void operator()(const LineSegment& line) {
-        row("line " + textOf(line.from) + ' ' + textOf(line.to) + ' ' + textOf(line.colour));
+void add(Lines& lines, const DrawnPolyline& polyline) {
+    for (std::size_t i = 1; i < polyline.points.size(); ++i) {
+        add(lines, LineSegment{polyline.points[i - 1], polyline.points[i], polyline.colour});
     }
+}
 
-    void operator()(const DrawnPolyline& polyline) {
-        for (std::size_t i = 1; i < polyline.points.size(); ++i) {
-            (*this)(LineSegment{polyline.points[i - 1], polyline.points[i], polyline.colour});
-        }
-    }
-
-    void operator()(const DrawnText& text) {
-        row("text " + textOf(text.at) + ' ' + textOf(StringView(text.text)) + ' ' +
-            textOf(text.colour) + ' ' + textOf(text.points));
-    }
-
-    [[nodiscard]] std::size_t count() const { return count_; }
-
-private:
-    void row(const std::string& text) {
-        session_.row(text);
-        ++count_;
-    }
-
-    Session& session_;
-    std::size_t count_ = 0;
-};
+void add(Lines& lines, const DrawnText& text) {
+    lines.push_back("text " + textOf(text.at) + ' ' + textOf(StringView(text.text)) + ' ' +
+                    textOf(text.colour) + ' ' + textOf(text.points));
+}
 
 std::string_view containerOf(const Layout::Widget& widget) {
     if (widget.container == Layout::kPanel) return "MarvaneAssistant";
@@ -150,59 +134,41 @@ std::string show(Session& session, std::optional<WidgetId> widget) {
 std::string items(Session& session, WidgetId widget) {
     const Store& widgets = session.person().store();
     if (Layout::kindOf(widget) == Kind::combo) {
-        return listed(session, widgets.get<StoredCombo>(widget).state().items);
+        return listed(session, widgets.get<StoredCombo>(widget).state().items, textOfItem);
     }
-    return listed(session, widgets.get<StoredList>(widget).state().items);
+    return listed(session, widgets.get<StoredList>(widget).state().items, textOfItem);
 }
 
 std::string drawing(Session& session, WidgetId picture) {
-    DrawingList list(session);
+    Lines lines;
     const Store& widgets = session.person().store();
     for (const Drawn& drawn : widgets.get<StoredPicture>(picture).state().drawing) {
-        std::visit(list, drawn);
+        std::visit([&lines](const auto& one) { add(lines, one); }, drawn);
     }
-    return resultIs(std::to_string(list.count()));
+    return listed(session, lines, std::identity());
 }
 
 std::string widgets(Session& session) {
-    for (const Layout::Widget& widget : Layout::kWidgets) {
-        session.row(std::string(widget.name)
-                        .append(" ")
-                        .append(nameOf(widget.style.kind))
-                        .append(" ")
-                        .append(containerOf(widget)));
-    }
-    return resultIs(std::to_string(Layout::kWidgetCount));
+    return listed(session, Layout::kWidgets, [](const Layout::Widget& widget) {
+        return std::string(widget.name)
+            .append(" ")
+            .append(nameOf(widget.style.kind))
+            .append(" ")
+            .append(containerOf(widget));
+    });
 }
 
-std::string set(Session& session, WidgetId widget, LayoutProperty property, bool value) {
+void set(Session& session, WidgetId widget, LayoutProperty property, bool value) {
     Store& widgets = session.person().store();
     if (property == LayoutProperty::enabled) {
         widgets.enable(widget, value);
     } else {
         widgets.show(widget, value);
     }
-    return ok();
 }
 
-std::string pointer(Session& session, Widgets::Pointer pointer) {
+void pointer(Session& session, Widgets::Pointer pointer) {
     session.person().store().mousePointer().setPointer(pointer);
-    return ok();
-}
-
-std::string spooler(Session& session, const Runtime::Ports& ports) {
-    session.person().connectPorts(ports);
-    return ok();
-}
-
-std::string shot(Session& session, const String& file) {
-    session.person().shoot(file);
-    return ok();
-}
-
-std::string quit(Session& session) {
-    session.quit();
-    return ok();
 }
 
 }  // namespace Orvo::Script::Looking

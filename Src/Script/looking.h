@@ -6,7 +6,7 @@
 #include "Script/argument_types.h"
 
 // The commands that look at the panel or change its layout. Each function returns its closing
-// line.
+// line, unless that is always the same.
 namespace Orvo::Script::Looking {
 
 /// A widget as `show` prints it.
@@ -16,10 +16,7 @@ std::string show(Session& session, std::optional<WidgetId> widget);
 std::string items(Session& session, WidgetId widget);
 std::string drawing(Session& session, WidgetId picture);
 std::string widgets(Session& session);
-std::string set(Session& session, WidgetId widget, LayoutProperty property, bool value);
-std::string pointer(Session& session, Widgets::Pointer pointer);
-std::string spooler(Session& session, const Runtime::Ports& ports);
-std::string shot(Session& session, const String& file);
-std::string quit(Session& session);
+void set(Session& session, WidgetId widget, LayoutProperty property, bool value);
+void pointer(Session& session, Widgets::Pointer pointer);
 
 }  // namespace Orvo::Script::Looking

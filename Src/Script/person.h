@@ -4,6 +4,7 @@
 
 #include "Orvo/ports/port_records.h"
 #include "Orvo/store/store.h"
+#include "Orvo/values/error.h"
 
 namespace Orvo::Script {
 
@@ -20,10 +21,14 @@ public:
     virtual void wait(std::chrono::milliseconds time) { store().advance(time); }
 
     /// Writes a PNG picture of the panel. Throws Error when that fails, or there is no window.
-    virtual void shoot(const String& file);
+    virtual void shoot(const String& /*file*/) {
+        throw Error(70, "There is no window to take a picture of");
+    }
     /// The ports that the print spooler has from now on; without any its enumeration fails. Throws
     /// Error where the spooler is a machine's.
-    virtual void connectPorts(Runtime::Ports ports);
+    virtual void connectPorts(Runtime::Ports /*ports*/) {
+        throw Error(70, "The ports are the machine's");
+    }
 };
 
 }  // namespace Orvo::Script

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Orvo/core/call_listener.h"
+#include "Orvo/core/event_table.h"
 #include "Script/panel_owner.h"
 #include "Script/record_file.h"
 

@@ -4,10 +4,12 @@
 #include <cerrno>
 #include <cstdio>
 #include <system_error>
-#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
+
+#include "Script/buffered_output.h"
+#include "Script/line_reader.h"
 
 namespace Orvo::Script {
 namespace {
@@ -30,55 +32,38 @@ int open(const std::string& file) {
 
 }  // namespace
 
-ScriptRunner::ScriptRunner(PanelOwner& owner, Person& person, const Grammar& grammar,
-                           int descriptor, std::string name, AtComplaint atComplaint,
-                           std::function<void()> beforeWaiting)
-    : session_(owner, person, grammar, [this](std::string_view line) { output_.line(line); }),
-      lines_(descriptor,
-             [this, beforeWaiting = std::move(beforeWaiting)] {
-                 output_.flush();
-                 if (beforeWaiting) beforeWaiting();
-             }),
-      name_(std::move(name)),
-      atComplaint_(atComplaint) {}
-
-bool ScriptRunner::run() {
-    bool isUnderstood = true;
-    while (!session_.hasQuit() && (isUnderstood || atComplaint_ == AtComplaint::goOn)) {
-        auto line = lines_.next();
-        if (!line) break;
-        if (++lineNumber_ == 1) line = withoutByteOrderMark(*line);
-        const auto complaint = session_.run(*line);
-        if (complaint) report(*complaint, *line);
-        isUnderstood = isUnderstood && !complaint;
-    }
-    output_.flush();
-    return isUnderstood;
-}
-
-void ScriptRunner::report(const Misunderstood& complaint, std::string_view line) {
-    output_.flush();
-    std::fprintf(stderr, "%s\n", placed(complaint, name_, lineNumber_, line).c_str());
-}
-
-std::string placed(const Misunderstood& complaint, const std::string& name, std::size_t lineNumber,
-                   std::string_view line) {
-    return name + ':' + std::to_string(lineNumber) + ':' +
-           std::to_string(columnAt(line, complaint.offset)) + ": " + complaint.text;
-}
-
-std::string_view withoutByteOrderMark(std::string_view line) {
-    if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
-    return line;
+std::optional<std::string> ScriptLines::run(std::string_view line) {
+    const bool isMarked = ++lineNumber_ == 1 && line.starts_with(kByteOrderMark);
+    if (isMarked) line.remove_prefix(kByteOrderMark.size());
+    const auto complaint = session_.run(line);
+    if (!complaint) return std::nullopt;
+    return name_ + ':' + std::to_string(lineNumber_) + ':' +
+           std::to_string(columnAt(line, complaint->offset)) + ": " + complaint->text;
 }
 
 Status runScript(PanelOwner& owner, Person& person, const Grammar& grammar, const std::string& file,
                  AtComplaint atComplaint, const std::function<void(int)>& beforeWaiting) {
     const bool isInput = file == "-";
     const int descriptor = isInput ? STDIN_FILENO : open(file);
-    ScriptRunner script(owner, person, grammar, descriptor, isInput ? "<stdin>" : file, atComplaint,
-                        [&] { beforeWaiting(descriptor); });
-    return script.run() ? done : notUnderstood;
+    BufferedOutput output;
+    Session session(owner, person, grammar, [&](std::string_view line) { output.line(line); });
+    ScriptLines script(session, isInput ? "<stdin>" : file);
+    LineReader reader(descriptor, [&] {
+        output.flush();
+        beforeWaiting(descriptor);
+    });
+    Status status = done;
+    while (!session.hasQuit() && (status == done || atComplaint == AtComplaint::goOn)) {
+        const auto line = reader.next();
+        if (!line) break;
+        const auto complaint = script.run(*line);
+        if (!complaint) continue;
+        status = notUnderstood;
+        output.flush();
+        std::fprintf(stderr, "%s\n", complaint->c_str());
+    }
+    output.flush();
+    return status;
 }
 
 }  // namespace Orvo::Script

@@ -17,6 +17,11 @@ Error outOfStackSpace() { return {28, "Out of stack space"}; }
 
 std::string failure(const Error& error) { return "! " + textOf(error); }
 
+bool isForNoItem(const Runtime::Deed& deed, const Runtime::Store& store) {
+    return deed.verb == Runtime::Deed::Verb::pick && store.acceptsInput(deed.widget) &&
+           !store.get<Runtime::StoredCombo>(deed.widget).hasItem(deed.text);
+}
+
 }  // namespace
 
 // A command while it runs, with the first error that it left to nobody.
@@ -111,6 +116,13 @@ void Session::forget(const Event& event) {
 
 void Session::forgetHandlers() {
     for (const Event& event : kEvents) forget(event);
+}
+
+void Session::perform(const Runtime::Deed& deed) {
+    if (isForNoItem(deed, person().store())) {
+        throw Misunderstood{"the list has no item " + textOf(StringView(deed.text))};
+    }
+    person().perform(deed);
 }
 
 void Session::renew() {

@@ -13,6 +13,7 @@
 #include <variant>
 #include <vector>
 
+#include "Orvo/core/event_table.h"
 #include "Script/command.h"
 #include "Script/panel_owner.h"
 #include "Script/person.h"
@@ -62,6 +63,8 @@ public:
     /// prompt; and where that ends for an event.
     void queueCommand(ParsedCommand command) { queue_.emplace_back(std::move(command)); }
     void queueResumption() { queue_.emplace_back(Resumption{}); }
+    /// What the person does. Throws Misunderstood when it is for an item that isn't in the list.
+    void perform(const Runtime::Deed& deed);
     void renew();
     void quit() { hasQuit_ = true; }
 

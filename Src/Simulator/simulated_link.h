@@ -27,7 +27,6 @@ public:
     /// Hands over the messages that have arrived.
     void receive(const std::function<void(const Message&)>& receiver);
 
-    [[nodiscard]] Integer amplifierId() const { return id_; }
     /// Talks to another amplifier from now on. What was on its way is lost.
     void select(Integer id);
 

@@ -61,7 +61,7 @@ TEST(Help, IsThereForEveryCommandOfAPlace) {
     EXPECT_FALSE(help("get Mute 1", kInMemory));
 }
 
-TEST(Help, givesTheContractsOfWhatHasTheName) {
+TEST(Help, GivesTheContractsOfWhatHasTheName) {
     EXPECT_EQ(help("help reset", kInMemory), "event reset\nNever raised.");
     EXPECT_EQ(help("help poweron", kInMemory),
               "get PowerOn\nThe power state: false at first, then as the host wrote it.\n"

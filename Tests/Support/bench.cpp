@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "Orvo/core/event_table.h"
 #include "Orvo/values/text.h"
 
 namespace Orvo::Tests {

@@ -93,11 +93,8 @@ void SimulatedHost::ChangeAmpId(Integer& intIdDevice) {
 }
 
 void SimulatedHost::runQuickTest() {
-    if (isConnected_) {
-        quickTest_.begin(now_);
-    } else {
-        tell("Not connected");
-    }
+    if (!isConnected_) return tell("Not connected");
+    quickTest_.begin(now_);
 }
 
 bool SimulatedHost::ask(const Request& request) {

@@ -51,14 +51,11 @@ public:
     /// is lost before the last row.
     void runQuickTest();
 
-    [[nodiscard]] bool isConnected() const { return isConnected_; }
     /// Since the last word from the amplifier that could be understood; since the beginning when
     /// there was none yet. A few tenths of a second at most when all is well.
     [[nodiscard]] std::optional<Simulator::Milliseconds> sinceLastWord() const override {
         return now_ - lastWord_;
     }
-    /// The id of the amplifier at the other end.
-    [[nodiscard]] Integer amplifierId() const { return link_.amplifierId(); }
     /// How long the host has lived.
     [[nodiscard]] Simulator::Milliseconds now() const { return now_; }
 

@@ -15,8 +15,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Read-only mode takes it away from the person.
-
 // Why a file can't be opened this way, if it can't.
 std::optional<std::string> obstacle(const std::string& file, std::ios::openmode mode) {
     std::fstream stream(file, mode);
@@ -131,8 +129,7 @@ void ManagerSession::startReplay(const std::string& file) {
         return observer_.warn({"Not replayed", "The session can't be read.", *reason});
     }
     stopRecording();
-    station_.connect(
-        [this, file] { return std::make_unique<ReplayDevice>(owner_, person_, file); });
+    station_.connect([this, file] { return std::make_unique<Replay>(owner_, person_, file); });
     owner_.renew();
 }
 
@@ -143,13 +140,12 @@ void ManagerSession::stopReplay() {
     observer_.say("The replay is over");
 }
 
-const Script::Replay* ManagerSession::replay() const {
-    const auto* device = dynamic_cast<ReplayDevice*>(station_.device());
-    return device == nullptr ? nullptr : &device->replay();
+const Replay* ManagerSession::replay() const {
+    return dynamic_cast<const Replay*>(station_.device());
 }
 
 void ManagerSession::endReplayThatIsOver() {
-    const Script::Replay* replay = this->replay();
+    const Replay* replay = this->replay();
     if (replay == nullptr || !replay->isOver()) return;
     const auto complaint = replay->complaint();
     stopReplay();

@@ -7,7 +7,7 @@
 
 #include "Manager/Host/simulated_host.h"
 #include "Manager/Link/link_address.h"
-#include "Manager/Session/replay_device.h"
+#include "Manager/Session/replay.h"
 #include "Manager/Station/station.h"
 #include "Script/recorder.h"
 
@@ -77,7 +77,7 @@ private:
     void serveFreshPanels();
     void panelRenewed();
     void listenToErrors();
-    [[nodiscard]] const Script::Replay* replay() const;
+    [[nodiscard]] const Replay* replay() const;
     void endHourglass(std::chrono::milliseconds time);
     void endReplayThatIsOver();
 

@@ -67,7 +67,7 @@ void Station::advance(Milliseconds elapsed) {
 Situation Station::situation() const {
     const auto& lamp = owner_.store().get<Runtime::StoredShape>(Layout::kCommon.linkLamp);
     return {.connectedTo = isConnected() ? device_->name() : "",
-            .isLinkUp = lamp.fillStyle() == Widgets::FillStyle::solid,
+            .isLinkUp = lamp.state().isLit(),
             .silence = isConnected() ? device_->sinceLastWord() : std::nullopt,
             .showsOldValues = showsOldValues_};
 }

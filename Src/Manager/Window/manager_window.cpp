@@ -11,7 +11,6 @@
 #include <QStatusBar>
 
 #include "Manager/Window/warning.h"
-#include "Manager/Window/zoom.h"
 #include "Orvo/ports/machine_platform.h"
 
 namespace Orvo::Manager {
@@ -34,11 +33,9 @@ ManagerWindow::ManagerWindow(const Options& options)
       statusLine_(new StatusLine),
       owner_(*panel_),
       session_(owner_, owner_, options.session, *this),
-      saver_(new FileSaver(*this)),
       menus_(new Menus(*this)),
       events_(new EventDock(session_.station().log(), menus_->eventActions(), this)) {
     layOut();
-    connect(saver_, &FileSaver::said, statusLine_, &StatusLine::say);
     selectTab(options.tab);
     zoomArea_->setZoom(options.zoom);
     startClock();

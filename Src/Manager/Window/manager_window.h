@@ -6,7 +6,7 @@
 
 #include "Manager/Session/manager_session.h"
 #include "Manager/Window/event_dock.h"
-#include "Manager/Window/file_saver.h"
+#include "Manager/Window/files.h"
 #include "Manager/Window/menus.h"
 #include "Manager/Window/options.h"
 #include "Manager/Window/status_line.h"
@@ -79,6 +79,11 @@ private:
     void showSituation();
     void showModes();
     [[nodiscard]] QString messageLog() const;
+    /// Asks where to.
+    void save(const SavedFile& file);
+    void write(const SavedFile& file, const QString& path);
+    using UseOfSession = void (ManagerSession::*)(const std::string& file);
+    void askForSession(FileQuestion question, UseOfSession use);
 
     const Options options_;
     Window::PanelWidget* const panel_;
@@ -86,7 +91,6 @@ private:
     StatusLine* const statusLine_;
     WindowPanel owner_;
     ManagerSession session_;
-    FileSaver* const saver_;
     Menus* const menus_;
     EventDock* const events_;
     QTimer tick_;
@@ -94,6 +98,7 @@ private:
     QElapsedTimer sinceTick_;
     int zoomBefore_ = 100;
     QString linkAddress_;
+    QString savedDirectory_;
     QString sessionDirectory_;
 };
 

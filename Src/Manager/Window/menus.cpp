@@ -1,9 +1,9 @@
 #include "Manager/Window/menus.h"
 
+#include <QActionGroup>
 #include <QMenuBar>
 
 #include "Manager/Window/manager_window.h"
-#include "Manager/Window/zoom.h"
 #include "Orvo/layout/common_tab.h"
 #include "Orvo/store/store.h"
 
@@ -35,15 +35,20 @@ QAction* Menus::add(QMenu* menu, const QString& text, const QString& keys, const
 }
 
 QAction* Menus::addSwitch(QMenu* menu, const QString& text, const QString& keys,
-                          const Switch& command) {
+                          const Switch& command, const Condition& isOn) {
     auto* action = add(menu, text, keys, [] {});
     action->setCheckable(true);
     action->disconnect(this);
-    connect(action, &QAction::triggered, this, [this, command](bool isOn) {
-        command(isOn);
+    connect(action, &QAction::triggered, this, [this, command](bool isTicked) {
+        command(isTicked);
         window_.refresh();
     });
+    refreshes_.push_back([action, isOn] { action->setChecked(isOn()); });
     return action;
+}
+
+void Menus::enableWhile(QAction* action, const Condition& condition) {
+    refreshes_.push_back([action, condition] { action->setEnabled(condition()); });
 }
 
 void Menus::addFileMenu() {
@@ -62,13 +67,17 @@ void Menus::addFileMenu() {
 }
 
 void Menus::addSessions(QMenu* menu) {
-    recording_ = addSwitch(menu, "&Record a session…", "F3", [this](bool isOn) {
+    const auto record = [this](bool isOn) {
         isOn ? window_.askForRecording() : session_.stopRecording();
-    });
-    replay_ = addSwitch(menu, "R&eplay a session…", "F5", [this](bool isOn) {
+    };
+    const auto replay = [this](bool isOn) {
         isOn ? window_.askForReplay() : session_.stopReplay();
-    });
-    stopReplay_ = add(menu, "St&op the replay", "Esc", [this] { session_.stopReplay(); });
+    };
+    const auto isReplaying = [this] { return session_.isReplaying(); };
+    addSwitch(menu, "&Record a session…", "F3", record, [this] { return session_.isRecording(); });
+    addSwitch(menu, "R&eplay a session…", "F5", replay, isReplaying);
+    enableWhile(add(menu, "St&op the replay", "Esc", [this] { session_.stopReplay(); }),
+                isReplaying);
 }
 
 void Menus::addChannels(QMenu* menu, const QString& firstKey,
@@ -82,23 +91,32 @@ void Menus::addChannels(QMenu* menu, const QString& firstKey,
 
 void Menus::addConnectMenu() {
     auto* menu = addMenu("&Connect");
-    simulator_ = addSwitch(menu, "&Simulated amplifier", "F6",
-                           [this](bool) { session_.connectSimulator(); });
-    link_ = addSwitch(menu, "&Link…", "F7", [this](bool) { window_.askForLink(); });
-    nothing_ = addSwitch(menu, "&Nothing", "F8", [this](bool) { session_.connectNothing(); });
-    for (QAction* action : {simulator_, link_, nothing_}) connection_.addAction(action);
+    const auto isConnected = [this] { return session_.station().isConnected(); };
+    const auto isLink = [this, isConnected] {
+        return isConnected() && !isSimulated() && !session_.isReplaying();
+    };
+    auto* group = new QActionGroup(this);
+    group->addAction(addSwitch(
+        menu, "&Simulated amplifier", "F6", [this](bool) { session_.connectSimulator(); },
+        [this] { return isSimulated(); }));
+    group->addAction(addSwitch(
+        menu, "&Link…", "F7", [this](bool) { window_.askForLink(); }, isLink));
+    group->addAction(addSwitch(
+        menu, "&Nothing", "F8", [this](bool) { session_.connectNothing(); },
+        [isConnected] { return !isConnected(); }));
 }
 
 void Menus::addAmplifierMenu() {
     auto* menu = addMenu("&Amplifier");
-    quickTest_ = add(menu, "Run the &quick test", "F9", [this] {
+    auto* quickTest = add(menu, "Run the &quick test", "F9", [this] {
         if (auto* simulator = session_.simulator()) simulator->runQuickTest();
     });
-    faults_ = menu->addMenu("&Faults of the simulator");
-    addFaults(faults_);
+    enableWhile(quickTest, [this] { return isSimulated(); });
+    addFaults(menu->addMenu("&Faults of the simulator"));
     menu->addSeparator();
-    readOnly_ =
-        addSwitch(menu, "&Read-only mode", "F2", [this](bool isOn) { session_.setReadOnly(isOn); });
+    addSwitch(
+        menu, "&Read-only mode", "F2", [this](bool isOn) { session_.setReadOnly(isOn); },
+        [this] { return session_.isReadOnly(); });
 }
 
 void Menus::addFaults(QMenu* menu) {
@@ -106,10 +124,15 @@ void Menus::addFaults(QMenu* menu) {
     for (const Simulator::FaultRow& row : Simulator::kFaults) {
         const QString text =
             QString::fromUtf8(row.description.data(), qsizetype(row.description.size()));
-        addSwitch(menu, QString("&%1 ").arg(number) + text, QString("Ctrl+F, %1").arg(number),
-                  [this, fault = row.fault](bool isOn) {
-                      if (auto* simulator = session_.simulator()) simulator->set(fault, isOn);
-                  });
+        auto* action = addSwitch(
+            menu, QString("&%1 ").arg(number) + text, QString("Ctrl+F, %1").arg(number),
+            [this, fault = row.fault](bool isOn) {
+                if (auto* simulator = session_.simulator()) simulator->set(fault, isOn);
+            },
+            [this, fault = row.fault] {
+                return isSimulated() && session_.simulator()->has(fault);
+            });
+        enableWhile(action, [this] { return isSimulated(); });
         ++number;
     }
 }
@@ -119,8 +142,12 @@ void Menus::addViewMenu() {
     int tab = 1;
     for (const auto caption : Layout::kTabCaptions) {
         const QString text = QString::fromUtf16(caption.data(), qsizetype(caption.size()));
-        tabs_ += add(menu, QString("&%1 ").arg(tab) + text, QString("Ctrl+%1").arg(tab),
-                     [this, tab] { window_.selectTab(tab); });
+        auto* action = add(menu, QString("&%1 ").arg(tab) + text, QString("Ctrl+%1").arg(tab),
+                           [this, tab] { window_.selectTab(tab); });
+        enableWhile(action, [this, tab] {
+            const auto& store = window_.panelWidget().store();
+            return store.get<Runtime::StoredTabs>(Layout::kTabs.id).isTabEnabled(tab - 1);
+        });
         ++tab;
     }
     menu->addSeparator();
@@ -135,23 +162,28 @@ void Menus::addZoom(QMenu* menu) {
     })->setShortcuts({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")});
     add(menu, "Zoom &out", "Ctrl+-", [this] { window_.zoomOut(); });
     add(menu, "Zoom &100 %", "Ctrl+0", [this] { window_.setZoom(kPlainZoom); });
-    fullScreen_ =
-        addSwitch(menu, "&Full screen", "F11", [this](bool isOn) { window_.setFullScreen(isOn); });
+    addSwitch(
+        menu, "&Full screen", "F11", [this](bool isOn) { window_.setFullScreen(isOn); },
+        [this] { return window_.isFullScreen(); });
 }
 
 void Menus::addEvents(QMenu* menu) {
-    eventView_ =
-        addSwitch(menu, "&Event view", "Ctrl+E", [this](bool isOn) { window_.showEvents(isOn); });
-    eventDetail_ = addSwitch(menu, "Events with &readings", "Ctrl+Shift+E", [this](bool isOn) {
-        session_.station().conversation().setDetail(isOn ? Detail::everything : Detail::changes);
-    });
+    auto& station = session_.station();
+    addSwitch(
+        menu, "&Event view", "Ctrl+E", [this](bool isOn) { window_.showEvents(isOn); },
+        [this] { return window_.areEventsShown(); });
+    auto* detail = addSwitch(
+        menu, "Events with &readings", "Ctrl+Shift+E",
+        [&station](bool isOn) {
+            station.conversation().setDetail(isOn ? Detail::everything : Detail::changes);
+        },
+        [&station] { return station.conversation().detail() == Detail::everything; });
     auto* copy = add(menu, "&Copy events", "Ctrl+Shift+C", [this] { window_.copyEvents(); });
-    auto* clear =
-        add(menu, "C&lear events", "Ctrl+Shift+X", [this] { session_.station().log().clear(); });
+    auto* clear = add(menu, "C&lear events", "Ctrl+Shift+X", [&station] { station.log().clear(); });
     copy->setIconText("Copy");
     clear->setIconText("Clear");
-    eventDetail_->setIconText("With readings");
-    eventActions_ = {copy, clear, eventDetail_};
+    detail->setIconText("With readings");
+    eventActions_ = {copy, clear, detail};
 }
 
 void Menus::addHelpMenu() {
@@ -162,40 +194,10 @@ void Menus::addHelpMenu() {
     })->setMenuRole(QAction::AboutRole);
 }
 
-void Menus::refreshConnection() {
-    const Station& station = session_.station();
-    const bool isSimulator = session_.simulator() != nullptr;
-    const bool isReplay = session_.isReplaying();
-    recording_->setChecked(session_.isRecording());
-    replay_->setChecked(isReplay);
-    stopReplay_->setEnabled(isReplay);
-    simulator_->setChecked(isSimulator);
-    link_->setChecked(station.isConnected() && !isSimulator && !isReplay);
-    nothing_->setChecked(!station.isConnected());
-}
-
-void Menus::refreshTabs() {
-    const auto& store = window_.panelWidget().store();
-    const auto& tabs = store.get<Runtime::StoredTabs>(Layout::kTabs.id);
-    int tab = 0;
-    for (QAction* action : tabs_) action->setEnabled(tabs.isTabEnabled(tab++));
-}
-
 void Menus::refresh() {
-    refreshConnection();
-    refreshTabs();
-    const auto* simulator = session_.simulator();
-    quickTest_->setEnabled(simulator != nullptr);
-    const auto faults = faults_->actions();
-    for (const Simulator::FaultRow& row : Simulator::kFaults) {
-        auto* action = faults[qsizetype(Simulator::indexOf(row.fault))];
-        action->setEnabled(simulator != nullptr);
-        action->setChecked(simulator != nullptr && simulator->has(row.fault));
-    }
-    readOnly_->setChecked(session_.isReadOnly());
-    fullScreen_->setChecked(window_.isFullScreen());
-    eventView_->setChecked(window_.areEventsShown());
-    eventDetail_->setChecked(session_.station().conversation().detail() == Detail::everything);
+    for (const auto& refresh : refreshes_) refresh();
 }
+
+bool Menus::isSimulated() const { return session_.simulator() != nullptr; }
 
 }  // namespace Orvo::Manager

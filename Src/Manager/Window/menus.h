@@ -1,9 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include <QAction>
-#include <QActionGroup>
 #include <QMenu>
 #include <QObject>
 
@@ -28,11 +28,14 @@ public:
 private:
     using Command = std::function<void()>;
     using Switch = std::function<void(bool)>;
+    using Condition = std::function<bool()>;
 
     QMenu* addMenu(const QString& title);
     QAction* add(QMenu* menu, const QString& text, const QString& keys, const Command& command);
-    QAction* addSwitch(QMenu* menu, const QString& text, const QString& keys,
-                       const Switch& command);
+    QAction* addSwitch(QMenu* menu, const QString& text, const QString& keys, const Switch& command,
+                       const Condition& isOn);
+    void enableWhile(QAction* action, const Condition& condition);
+    [[nodiscard]] bool isSimulated() const;
 
     void addFileMenu();
     void addSessions(QMenu* menu);
@@ -44,25 +47,10 @@ private:
     void addZoom(QMenu* menu);
     void addEvents(QMenu* menu);
     void addHelpMenu();
-    void refreshConnection();
-    void refreshTabs();
 
     ManagerWindow& window_;
     ManagerSession& session_;
-    QAction* recording_ = nullptr;
-    QAction* replay_ = nullptr;
-    QAction* stopReplay_ = nullptr;
-    QActionGroup connection_{this};
-    QList<QAction*> tabs_;
-    QAction* simulator_ = nullptr;
-    QAction* link_ = nullptr;
-    QAction* nothing_ = nullptr;
-    QAction* quickTest_ = nullptr;
-    QMenu* faults_ = nullptr;
-    QAction* readOnly_ = nullptr;
-    QAction* fullScreen_ = nullptr;
-    QAction* eventView_ = nullptr;
-    QAction* eventDetail_ = nullptr;
+    std::vector<std::function<void()>> refreshes_;
     QList<QAction*> eventActions_;
 };
 

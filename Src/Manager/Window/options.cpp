@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
-#include "Manager/Window/zoom.h"
+#include "Manager/Window/zoom_area.h"
 #include "Orvo/layout/common_tab.h"
 
 namespace Orvo::Manager {

@@ -52,7 +52,7 @@ int runScript(const Options& options) {
         window.show();
         const auto atComplaint =
             options.keepsGoing ? Script::AtComplaint::goOn : Script::AtComplaint::stop;
-        return Script::runScript(panel, panel, WindowPanel::kGrammar,
+        return Script::runScript(panel, panel, {.place = Script::Place::inWindow},
                                  QFile::encodeName(options.script).toStdString(), atComplaint,
                                  [&window](int descriptor) { live(window, descriptor); });
     } catch (const WindowClosed&) {

@@ -5,8 +5,7 @@
 #include <QWidget>
 
 #include "Manager/Station/status_text.h"
-#include "Manager/Window/alert_label.h"
-#include "Manager/Window/elided_label.h"
+#include "Manager/Window/labels.h"
 
 namespace Orvo::Manager {
 

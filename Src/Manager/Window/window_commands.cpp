@@ -1,12 +1,14 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
 
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/shortcuts.h"
-#include "Manager/Window/zoom.h"
+#include "Manager/Window/warning.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
 
@@ -20,15 +22,34 @@ QString channelName(Integer channel) { return "channel-" + QString::number(chann
 
 }  // namespace
 
+void ManagerWindow::save(const SavedFile& file) {
+    askForFile(*this,
+               {.title = "Save the " + file.what,
+                .kind = file.kind,
+                .ending = QFileInfo(file.name).suffix(),
+                .directory = savedDirectory_,
+                .name = dated(file.name)},
+               [this, file](const QString& path) { write(file, path); });
+}
+
+void ManagerWindow::write(const SavedFile& file, const QString& path) {
+    const QString error = Manager::write(path, file.content);
+    const QString place = QDir::toNativeSeparators(path);
+    if (!error.isEmpty()) {
+        return showWarning(*this, "Not saved", "The " + file.what + " could not be saved.",
+                           place + ": " + error);
+    }
+    savedDirectory_ = QFileInfo(path).absolutePath();
+    statusLine_->say("Saved " + place);
+}
+
 void ManagerWindow::savePicture() {
-    saver_->ask(
-        {"picture of the panel", "PNG pictures", "marvane-panel.png", toPng(pictureOf(*panel_))});
+    save({"picture of the panel", "PNG pictures", "marvane-panel.png", toPng(pictureOf(*panel_))});
 }
 
 void ManagerWindow::saveScopePicture(Integer channel) {
-    saver_->ask({"picture of the scope", "PNG pictures",
-                 "marvane-scope-" + channelName(channel) + ".png",
-                 toPng(pictureOfScope(*panel_, channel))});
+    save({"picture of the scope", "PNG pictures", "marvane-scope-" + channelName(channel) + ".png",
+          toPng(pictureOfScope(*panel_, channel))});
 }
 
 void ManagerWindow::saveTrace(Integer channel) {
@@ -36,8 +57,8 @@ void ManagerWindow::saveTrace(Integer channel) {
         return statusLine_->say("There is no trace on channel " + QString::number(channel));
     }
     const std::string csv = traceCsv(session_.station().traces().samples(channel));
-    saver_->ask({"samples of the trace", "Comma-separated values",
-                 "marvane-trace-" + channelName(channel) + ".csv", QByteArray::fromStdString(csv)});
+    save({"samples of the trace", "Comma-separated values",
+          "marvane-trace-" + channelName(channel) + ".csv", QByteArray::fromStdString(csv)});
 }
 
 QString ManagerWindow::messageLog() const {
@@ -55,7 +76,7 @@ void ManagerWindow::copyMessageLog() {
 }
 
 void ManagerWindow::saveMessageLog() {
-    saver_->ask({"message log", "Texts", "marvane-log.txt", messageLog().toUtf8() + '\n'});
+    save({"message log", "Texts", "marvane-log.txt", messageLog().toUtf8() + '\n'});
 }
 
 void ManagerWindow::selectTab(int tab) {

@@ -2,7 +2,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 
-#include "Manager/Window/file_choice.h"
+#include "Manager/Window/files.h"
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/warning.h"
 
@@ -10,8 +10,6 @@
 namespace Orvo::Manager {
 namespace {
 
-constexpr auto kSessions = "Sessions in panel script";
-constexpr auto kSessionEnding = "txt";
 constexpr int kDialogWidth = 420;
 
 std::string nativeName(const QString& file) { return QFile::encodeName(file).toStdString(); }
@@ -48,32 +46,25 @@ void ManagerWindow::askForLink() {
     dialog->open();
 }
 
+void ManagerWindow::askForSession(FileQuestion question, UseOfSession use) {
+    question.kind = "Sessions in panel script";
+    question.ending = "txt";
+    question.directory = sessionDirectory_;
+    askForFile(*this, question, [this, use](const QString& file) {
+        sessionDirectory_ = QFileInfo(file).absolutePath();
+        (session_.*use)(nativeName(file));
+        refresh();
+    });
+}
+
 void ManagerWindow::askForRecording() {
-    askForFile(*this,
-               {.title = "Record the session",
-                .kind = kSessions,
-                .ending = kSessionEnding,
-                .directory = sessionDirectory_,
-                .name = dated("marvane-session.txt")},
-               [this](const QString& file) {
-                   sessionDirectory_ = QFileInfo(file).absolutePath();
-                   session_.startRecording(nativeName(file));
-                   refresh();
-               });
+    askForSession({.title = "Record the session", .name = dated("marvane-session.txt")},
+                  &ManagerSession::startRecording);
 }
 
 void ManagerWindow::askForReplay() {
-    askForFile(*this,
-               {.title = "Replay a session",
-                .kind = kSessions,
-                .ending = kSessionEnding,
-                .mode = QFileDialog::AcceptOpen,
-                .directory = sessionDirectory_},
-               [this](const QString& file) {
-                   sessionDirectory_ = QFileInfo(file).absolutePath();
-                   session_.startReplay(nativeName(file));
-                   refresh();
-               });
+    askForSession({.title = "Replay a session", .mode = QFileDialog::AcceptOpen},
+                  &ManagerSession::startReplay);
 }
 
 }  // namespace Orvo::Manager

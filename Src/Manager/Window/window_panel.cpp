@@ -2,7 +2,7 @@
 
 #include <QAbstractButton>
 
-#include "Manager/Window/file_saver.h"
+#include "Manager/Window/files.h"
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/pointed_input.h"
 #include "Orvo/window/drawing/text.h"
@@ -53,13 +53,12 @@ void WindowPanel::perform(const Runtime::Deed& deed) {
 
 // Null when it is nothing for a control of the toolkit's.
 QWidget* WindowPanel::controlFor(const Runtime::Deed& deed) const {
-    const auto& widget = Layout::describe(deed.widget);
-    const auto kind = widget.style.kind;
-    const auto name = QString::fromLatin1(widget.name.data(), qsizetype(widget.name.size()));
+    const auto kind = Layout::kindOf(deed.widget);
+    QWidget* control = window_.control(deed.widget);
     if (kind == Layout::Kind::list || kind == Layout::Kind::combo) {
-        return isTyped(deed) ? window_.findChild<QWidget*>(name) : nullptr;
+        return isTyped(deed) ? control : nullptr;
     }
-    return worksButton(deed) ? window_.findChild<QAbstractButton*>(name) : nullptr;
+    return worksButton(deed) ? qobject_cast<QAbstractButton*>(control) : nullptr;
 }
 
 }  // namespace Orvo::Manager

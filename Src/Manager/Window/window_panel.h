@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Orvo/window/panel_widget.h"
-#include "Script/command.h"
 #include "Script/panel_owner.h"
 #include "Script/person.h"
 
@@ -10,10 +9,6 @@ namespace Orvo::Manager {
 /// A window's panel. The person's mouse and keyboard go to the window's controls.
 class WindowPanel final : public Script::PanelOwner, public Script::Person {
 public:
-    /// What scripts on a window may say.
-    static constexpr Script::Grammar kGrammar{.speaker = Script::Grammar::Speaker::anyone,
-                                              .place = Script::Place::inWindow};
-
     explicit WindowPanel(Window::PanelWidget& window) : window_(window) {}
 
     MarvaneAssistant& panel() override { return window_.panel(); }

@@ -6,6 +6,15 @@
 
 namespace Orvo::Manager {
 
+// The sizes of the panel, in percent.
+constexpr int kSmallestZoom = 50;
+constexpr int kLargestZoom = 800;
+constexpr int kPlainZoom = 100;
+
+/// The next size that the zoom keys stop at; the end when there is none.
+int nextLarger(int zoom);
+int nextSmaller(int zoom);
+
 /// The panel at a size of choice, with scroll bars where the window is smaller.
 class ZoomArea final : public QScrollArea {
 public:

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <initializer_list>
 #include <span>
 #include <vector>
@@ -12,12 +11,6 @@
 #include "Orvo/values/error.h"
 
 namespace Orvo {
-
-/// Receives any event, late-bound: its dispatch id, and copies of its arguments to read or assign.
-using LateBoundSink = std::function<void(Long dispatchId, std::span<Value> arguments)>;
-
-/// What a host wants to be told of errors that nobody waits for.
-using ErrorHandler = std::function<void(const Error&)>;
 
 /// Ends what the panel is doing, without an error, because the panel has been released meanwhile.
 struct Released {};

@@ -1,6 +1,5 @@
 #include "Orvo/core/late_binding.h"
 
-#include "Orvo/core/event_hub.h"
 #include "Orvo/values/ignoring_case.h"
 
 namespace Orvo {

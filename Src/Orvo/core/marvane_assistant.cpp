@@ -34,7 +34,8 @@ auto callAloud(Panel& panel, const Member& member, const Act& act, const Argumen
             listeners.tell([&](CallListener* listener) { listener->returned(member, result); });
             return result;
         }
-    } catch (const Error& error) {
+    } catch (...) {
+        const Error error = currentError();
         listeners.tell([&](CallListener* listener) { listener->failed(member, error); });
         throw;
     }
@@ -98,8 +99,6 @@ InvokeResult MarvaneAssistant::invoke(Long dispatchId, MemberKind kind,
         const auto alive = enter();
         const Member& member = findMember(dispatchId, kind);
         return {.value = member.call(*this, convertArguments(member, arguments))};
-    } catch (const Released&) {
-        throw;
     } catch (...) {
         return {.error = currentError()};
     }

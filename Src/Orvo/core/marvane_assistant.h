@@ -5,7 +5,6 @@
 
 #include "Orvo/core/call_listener.h"
 #include "Orvo/core/connection.h"
-#include "Orvo/core/event_hub.h"
 #include "Orvo/core/events.h"
 #include "Orvo/core/interface.h"
 #include "Orvo/core/late_binding.h"

@@ -8,7 +8,6 @@
 
 #include "Orvo/layout/common_tab.h"
 #include "Orvo/layout/pair_tab.h"
-#include "Orvo/values/types.h"
 #include "Orvo/widgets/reference.h"
 
 // The whole widget tree as one table, and the references into it.
@@ -20,11 +19,7 @@ constexpr WidgetId kPanel = 0xFFFF;   // the panel itself, which contains the fi
 constexpr int kTimerInterval = 1500;  // milliseconds
 
 /// One widget as it is laid out.
-struct Widget {
-    std::string_view name;
-    Style style{};
-    std::u16string_view caption;
-    Place place;
+struct Widget : Row {
     WidgetId container = kPanel;
     int tab = 0;  ///< the container's tab that it belongs to, from 0
 };
@@ -51,30 +46,23 @@ constexpr Place twinPlace(const TwinRow& row) {
 class Expansion {
 public:
     constexpr Expansion() {
-        add(kRoot.name, kRoot.style, kRoot.caption, kRoot.place, kPanel, 0);
-        for (const Row& row : kCommonWidgets)
-            addToTab(kCommonTab, row.name, row.style, row.caption, row.place);
+        add(kRoot, kPanel, 0);
+        for (const Row& row : kCommonWidgets) add(row, 0, kCommonTab);
         for (const PairTab pair : {pair12, pair34}) addPairTab(pair);
     }
 
     [[nodiscard]] constexpr const auto& widgets() const { return widgets_; }
 
 private:
-    constexpr void add(std::string_view name, const Style& style, std::u16string_view caption,
-                       const Place& place, WidgetId container, int tab) {
-        widgets_[count_++] = {name, style, caption, place, container, tab};
-    }
-
-    constexpr void addToTab(int tab, std::string_view name, const Style& style,
-                            std::u16string_view caption, const Place& place) {
-        add(name, style, caption, place, 0, tab);
+    constexpr void add(const Row& row, WidgetId container, int tab) {
+        widgets_[count_++] = {row, container, tab};
     }
 
     constexpr void addTwin(PairTab pair, const TwinRow& row, WidgetId container, int tab) {
         if (pair == pair12)
-            return add(row.pair12, row.style, row.caption, row.place, container, tab);
+            return add({row.pair12, row.style, row.caption, row.place}, container, tab);
         const auto caption = row.other.itsCaption.empty() ? row.caption : row.other.itsCaption;
-        add(row.pair34, row.style, caption, twinPlace(row), container, tab);
+        add({row.pair34, row.style, caption, twinPlace(row)}, container, tab);
     }
 
     constexpr void addPairTab(PairTab pair) {
@@ -90,7 +78,7 @@ private:
         for (std::size_t i = 0; i < route.segments.size(); ++i) {
             Place place = route.segments[i];
             if (pair == pair34 && i == 0) place.width = either(route.pair34End, place.width);
-            addToTab(tab, pair == pair12 ? route.pair12[i] : route.pair34[i], line, u"", place);
+            add({pair == pair12 ? route.pair12[i] : route.pair34[i], line, u"", place}, 0, tab);
         }
     }
 
@@ -113,15 +101,15 @@ private:
             Place place = row.place;
             if (isLower) place.left -= row.lowerLeft;
             if (isLower) place.top += kLowerBlockDrop;
-            add(row.channels[channel], row.style, row.caption, place, container, 0);
+            add({row.channels[channel], row.style, row.caption, place}, container, 0);
         }
     }
 
     constexpr void addRailReadout(std::size_t rail, WidgetId container) {
         const bool isAux = rail % 2 == 1;
         for (const RailRow& row : kRailReadout) {
-            add(row.rails[rail], row.style, isAux ? row.auxCaption : row.powerCaption, row.place,
-                container, 0);
+            const auto caption = isAux ? row.auxCaption : row.powerCaption;
+            add({row.rails[rail], row.style, caption, row.place}, container, 0);
         }
     }
 

@@ -86,7 +86,7 @@ struct ChannelParts : PairParts {
     constexpr explicit ChannelParts(std::size_t channel)
         : PairParts(channel / 2), index(channel), block(kVolumeFrames[0], kVolumeFrames[channel]) {}
 
-    constexpr Named either(std::string_view upper, std::string_view lower) const {
+    [[nodiscard]] constexpr Named either(std::string_view upper, std::string_view lower) const {
         return its(index % 2 == 0 ? upper : lower);
     }
 

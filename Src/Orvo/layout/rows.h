@@ -35,19 +35,13 @@ struct Twin {
 
     [[nodiscard]] constexpr Twin caption(std::u16string_view text) const { return {text, differs}; }
     [[nodiscard]] constexpr Twin left(int twips) const {
-        Twin copy = *this;
-        copy.differs.left = twips;
-        return copy;
+        return {itsCaption, with(differs, &Place::left, twips)};
     }
     [[nodiscard]] constexpr Twin width(int twips) const {
-        Twin copy = *this;
-        copy.differs.width = twips;
-        return copy;
+        return {itsCaption, with(differs, &Place::width, twips)};
     }
     [[nodiscard]] constexpr Twin height(int twips) const {
-        Twin copy = *this;
-        copy.differs.height = twips;
-        return copy;
+        return {itsCaption, with(differs, &Place::height, twips)};
     }
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <type_traits>
 
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/kind.h"
@@ -8,6 +9,13 @@
 namespace Orvo::Layout {
 
 using Widgets::Kind;
+
+/// The same, but for one part.
+template <class Whole, class Part>
+constexpr Whole with(Whole whole, Part Whole::*part, std::type_identity_t<Part> value) {
+    whole.*part = value;
+    return whole;
+}
 
 enum class Face : std::uint8_t { arial, microgramma, serif, standard };
 
@@ -18,25 +26,13 @@ struct Font {
     bool isItalic = false;
     bool isUnderlined = false;
 
-    [[nodiscard]] constexpr Font sized(double newPoints) const {
-        Font copy = *this;
-        copy.points = newPoints;
-        return copy;
+    [[nodiscard]] constexpr Font sized(double size) const {
+        return with(*this, &Font::points, size);
     }
-    [[nodiscard]] constexpr Font bold() const {
-        Font copy = *this;
-        copy.isBold = true;
-        return copy;
-    }
-    [[nodiscard]] constexpr Font italic() const {
-        Font copy = *this;
-        copy.isItalic = true;
-        return copy;
-    }
+    [[nodiscard]] constexpr Font bold() const { return with(*this, &Font::isBold, true); }
+    [[nodiscard]] constexpr Font italic() const { return with(*this, &Font::isItalic, true); }
     [[nodiscard]] constexpr Font underlined() const {
-        Font copy = *this;
-        copy.isUnderlined = true;
-        return copy;
+        return with(*this, &Font::isUnderlined, true);
     }
 
     friend constexpr bool operator==(const Font&, const Font&) = default;
@@ -67,30 +63,11 @@ struct Style {
     bool isEnabled = true;
     bool isSelected = false;  ///< an option's value at creation
 
-    [[nodiscard]] constexpr Style hidden() const {
-        Style copy = *this;
-        copy.isVisible = false;
-        return copy;
-    }
-    [[nodiscard]] constexpr Style disabled() const {
-        Style copy = *this;
-        copy.isEnabled = false;
-        return copy;
-    }
-    [[nodiscard]] constexpr Style selected() const {
-        Style copy = *this;
-        copy.isSelected = true;
-        return copy;
-    }
+    [[nodiscard]] constexpr Style hidden() const { return with(*this, &Style::isVisible, false); }
+    [[nodiscard]] constexpr Style disabled() const { return with(*this, &Style::isEnabled, false); }
+    [[nodiscard]] constexpr Style selected() const { return with(*this, &Style::isSelected, true); }
     [[nodiscard]] constexpr Style wrapped() const {
-        Style copy = *this;
-        copy.flow = TextFlow::wrapped;
-        return copy;
-    }
-    [[nodiscard]] constexpr Style coloured(Colour newBack) const {
-        Style copy = *this;
-        copy.back = newBack;
-        return copy;
+        return with(*this, &Style::flow, TextFlow::wrapped);
     }
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Orvo/layout/roles.h"
-#include "Orvo/values/types.h"
+#include "Orvo/monitor/digit_readout.h"
+#include "Orvo/values/indexed.h"
 #include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
@@ -16,7 +16,10 @@ public:
     explicit RailReadouts(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
     /// Another pair than 1 and 2 is passed over. Error 13 for a negative value.
-    void set(Rail rail, Integer pair, Integer volts);
+    void set(Rail rail, Integer pair, Integer volts) {
+        const auto* found = entry(Layout::kPairs, pair);
+        if (found != nullptr) showNumber(widgets_, found->*rail, volts);
+    }
 
 private:
     Widgets::WidgetTree& widgets_;

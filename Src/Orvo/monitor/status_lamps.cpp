@@ -13,13 +13,11 @@ void StatusLamps::setProtection(Integer channel, Boolean value) {
 }
 
 void StatusLamps::setChannel(Widgets::ShapeRef Channel::*lamp, Integer channel, Boolean value) {
-    const Channel* found = entry(kChannels, channel);
-    if (found != nullptr) light(widgets_[found->*lamp], value);
+    if (const auto* found = entry(kChannels, channel)) light(widgets_[found->*lamp], value);
 }
 
 void StatusLamps::setPair(Widgets::ShapeRef Pair::*lamp, Integer pair, Boolean value) {
-    const Pair* found = entry(kPairs, pair);
-    if (found != nullptr) light(widgets_[found->*lamp], value);
+    if (const auto* found = entry(kPairs, pair)) light(widgets_[found->*lamp], value);
 }
 
 }  // namespace Orvo

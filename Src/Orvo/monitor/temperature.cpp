@@ -7,8 +7,7 @@ namespace Orvo {
 using Layout::kPairs;
 
 void Temperature::show(Integer pair, Integer degrees) {
-    const Layout::Pair* found = entry(kPairs, pair);
-    if (found != nullptr) showNumber(widgets_, found->temperature, degrees);
+    if (const auto* found = entry(kPairs, pair)) showNumber(widgets_, found->temperature, degrees);
 }
 
 void Temperature::runTimer(Integer pair, Boolean value) {

@@ -1,24 +1,15 @@
 #include "Orvo/ports/machine_spooler.h"
 
-#include <algorithm>
 #include <fstream>
-#include <string_view>
 #include <utility>
 
 #include "Orvo/ports/device_ports.h"
 #include "Orvo/values/ansi.h"
+#include "Orvo/values/ignoring_case.h"
 #include "Orvo/values/text.h"
 
 namespace Orvo::Runtime {
 namespace {
-
-char lowered(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-bool equalButForCase(std::string_view left, std::string_view right) {
-    return std::ranges::equal(left, right, {}, lowered, lowered);
-}
 
 std::string hostOf(const std::string& server) {
     const std::string host = server.starts_with("\\\\") ? server.substr(2) : server;
@@ -50,7 +41,7 @@ MachineSpooler::Listing MachineSpooler::list(const std::string& server) const {
 bool MachineSpooler::isThisMachine(const std::string& host) const {
     std::string ownName;
     std::getline(std::ifstream(root_ / "proc/sys/kernel/hostname"), ownName);
-    return host.empty() || equalButForCase(host, ownName);
+    return host.empty() || equalIgnoringCase<char>(host, ownName);
 }
 
 Ports MachineSpooler::localPorts() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvo/layout/roles.h"
 #include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo {
@@ -9,8 +10,8 @@ class MessageLog {
 public:
     explicit MessageLog(Widgets::WidgetTree& widgets) : widgets_(widgets) {}
 
-    void add(const String& line);
-    void clear();
+    void add(const String& line) { widgets_[Layout::kCommon.log].addItem(line); }
+    void clear() { widgets_[Layout::kCommon.log].clear(); }
 
 private:
     Widgets::WidgetTree& widgets_;

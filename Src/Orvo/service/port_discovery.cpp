@@ -13,13 +13,6 @@
 namespace Orvo {
 namespace {
 
-class NoSpooler final : public PortSpooler {
-    bool enumPorts(const std::string& /*server*/, Long /*level*/, Long /*address*/,
-                   std::span<std::byte> /*buffer*/, Long& /*needed*/, Long& /*count*/) override {
-        return false;
-    }
-};
-
 Long field(std::span<const std::byte> record, std::size_t index) {
     Long value = 0;
     std::memcpy(&value, record.subspan(index * sizeof value, sizeof value).data(), sizeof value);
@@ -55,7 +48,6 @@ private:
 };
 
 PortDiscovery::PortDiscovery(Platform platform) : platform_(std::move(platform)) {
-    if (!platform_.spooler) platform_.spooler = std::make_shared<NoSpooler>();
     if (!platform_.heap) platform_.heap = std::make_shared<BlockHeap>();
 }
 
@@ -77,6 +69,7 @@ String PortDiscovery::textAt(Long address) const {
 }
 
 Long PortDiscovery::discover(const String& server) {
+    if (!platform_.spooler) return 0;
     const std::string name = toAnsi(StringView(server).substr(0, server.find(u'\0')));
     PortSpooler& spooler = *platform_.spooler;
     Long needed = 0;

@@ -17,22 +17,16 @@ void StoredPicture::clear() {
 }
 
 void StoredPicture::setDrawWidth(Integer pixels) {
-    observe({.verb = Verb::setDrawWidth, .value = pixels});
-    state_.drawWidth = pixels;
+    keep(Verb::setDrawWidth, state_.drawWidth, pixels);
 }
-
-void StoredPicture::setScaleMode(Widgets::ScaleMode mode) {
-    observe({.verb = Verb::setScaleMode, .value = static_cast<Integer>(mode)});
-}
+void StoredPicture::setScaleMode(Widgets::ScaleMode mode) { observe(Verb::setScaleMode, mode); }
 
 float StoredPicture::scaleWidth() const {
-    observe({.verb = Verb::readScaleWidth});
-    return static_cast<float>(width());
+    return read(Verb::readScaleWidth, static_cast<float>(width()));
 }
 
 float StoredPicture::scaleHeight() const {
-    observe({.verb = Verb::readScaleHeight});
-    return static_cast<float>(height());
+    return read(Verb::readScaleHeight, static_cast<float>(height()));
 }
 
 void StoredPicture::line(Point from, Point to, Colour colour) {
@@ -41,25 +35,12 @@ void StoredPicture::line(Point from, Point to, Colour colour) {
     draw(segment);
 }
 
-void StoredPicture::setCurrentX(float x) {
-    observe({.verb = Verb::setCurrentX, .value = x});
-    state_.current.x = x;
-}
-
-void StoredPicture::setCurrentY(float y) {
-    observe({.verb = Verb::setCurrentY, .value = y});
-    state_.current.y = y;
-}
-
+void StoredPicture::setCurrentX(float x) { keep(Verb::setCurrentX, state_.current.x, x); }
+void StoredPicture::setCurrentY(float y) { keep(Verb::setCurrentY, state_.current.y, y); }
 void StoredPicture::setForeColour(Colour text) {
-    observe({.verb = Verb::setForeColour, .value = text});
-    state_.foreColour = text;
+    keep(Verb::setForeColour, state_.foreColour, text);
 }
-
-void StoredPicture::setFontSize(float points) {
-    observe({.verb = Verb::setFontSize, .value = points});
-    state_.fontSize = points;
-}
+void StoredPicture::setFontSize(float points) { keep(Verb::setFontSize, state_.fontSize, points); }
 
 void StoredPicture::print(const String& text) {
     observe({.verb = Verb::print, .value = text});

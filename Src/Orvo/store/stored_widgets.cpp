@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <utility>
 
 #include "Orvo/store/store.h"
 #include "Orvo/values/error.h"
@@ -45,43 +44,25 @@ StoredLabel::StoredLabel(Store& store, WidgetId id) : StoredKind(store, id) {
     state_ = {String(description().caption), description().style.text};
 }
 
-String StoredLabel::caption() const {
-    observe({.verb = Verb::readCaption});
-    return state_.caption;
-}
-
-void StoredLabel::setCaption(const String& caption) {
-    observe({.verb = Verb::setCaption, .value = caption});
-    change(state_.caption, caption);
-}
-
-void StoredLabel::setColour(Colour text) {
-    observe({.verb = Verb::setColour, .value = text});
-    change(state_.colour, text);
-}
+String StoredLabel::caption() const { return read(Verb::readCaption, state_.caption); }
+void StoredLabel::setCaption(const String& text) { write(Verb::setCaption, state_.caption, text); }
+void StoredLabel::setColour(Colour text) { write(Verb::setColour, state_.colour, text); }
 
 StoredShape::StoredShape(Store& store, WidgetId id) : StoredKind(store, id) {
     state_.fillStyle = description().style.isSolid ? FillStyle::solid : FillStyle::transparent;
 }
 
-FillStyle StoredShape::fillStyle() const {
-    observe({.verb = Verb::readFillStyle});
-    return state_.fillStyle;
-}
+FillStyle StoredShape::fillStyle() const { return read(Verb::readFillStyle, state_.fillStyle); }
 
 void StoredShape::setFillStyle(FillStyle style) {
-    observe({.verb = Verb::setFillStyle, .value = static_cast<Integer>(style)});
-    change(state_.fillStyle, style);
+    write(Verb::setFillStyle, state_.fillStyle, style);
 }
 
 StoredLine::StoredLine(Store& store, WidgetId id) : StoredKind(store, id) {
     state_.colour = description().style.text;
 }
 
-void StoredLine::setColour(Colour colour) {
-    observe({.verb = Verb::setColour, .value = colour});
-    change(state_.colour, colour);
-}
+void StoredLine::setColour(Colour colour) { write(Verb::setColour, state_.colour, colour); }
 
 void StoredLine::setVisible(Boolean visible) {
     observe({.verb = Verb::setVisible, .value = visible.raw()});
@@ -92,18 +73,11 @@ StoredOption::StoredOption(Store& store, WidgetId id) : StoredEnableable(store, 
     state_.value = description().style.isSelected;
 }
 
-bool StoredOption::value() const {
-    observe({.verb = Verb::readValue});
-    return state_.value;
-}
+bool StoredOption::value() const { return read(Verb::readValue, state_.value); }
 
 void StoredOption::setValue(bool value) {
     observe({.verb = Verb::setValue, .value = Boolean(value).raw()});
-    if (value) {
-        select(Cause::code);
-    } else {
-        clear();
-    }
+    value ? select(Cause::code) : clear();
 }
 
 void StoredOption::select(Cause cause) {
@@ -115,10 +89,7 @@ void StoredOption::select(Cause cause) {
     store().notify({.widget = id(), .kind = NotificationKind::click, .cause = cause});
 }
 
-void StoredCheck::setValue(CheckValue value) {
-    observe({.verb = Verb::setValue, .value = static_cast<Integer>(value)});
-    change(state_.value, value);
-}
+void StoredCheck::setValue(CheckValue value) { write(Verb::setValue, state_.value, value); }
 
 void StoredCheck::flip() {
     const bool wasChecked = state_.value == CheckValue::checked;
@@ -135,15 +106,8 @@ void StoredCombo::addItem(const String& text) {
     changed();
 }
 
-String StoredCombo::text() const {
-    observe({.verb = Verb::readText});
-    return state_.text;
-}
-
-void StoredCombo::setText(const String& text) {
-    observe({.verb = Verb::setText, .value = text});
-    showText(text);
-}
+String StoredCombo::text() const { return read(Verb::readText, state_.text); }
+void StoredCombo::setText(const String& text) { write(Verb::setText, state_.text, text); }
 
 bool StoredCombo::hasItem(StringView text) const {
     return std::find(state_.items.begin(), state_.items.end(), text) != state_.items.end();
@@ -230,24 +194,16 @@ void StoredDigit::setDigit(Integer digit) {
     change(state_.digit, std::optional(digit));
 }
 
-Integer StoredSlider::position() const {
-    observe({.verb = Verb::readPosition});
-    return state_.position;
-}
+Integer StoredSlider::position() const { return read(Verb::readPosition, state_.position); }
 
 void StoredSlider::setPosition(Integer position) {
-    observe({.verb = Verb::setPosition, .value = position});
-    change(state_.position, position);
+    write(Verb::setPosition, state_.position, position);
 }
 
-Boolean StoredSlider::buttonDown() const {
-    observe({.verb = Verb::readButtonDown});
-    return {state_.isHeld};
-}
+Boolean StoredSlider::buttonDown() const { return read(Verb::readButtonDown, state_.isHeld); }
 
 void StoredSlider::setMaximum(Integer position) {
-    observe({.verb = Verb::setMaximum, .value = position});
-    change(state_.maximum, position);
+    write(Verb::setMaximum, state_.maximum, position);
 }
 
 bool StoredSlider::moveTo(int position) { return change(state_.position, state_.within(position)); }

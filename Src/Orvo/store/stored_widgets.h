@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <span>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -40,6 +41,25 @@ protected:
     [[nodiscard]] Store& store() const { return store_; }
     void observe(Operation operation) const;
     void changed();
+
+    template <class Value>
+    void observe(Verb verb, const Value& written) const {
+        if constexpr (std::is_enum_v<Value>) {
+            observe({.verb = verb, .value = static_cast<Integer>(written)});
+        } else {
+            observe({.verb = verb, .value = written});
+        }
+    }
+    template <class Value>
+    [[nodiscard]] const Value& read(Verb verb, const Value& kept) const {
+        observe({.verb = verb});
+        return kept;
+    }
+    template <class Value>
+    void write(Verb verb, Value& kept, const Value& value) {
+        observe(verb, value);
+        change(kept, value);
+    }
 
     template <class Value>
     bool change(Value& kept, const Value& value) {
@@ -81,7 +101,7 @@ class StoredLabel final : public StoredKind<Widgets::Label, LabelState> {
 public:
     StoredLabel(Store& store, WidgetId id);
     [[nodiscard]] String caption() const override;
-    void setCaption(const String& caption) override;
+    void setCaption(const String& text) override;
     void setColour(Colour text) override;
 };
 
@@ -172,6 +192,11 @@ public:
     [[nodiscard]] int height() const;
 
 private:
+    template <class Value>
+    void keep(Verb verb, Value& kept, const Value& value) {
+        observe(verb, value);
+        kept = value;
+    }
     void draw(Drawn drawn);
     void observePoint(std::span<const Widgets::Point> points, std::size_t i, Colour colour);
 };

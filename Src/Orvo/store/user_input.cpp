@@ -20,15 +20,8 @@ constexpr Integer kCarriageReturn = 13;
 constexpr Integer kSpace = 32;
 
 bool activates(Kind kind, Integer code) {
-    switch (kind) {
-        case Kind::button:
-            return code == kSpace || code == kCarriageReturn;
-        case Kind::option:
-        case Kind::check:
-            return code == kSpace;
-        default:
-            return false;
-    }
+    if (kind == Kind::button && code == kCarriageReturn) return true;
+    return code == kSpace && (kind == Kind::button || kind == Kind::option || kind == Kind::check);
 }
 
 /// The kind of widget that the deed is done to; none: any.
@@ -83,7 +76,7 @@ bool UserInput::perform(Deed deed) {
 }
 
 Deed UserInput::withinBounds(Deed deed) const {
-    if (kindFor(deed.verb) == Kind::slider && isKind(deed.widget, Kind::slider)) {
+    if (kindFor(deed.verb) == Kind::slider && Layout::kindOf(deed.widget) == Kind::slider) {
         deed.number = store_.get<StoredSlider>(deed.widget).state().within(deed.number);
     }
     return deed;
@@ -91,7 +84,7 @@ Deed UserInput::withinBounds(Deed deed) const {
 
 bool UserInput::isTaken(const Deed& deed) const {
     const auto kind = kindFor(deed.verb);
-    if (kind && !isKind(deed.widget, *kind)) return false;
+    if (kind && Layout::kindOf(deed.widget) != *kind) return false;
     if (!store_.acceptsInput(deed.widget)) return false;
     switch (deed.verb) {
         case Deed::Verb::pick:
@@ -153,7 +146,7 @@ void UserInput::goUp(WidgetId widget, MouseButton button, ReleasedWhere where) {
 }
 
 void UserInput::actOnClick(WidgetId widget) {
-    switch (Layout::describe(widget).style.kind) {
+    switch (Layout::kindOf(widget)) {
         case Kind::option:
             return store_.at<StoredOption>(widget).select(Cause::person);
         case Kind::check:
@@ -171,8 +164,8 @@ bool UserInput::typeInto(WidgetId widget, Integer code) {
     const Integer left =
         store_.notify({.widget = widget, .kind = NotificationKind::keyPress, .keyCode = code})
             .keyCode;
-    if (left != 0 && isKind(widget, Kind::combo)) edit(widget, left);
-    const bool isActivated = activates(Layout::describe(widget).style.kind, left);
+    if (left != 0 && Layout::kindOf(widget) == Kind::combo) edit(widget, left);
+    const bool isActivated = activates(Layout::kindOf(widget), left);
     if (isActivated && store_.acceptsInput(widget)) actOnClick(widget);
     return left != 0;
 }
@@ -205,11 +198,7 @@ void UserInput::moveTo(WidgetId slider, int position) {
 }
 
 bool UserInput::isSliderGrip(WidgetId widget, MouseButton button) const {
-    return isKind(widget, Kind::slider) && button == MouseButton::left;
-}
-
-bool UserInput::isKind(WidgetId widget, Kind kind) const {
-    return Layout::describe(widget).style.kind == kind;
+    return Layout::kindOf(widget) == Kind::slider && button == MouseButton::left;
 }
 
 void UserInput::notify(WidgetId widget, NotificationKind kind) {

@@ -76,7 +76,6 @@ private:
     void moveTo(WidgetId slider, int position);
 
     [[nodiscard]] bool isSliderGrip(WidgetId widget, MouseButton button) const;
-    [[nodiscard]] bool isKind(WidgetId widget, Widgets::Kind kind) const;
     void notify(WidgetId widget, Widgets::NotificationKind kind);
     /// Tells the observer, if there is one.
     template <class... Arguments>

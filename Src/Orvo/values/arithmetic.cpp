@@ -28,7 +28,6 @@ double roundHalfToEven(double value) {
 }  // namespace
 
 Integer toInteger(std::int64_t value) { return narrowed<Integer>(value); }
-Long toLong(std::int64_t value) { return narrowed<Long>(value); }
 Integer roundToInteger(double value) { return narrowed<Integer>(roundHalfToEven(value)); }
 Long roundToLong(double value) { return narrowed<Long>(roundHalfToEven(value)); }
 

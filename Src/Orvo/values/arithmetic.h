@@ -7,9 +7,6 @@ namespace Orvo {
 /// A whole number as an Integer. Error 6 outside -32768 to 32767.
 Integer toInteger(std::int64_t value);
 
-/// A whole number as a Long. Error 6 outside the 32-bit range.
-Long toLong(std::int64_t value);
-
 /// The nearest whole number, a value exactly halfway going to the even neighbour.
 /// Error 6 when the result does not fit; not-a-number counts as not fitting.
 Integer roundToInteger(double value);

@@ -10,20 +10,25 @@ namespace Orvo::Widgets {
 template <Kind kKind, class Class>
 struct For {};
 
+namespace Detail {
+
+template <class... Rows>
+struct All : Rows... {};
+
+template <Kind kKind, class Class>
+std::type_identity<Class> find(For<kKind, Class>);
+
+}  // namespace Detail
+
 /// A table from kinds to classes, one row for each kind that has one.
 template <class... Rows>
 class KindTable;
 
 template <Kind... kKinds, class... Classes>
 class KindTable<For<kKinds, Classes>...> {
-    struct All : For<kKinds, Classes>... {};
-
-    template <Kind kKind, class Class>
-    static std::type_identity<Class> find(For<kKind, Class>);
-
 public:
     template <Kind kKind>
-    using Of = typename decltype(find<kKind>(All()))::type;
+    using Of = typename decltype(Detail::find<kKind>(Detail::All<For<kKinds, Classes>...>()))::type;
 
     /// Whether the other table has a class derived from this one's for each kind.
     template <class Other>

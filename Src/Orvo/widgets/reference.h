@@ -53,6 +53,5 @@ using SliderRef = Ref<Kind::slider>;
 
 using LabelArrayRef = ArrayRef<Kind::label>;
 using LineArrayRef = ArrayRef<Kind::line>;
-using DigitArrayRef = ArrayRef<Kind::digit>;
 
 }  // namespace Orvo::Widgets

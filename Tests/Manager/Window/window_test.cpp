@@ -13,11 +13,10 @@
 #include <QScrollBar>
 #include <QTimer>
 
-#include "Manager/Window/file_saver.h"
+#include "Manager/Window/files.h"
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/shortcuts.h"
-#include "Manager/Window/zoom.h"
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/store/store.h"
 #include "Support/bench.h"
@@ -131,7 +130,7 @@ TEST_F(WindowTest, TellsOfARecordingOnAFreshPanelAndOfOneThatCannotBe) {
     window_.refresh();
     EXPECT_TRUE(window_.windowTitle().contains("Recording: "));
     EXPECT_EQ(label("Message"), "Recording from a fresh start to session.txt");
-    EXPECT_TRUE(window_.panelWidget().findChild<QWidget*>("SSTab1")->isVisible());
+    EXPECT_TRUE(window_.panelWidget().control(Layout::kTabs)->isVisible());
     window_.session().startRecording("/no/such/place");
     EXPECT_TRUE(window_.findChild<QMessageBox*>()->informativeText().contains("/no/such/place"));
 }
@@ -241,7 +240,7 @@ TEST_F(WindowTest, ClosingEndsEveryDialog) {
     }
 }
 
-TEST(FileSaver, WritesTheWholeFileOrSaysWhyNot) {
+TEST(Files, WritesTheWholeFileOrSaysWhyNot) {
     const Tests::TemporaryDirectory directory;
     const QString path = QString::fromStdString(directory.path() / "trace.csv");
     EXPECT_EQ(write(path, "1,2\n"), "");

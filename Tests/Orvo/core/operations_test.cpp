@@ -17,9 +17,9 @@ constexpr std::string_view kCommand = "> ";
 constexpr std::string_view kAnswer = "-> ";
 
 // A panel whose start-up is observed as well.
-class ObservedPanel final : public Script::PanelOwner, public Script::Person {
+class PanelFromStart final : public Script::PanelOwner, public Script::Person {
 public:
-    explicit ObservedPanel(OperationLog& log) : log_(log) { exchange(); }
+    explicit PanelFromStart(OperationLog& log) : log_(log) { exchange(); }
 
     MarvaneAssistant& panel() override { return *panel_; }
     Runtime::Store& store() override { return *store_; }
@@ -40,7 +40,7 @@ private:
 // What the last of these commands does to a fresh panel.
 Operations run(std::span<const std::string> commands, std::optional<std::size_t> failAt = {}) {
     OperationLog log;
-    ObservedPanel panel(log);
+    PanelFromStart panel(log);
     Script::Session session(panel, panel, {}, [&](std::string_view answer) {
         if (answer != "ok") log.seen.push_back(std::string(kAnswer).append(answer));
     });
@@ -72,8 +72,13 @@ std::string listed(const Operations& operations) {
 // A scope's grid stands in full only under the command that draws nothing else.
 std::string withoutGrids(std::string text) {
     static const std::string grid = listed(run({{kGrid}}));
-    for (const std::string picture : {"Picture1", "Picture2", "Picture3", "Picture4"}) {
-        const auto its = std::regex_replace(grid, std::regex("Picture1"), picture);
+    const auto nameOf = [](const Layout::Channel& channel) {
+        return std::string(Layout::describe(channel.scope).name);
+    };
+    for (const Layout::Channel& channel : Layout::kChannels) {
+        const std::string picture = nameOf(channel);
+        const auto its =
+            std::regex_replace(grid, std::regex(nameOf(Layout::kChannels[0])), picture);
         const auto at = text.find(its);
         if (at != std::string::npos) text.replace(at, its.size(), picture + " (the grid)\n");
     }

@@ -3,7 +3,7 @@
 namespace Orvo::Tests {
 namespace {
 
-using Trace = PanelTest;
+using TraceTest = PanelTest;
 
 struct Drawn {
     std::size_t grid = 0;
@@ -23,7 +23,7 @@ Drawn drawnOn(Runtime::Store& store, Widgets::PictureRef scope) {
     return drawn;
 }
 
-TEST_F(Trace, JoinsTheSamplesFromIndex1AndStopsWhereTheArrayDoes) {
+TEST_F(TraceTest, JoinsTheSamplesFromIndex1AndStopsWhereTheArrayDoes) {
     using Dimensions = std::vector<IntegerArray::Bounds>;
     const struct {
         const char* label = "";

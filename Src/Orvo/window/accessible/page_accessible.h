@@ -36,7 +36,7 @@ public:
     [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
 
 private:
-    [[nodiscard]] Layout::Kind kind() const { return Layout::describe(id_).style.kind; }
+    [[nodiscard]] Layout::Kind kind() const { return Layout::kindOf(id_); }
     [[nodiscard]] QString value() const;
 
     const QPointer<Page> page_;

@@ -11,9 +11,6 @@
 
 namespace Orvo::Window {
 
-CommandButton::CommandButton(Runtime::Store& store, WidgetId id, QWidget* parent)
-    : PressButton(store, id, parent) {}
-
 // The caption isn't Qt's text, which would replace the shortcut by its own.
 void CommandButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
@@ -28,11 +25,6 @@ void CommandButton::paintEvent(QPaintEvent*) {
     painter.drawText(rect().translated(sunk, sunk), Qt::AlignCenter | Qt::TextWordWrap,
                      toQt(description().caption));
     drawFocus(painter, *this, zoom());
-}
-
-OptionButton::OptionButton(Runtime::Store& store, WidgetId id, QWidget* parent)
-    : PressButton(store, id, parent) {
-    setCheckable(true);
 }
 
 void OptionButton::refresh() {
@@ -86,17 +78,12 @@ void OptionButton::selectNext(int step) {
     for (int i = 1; i < kCount; ++i) {
         const auto next = WidgetId((id() + kCount + step * i) % kCount);
         if (!Layout::areFellows(next, id()) || !store().acceptsInput(next)) continue;
-        const std::string_view name = Layout::describe(next).name;
-        if (auto* button = parentWidget()->findChild<QWidget*>(
-                QLatin1StringView(name.data(), qsizetype(name.size()))))
-            button->setFocus(Qt::TabFocusReason);
+        for (QObject* child : parentWidget()->children()) {
+            auto* fellow = dynamic_cast<OptionButton*>(child);
+            if (fellow != nullptr && fellow->id() == next) fellow->setFocus(Qt::TabFocusReason);
+        }
         return input().activate(next);
     }
-}
-
-PowerButton::PowerButton(Runtime::Store& store, WidgetId id, QWidget* parent)
-    : PressButton(store, id, parent) {
-    setCheckable(true);
 }
 
 void PowerButton::refresh() {

@@ -6,7 +6,7 @@ namespace Orvo::Window {
 
 class CommandButton final : public PressButton {
 public:
-    CommandButton(Runtime::Store& store, WidgetId id, QWidget* parent);
+    using PressButton::PressButton;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -16,7 +16,7 @@ protected:
 /// the arrows go round the others.
 class OptionButton final : public PressButton {
 public:
-    OptionButton(Runtime::Store& store, WidgetId id, QWidget* parent);
+    using PressButton::PressButton;
     void refresh() override;
 
 protected:
@@ -31,7 +31,7 @@ private:
 /// A check box that looks like a power switch: up for off, down and lit for on.
 class PowerButton final : public PressButton {
 public:
-    PowerButton(Runtime::Store& store, WidgetId id, QWidget* parent);
+    using PressButton::PressButton;
     void refresh() override;
 
 protected:

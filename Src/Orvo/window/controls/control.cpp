@@ -1,6 +1,9 @@
 #include "Orvo/window/controls/control.h"
 
+#include <optional>
 #include <type_traits>
+
+#include <QMouseEvent>
 
 #include "Orvo/widgets/kind_table.h"
 #include "Orvo/window/controls/buttons.h"
@@ -11,6 +14,9 @@
 #include "Orvo/window/spoken/hints.h"
 
 namespace Orvo::Window {
+
+using Runtime::MouseButton;
+using Runtime::ReleasedWhere;
 
 Control::Control(QWidget& self, Runtime::Store& store, WidgetId id)
     : self_(self), store_(store), id_(id) {
@@ -32,6 +38,19 @@ void Control::refresh() {
 
 namespace {
 
+std::optional<MouseButton> mouseButtonOf(const QMouseEvent& event) {
+    switch (event.button()) {
+        case Qt::LeftButton:
+            return MouseButton::left;
+        case Qt::RightButton:
+            return MouseButton::right;
+        case Qt::MiddleButton:
+            return MouseButton::middle;
+        default:
+            return std::nullopt;
+    }
+}
+
 using Layout::Kind;
 using Widgets::For;
 
@@ -47,6 +66,19 @@ using Controls = Widgets::KindTable<
 // clang-format on
 
 }  // namespace
+
+void Control::press(QMouseEvent& event) {
+    const auto button = mouseButtonOf(event);
+    if (!button) return event.ignore();
+    input().press(id_, *button);
+}
+
+void Control::release(QMouseEvent& event) {
+    const auto button = mouseButtonOf(event);
+    if (!button) return event.ignore();
+    const bool isInside = self_.rect().contains(event.position().toPoint());
+    input().release(id_, *button, isInside ? ReleasedWhere::onWidget : ReleasedWhere::elsewhere);
+}
 
 // A screen reader that is told of a name asks whose it is, and keeps what it learns: not while the
 // control is still being constructed.

@@ -40,6 +40,10 @@ protected:
     [[nodiscard]] Runtime::UserInput& input() const { return store_.input(); }
     [[nodiscard]] double zoom() const { return zoom_; }
 
+    /// Hands a mouse button on, but for the further ones that some mice have.
+    void press(QMouseEvent& event);
+    void release(QMouseEvent& event);
+
 private:
     QWidget& self_;
     Runtime::Store& store_;

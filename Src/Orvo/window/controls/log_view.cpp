@@ -10,7 +10,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QScrollBar>
 
 #include "Orvo/service/information_entry.h"
 #include "Orvo/window/controls/log_scroll_bar.h"

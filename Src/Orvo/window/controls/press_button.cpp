@@ -2,14 +2,11 @@
 
 #include <QKeyEvent>
 
-#include "Orvo/window/controls/mouse.h"
-
 namespace Orvo::Window {
-
-using Runtime::ReleasedWhere;
 
 PressButton::PressButton(Runtime::Store& store, WidgetId id, QWidget* parent)
     : QAbstractButton(parent), Control(*this, store, id) {
+    setCheckable(looks().kind != Layout::Kind::button);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     // Mouse and keys don't come to this, but a screen reader's press does.
@@ -29,10 +26,8 @@ bool PressButton::event(QEvent* event) {
 }
 
 void PressButton::mousePressEvent(QMouseEvent* event) {
-    const auto button = mouseButtonOf(*event);
-    if (!button) return event->ignore();
     if (event->button() == Qt::LeftButton) setDown(true);
-    input().press(id(), *button);
+    press(*event);
 }
 
 void PressButton::mouseMoveEvent(QMouseEvent* event) {
@@ -41,17 +36,15 @@ void PressButton::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PressButton::mouseReleaseEvent(QMouseEvent* event) {
-    const auto button = mouseButtonOf(*event);
-    if (!button) return event->ignore();
     if (event->button() == Qt::LeftButton) setDown(false);
-    const bool isInside = rect().contains(event->position().toPoint());
-    input().release(id(), *button, isInside ? ReleasedWhere::onWidget : ReleasedWhere::elsewhere);
+    release(*event);
 }
 
 void PressButton::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isSpace = event->key() == Qt::Key_Space;
-    if (!isSpace && !(isEnter && isEnterTaken())) return event->ignore();
+    const bool isEnterTaken = looks().kind == Layout::Kind::button;
+    if (!isSpace && !(isEnter && isEnterTaken)) return event->ignore();
     if (event->isAutoRepeat()) return;
     if (isSpace) return setDown(true);
     input().type(id(), Integer{'\r'});

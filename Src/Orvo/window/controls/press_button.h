@@ -23,9 +23,6 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     /// The store checks and unchecks, not the click.
     void nextCheckState() final {}
-
-private:
-    [[nodiscard]] bool isEnterTaken() const { return looks().kind == Layout::Kind::button; }
 };
 
 }  // namespace Orvo::Window

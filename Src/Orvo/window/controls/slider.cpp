@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QWheelEvent>
 
-#include "Orvo/window/controls/mouse.h"
 #include "Orvo/window/drawing/chrome.h"
 #include "Orvo/window/drawing/palette.h"
 
@@ -62,12 +61,10 @@ void Slider::letGo() {
 }
 
 void Slider::mousePressEvent(QMouseEvent* event) {
-    const auto button = mouseButtonOf(*event);
-    if (!button) return event->ignore();
     const double y = event->position().y();
     const QRectF grabbed = cap();
     isPressed_ = isPressed_ || event->button() == Qt::LeftButton;
-    input().press(id(), *button);
+    press(*event);
     if (event->button() != Qt::LeftButton) return;
     const bool isOnCap = y >= grabbed.top() && y <= grabbed.bottom();
     if (isOnCap) grip_ = y - grabbed.center().y();
@@ -79,16 +76,11 @@ void Slider::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void Slider::mouseReleaseEvent(QMouseEvent* event) {
-    const auto button = mouseButtonOf(*event);
-    if (!button) return event->ignore();
     if (event->button() == Qt::LeftButton) {
         isPressed_ = false;
         grip_.reset();
     }
-    const bool isInside = rect().contains(event->position().toPoint());
-    input().release(
-        id(), *button,
-        isInside ? Runtime::ReleasedWhere::onWidget : Runtime::ReleasedWhere::elsewhere);
+    release(*event);
 }
 
 void Slider::moveUp(int steps) { moveTo(position() + track().upwards(steps)); }

@@ -1,7 +1,6 @@
 #include "Orvo/window/controls/tab_strip.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 

@@ -26,16 +26,8 @@ const Brought kSerif{"MS Serif", "Liberation Serif", {"LiberationSerif-Regular"}
 const Brought kMicrogramma{"MicrogrammaDMedExt", "Michroma", {"Michroma-Regular"}};
 
 const Brought& broughtFor(Layout::Face face) {
-    switch (face) {
-        case Layout::Face::microgramma:
-            return kMicrogramma;
-        case Layout::Face::serif:
-            return kSerif;
-        case Layout::Face::arial:
-        case Layout::Face::standard:
-            break;
-    }
-    return kArial;
+    if (face == Layout::Face::microgramma) return kMicrogramma;
+    return face == Layout::Face::serif ? kSerif : kArial;
 }
 
 }  // namespace

@@ -2,14 +2,12 @@
 
 #include <QColor>
 #include <QFont>
-#include <QRectF>
 #include <QString>
 
 #include "Orvo/layout/style.h"
 #include "Orvo/values/types.h"
 
 class QKeyEvent;
-class QPainter;
 
 // Texts, colours and fonts between the store and Qt.
 namespace Orvo::Window {

@@ -19,10 +19,10 @@ public:
     Painted& operator=(const Painted&) = delete;
 
     /// Everything that `paint` may touch as the widget is now, in pixels of the page.
-    [[nodiscard]] virtual QRect bounds() const { return place_; }
+    [[nodiscard]] virtual QRect bounds() const { return place(); }
     virtual void paint(QPainter& painter) const = 0;
     /// Called before anything else, and for each change of the zoom.
-    virtual void layOut(const Scale& scale) { place_ = scale.rect(id_); }
+    virtual void layOut(const Scale& scale) { scale_ = scale; }
 
     [[nodiscard]] bool isShown() const { return store_.isShown(id_); }
 
@@ -33,12 +33,13 @@ protected:
     }
     [[nodiscard]] const Layout::Widget& description() const { return Layout::describe(id_); }
     [[nodiscard]] const Layout::Style& looks() const { return description().style; }
-    [[nodiscard]] const QRect& place() const { return place_; }
+    [[nodiscard]] const Scale& scale() const { return scale_; }
+    [[nodiscard]] QRect place() const { return scale_.rect(id_); }
 
 private:
     const Runtime::Store& store_;
     WidgetId id_;
-    QRect place_;
+    Scale scale_{1};
 };
 
 }  // namespace Orvo::Window

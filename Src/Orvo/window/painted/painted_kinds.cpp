@@ -1,6 +1,5 @@
 #include "Orvo/window/painted/painted_kinds.h"
 
-#include <QPaintDevice>
 #include <QPainter>
 
 #include "Artwork/Drawings/drawings.h"
@@ -8,31 +7,29 @@
 
 namespace Orvo::Window {
 
-void PaintedLine::layOut(const Scale& scale) {
+QLine PaintedLine::line() const {
     const auto& [x1, y1, x2, y2] = description().place;
     const Corner corner = cornerOf(description().container);
-    line_ = {scale.point(corner.left + x1, corner.top + y1),
-             scale.point(corner.left + x2, corner.top + y2)};
-    thickness_ = scale.thickness(1.4);
+    return {scale().point(corner.left + x1, corner.top + y1),
+            scale().point(corner.left + x2, corner.top + y2)};
 }
 
 QRect PaintedLine::bounds() const {
-    const QRect ends = QRect(line_.p1(), line_.p2()).normalized();
-    return ends.adjusted(-thickness_, -thickness_, thickness_, thickness_);
+    const QRect ends = QRect(line().p1(), line().p2()).normalized();
+    return ends.adjusted(-thickness(), -thickness(), thickness(), thickness());
 }
 
 void PaintedLine::paint(QPainter& painter) const {
-    painter.setRenderHint(QPainter::Antialiasing, !isStraight());
-    painter.setPen(
-        QPen(toQt(stored<Runtime::StoredLine>().colour), thickness_, Qt::SolidLine, Qt::SquareCap));
-    painter.drawLine(line_);
+    const QColor colour = toQt(stored<Runtime::StoredLine>().colour);
+    painter.setRenderHint(QPainter::Antialiasing, line().dx() != 0 && line().dy() != 0);
+    painter.setPen(QPen(colour, thickness(), Qt::SolidLine, Qt::SquareCap));
+    painter.drawLine(line());
 }
 
 void PaintedFrame::paint(QPainter& painter) const { painter.fillRect(place(), toQt(looks().back)); }
 
 void PaintedDigit::layOut(const Scale& scale) {
     Painted::layOut(scale);
-    zoom_ = scale.zoom();
     QTransform cell;
     cell.translate(place().left(), place().top());
     cell.scale(scale.zoom(), scale.zoom());
@@ -61,7 +58,7 @@ void PaintedDigit::paintLit(QPainter& painter, const QPainterPath& segment) cons
     constexpr double kGlow = 1.5;  // pixels, half of it within the segment
     QColor glow = toQt(looks().text);
     glow.setAlpha(60);
-    painter.strokePath(segment, QPen(glow, kGlow * zoom_));
+    painter.strokePath(segment, QPen(glow, scale().measure(kGlow)));
     painter.fillPath(segment, toQt(looks().text));
 }
 
@@ -69,32 +66,31 @@ void PaintedDigit::paintLit(QPainter& painter, const QPainterPath& segment) cons
 void PaintedDigit::paintUnlit(QPainter& painter, const QPainterPath& segment) const {
     constexpr double kEdge = 0.6;  // pixels
     painter.fillPath(segment, toQt(looks().back));
-    painter.strokePath(segment, QPen(toQt(looks().back).darker(125), kEdge * zoom_));
+    painter.strokePath(segment, QPen(toQt(looks().back).darker(125), scale().measure(kEdge)));
 }
 
-void PaintedScopeHeader::layOut(const Scale& scale) {
+QRect PaintedScopeHeader::bounds() const {
     const auto& place = description().place;
     const Corner corner = cornerOf(description().container);
-    header_ = scale.rect(corner.left + place.left, corner.top + place.top, place.width,
-                         Layout::kScopeTabHeight);
-    font_ = toQt(looks().font, scale.zoom());
+    return scale().rect(corner.left + place.left, corner.top + place.top, place.width,
+                        Layout::kScopeTabHeight);
 }
-
-QRect PaintedScopeHeader::bounds() const { return header_; }
 
 void PaintedScopeHeader::paint(QPainter& painter) const {
     const QString text = toQt(description().caption);
-    const int margin = header_.height() / 2;
-    const int width = qCeil(widthOf(text, font_)) + 2 * margin;
-    const QRect tab(header_.topLeft(), QSize(width, header_.height()));
+    const QFont font = toQt(looks().font, scale().zoom());
+    const QRect header = bounds();
+    const int margin = header.height() / 2;
+    const int width = qCeil(widthOf(text, font)) + 2 * margin;
+    const QRect tab(header.topLeft(), QSize(width, header.height()));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(tab);
     painter.setPen(Qt::NoPen);
     painter.setBrush(toQt(looks().back));
-    const double radius = header_.height() / 4.0;
+    const double radius = header.height() / 4.0;
     painter.drawRoundedRect(QRectF(tab).adjusted(0, 0, 0, radius), radius, radius);
     painter.setClipping(false);
-    painter.setFont(font_);
+    painter.setFont(font);
     painter.setPen(toQt(looks().text));
     // In the middle, and where the stems of small letters stand on whole pixels.
     painter.drawText(QRectF(tab).adjusted(margin + 0.5, 0, 0, 0),

@@ -43,7 +43,6 @@ private:
 class PaintedShape final : public Painted {
 public:
     using Painted::Painted;
-    void layOut(const Scale& scale) override;
     [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
 
@@ -53,23 +52,19 @@ private:
     void paintOutline(QPainter& painter) const;
     void paintLamp(QPainter& painter) const;
     void paintGlow(QPainter& painter) const;
-
-    double pen_ = 1;
-    double glow_ = 0;
+    [[nodiscard]] double pen() const { return scale().measure(1); }
+    [[nodiscard]] double glow() const;
 };
 
 class PaintedLine final : public Painted {
 public:
     using Painted::Painted;
-    void layOut(const Scale& scale) override;
     [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
 
 private:
-    [[nodiscard]] bool isStraight() const { return line_.dx() == 0 || line_.dy() == 0; }
-
-    QLine line_;
-    int thickness_ = 1;
+    [[nodiscard]] QLine line() const;
+    [[nodiscard]] int thickness() const { return scale().thickness(1.4); }
 };
 
 class PaintedFrame final : public Painted {
@@ -89,7 +84,6 @@ private:
     void paintLit(QPainter& painter, const QPainterPath& segment) const;
     void paintUnlit(QPainter& painter, const QPainterPath& segment) const;
 
-    double zoom_ = 1;
     std::array<QPainterPath, kSegmentCount> segments_;
 };
 
@@ -97,13 +91,8 @@ private:
 class PaintedScopeHeader final : public Painted {
 public:
     using Painted::Painted;
-    void layOut(const Scale& scale) override;
     [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
-
-private:
-    QRect header_;
-    QFont font_;
 };
 
 /// The artwork behind everything, drawn once for each zoom and kept.

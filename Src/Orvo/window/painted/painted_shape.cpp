@@ -18,11 +18,7 @@ QColor withAlpha(QColor colour, int alpha) {
 
 }  // namespace
 
-void PaintedShape::layOut(const Scale& scale) {
-    Painted::layOut(scale);
-    pen_ = scale.measure(1);
-    glow_ = isLamp() ? scale.measure(kGlow) : 0;
-}
+double PaintedShape::glow() const { return isLamp() ? scale().measure(kGlow) : 0; }
 
 bool PaintedShape::isLamp() const {
     return looks().outline == Layout::Outline::circle && looks().fill != looks().back;
@@ -36,7 +32,7 @@ QRectF PaintedShape::circle() const {
 }
 
 QRect PaintedShape::bounds() const {
-    const int margin = qCeil(glow_) + 1;
+    const int margin = qCeil(glow()) + 1;
     return place().adjusted(-margin, -margin, margin, margin);
 }
 
@@ -50,8 +46,8 @@ void PaintedShape::paint(QPainter& painter) const {
 }
 
 void PaintedShape::paintOutline(QPainter& painter) const {
-    const double half = pen_ / 2;
-    painter.setPen(QPen(withAlpha(toQt(looks().border), 150), pen_));
+    const double half = pen() / 2;
+    painter.setPen(QPen(withAlpha(toQt(looks().border), 150), pen()));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(place()).adjusted(half, half, -half, -half));
 }
@@ -59,26 +55,26 @@ void PaintedShape::paintOutline(QPainter& painter) const {
 void PaintedShape::paintLamp(QPainter& painter) const {
     const bool isLit = stored<Runtime::StoredShape>().isLit();
     const QColor colour = toQt(isLit ? looks().fill : looks().back);
-    const QRectF lamp = circle().adjusted(pen_ / 2, pen_ / 2, -pen_ / 2, -pen_ / 2);
+    const QRectF lamp = circle().adjusted(pen() / 2, pen() / 2, -pen() / 2, -pen() / 2);
     if (isLit) paintGlow(painter);
 
-    painter.setPen(QPen(Palette::kLampRim, pen_));
+    painter.setPen(QPen(Palette::kLampRim, pen()));
     painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(circle().adjusted(-pen_ / 2, -pen_ / 2, pen_ / 2, pen_ / 2));
+    painter.drawEllipse(circle().adjusted(-pen() / 2, -pen() / 2, pen() / 2, pen() / 2));
 
     const double radius = lamp.width() / 2;
     QRadialGradient glass(lamp.center(), radius, lamp.center() - QPointF(radius, radius) * 0.4);
     glass.setColorAt(0, isLit ? colour.lighter(175) : colour.lighter(165));
     glass.setColorAt(isLit ? 0.55 : 0.4, colour);
     glass.setColorAt(1, isLit ? colour.darker(112) : colour.darker(130));
-    painter.setPen(QPen(toQt(looks().border), pen_));
+    painter.setPen(QPen(toQt(looks().border), pen()));
     painter.setBrush(glass);
     painter.drawEllipse(lamp);
 }
 
 void PaintedShape::paintGlow(QPainter& painter) const {
     const QRectF lamp = circle();
-    const double outer = lamp.width() / 2 + glow_;
+    const double outer = lamp.width() / 2 + glow();
     QRadialGradient halo(lamp.center(), outer);
     halo.setColorAt(lamp.width() / 2 / outer, withAlpha(toQt(looks().fill), 130));
     halo.setColorAt(1, withAlpha(toQt(looks().fill), 0));

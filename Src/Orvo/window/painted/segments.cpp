@@ -13,51 +13,35 @@ constexpr double kHalf = 1.05;  // of a segment's thickness
 constexpr double kGap = 0.25;   // between two segments' tips
 constexpr double kSlant = 0.07;
 
-QPolygonF horizontal(double y) {
-    const double from = kLeft + kGap;
-    const double to = kRight - kGap;
-    return {{{from, y},
-             {from + kHalf, y - kHalf},
-             {to - kHalf, y - kHalf},
-             {to, y},
-             {to - kHalf, y + kHalf},
-             {from + kHalf, y + kHalf}}};
-}
+struct Ends {
+    QPointF from;
+    QPointF to;
+};
 
-QPolygonF vertical(double x, double top, double bottom) {
-    const double from = top + kGap;
-    const double to = bottom - kGap;
-    return {{{x, from},
-             {x + kHalf, from + kHalf},
-             {x + kHalf, to - kHalf},
-             {x, to},
-             {x - kHalf, to - kHalf},
-             {x - kHalf, from + kHalf}}};
-}
+constexpr std::array<Ends, kSegmentCount> kUpright{{
+    {{kLeft, kTop}, {kRight, kTop}},
+    {{kRight, kTop}, {kRight, kMiddle}},
+    {{kRight, kMiddle}, {kRight, kBottom}},
+    {{kLeft, kBottom}, {kRight, kBottom}},
+    {{kLeft, kMiddle}, {kLeft, kBottom}},
+    {{kLeft, kTop}, {kLeft, kMiddle}},
+    {{kLeft, kMiddle}, {kRight, kMiddle}},
+}};
 
-QPolygonF upright(int segment) {
-    switch (segment) {
-        case 0:
-            return horizontal(kTop);
-        case 1:
-            return vertical(kRight, kTop, kMiddle);
-        case 2:
-            return vertical(kRight, kMiddle, kBottom);
-        case 3:
-            return horizontal(kBottom);
-        case 4:
-            return vertical(kLeft, kMiddle, kBottom);
-        case 5:
-            return vertical(kLeft, kTop, kMiddle);
-        default:
-            return horizontal(kMiddle);
-    }
+QPolygonF upright(const Ends& ends) {
+    const QPointF along = (ends.to - ends.from) / (ends.to - ends.from).manhattanLength();
+    const QPointF across(-along.y(), along.x());
+    const QPointF tip = ends.from + along * kGap;
+    const QPointF end = ends.to - along * kGap;
+    const QPointF out = (along - across) * kHalf;
+    const QPointF in = (along + across) * kHalf;
+    return {{tip, tip + out, end - in, end, end - out, tip + in}};
 }
 
 }  // namespace
 
 QPolygonF segmentOutline(int segment) {
-    QPolygonF outline = upright(segment);
+    QPolygonF outline = upright(kUpright[std::size_t(segment)]);
     for (QPointF& corner : outline) corner.rx() += (kMiddle - corner.y()) * kSlant;
     return outline;
 }

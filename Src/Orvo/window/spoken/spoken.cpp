@@ -15,8 +15,7 @@ namespace Orvo::Window {
 namespace {
 
 using Layout::Kind;
-
-Kind kindOf(WidgetId id) { return Layout::describe(id).style.kind; }
+using Layout::kindOf;
 
 QString captionOf(const Runtime::Store& store, WidgetId label) {
     return toQt(store.get<Runtime::StoredLabel>(label).state().caption).trimmed();

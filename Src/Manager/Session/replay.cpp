@@ -1,10 +1,8 @@
-#include "Script/replay.h"
+#include "Manager/Session/replay.h"
 
 #include <algorithm>
 
-#include "Script/script_runner.h"
-
-namespace Orvo::Script {
+namespace Orvo::Manager {
 namespace {
 
 using namespace std::chrono_literals;
@@ -15,13 +13,14 @@ constexpr auto kLongestMoment = 15ms;
 
 }  // namespace
 
-Replay::Replay(PanelOwner& owner, Person& person, const Grammar& grammar,
+Replay::Replay(Script::PanelOwner& owner, Script::Person& person,
                const std::filesystem::path& script)
-    : name_(script.filename().string()),
-      lines_(script),
+    : lines_(script),
       person_(person),
       session_(
-          owner, *this, grammar, [](std::string_view) {}, UnawaitedErrors::areTheOwners) {}
+          owner, *this, {.place = Script::Place::inWindow}, [](std::string_view) {},
+          Script::UnawaitedErrors::areTheOwners),
+      script_(session_, script.filename().string()) {}
 
 void Replay::advance(std::chrono::milliseconds elapsed) {
     silence_ += elapsed;
@@ -47,10 +46,8 @@ void Replay::runLine() {
     isOver_ = !std::getline(lines_, line);
     if (isOver_) return;
     silence_ = 0ms;
-    if (++lineNumber_ == 1) line = withoutByteOrderMark(line);
-    const auto complaint = session_.run(line);
-    if (complaint) complaint_ = placed(*complaint, name_, lineNumber_, line);
-    isOver_ = complaint || session_.hasQuit();
+    complaint_ = script_.run(line);
+    isOver_ = complaint_ || session_.hasQuit();
 }
 
-}  // namespace Orvo::Script
+}  // namespace Orvo::Manager

@@ -1,8 +1,9 @@
-#include "Manager/Window/file_choice.h"
+#include "Manager/Window/files.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QSaveFile>
 
 namespace Orvo::Manager {
 
@@ -19,6 +20,13 @@ void askForFile(QWidget& window, const FileQuestion& question,
     dialog->selectFile(question.name);
     QObject::connect(dialog, &QFileDialog::fileSelected, &window, use);
     dialog->open();
+}
+
+QString write(const QString& path, const QByteArray& content) {
+    QSaveFile file(path);
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    return isWritten ? QString() : file.errorString();
 }
 
 QString dated(const QString& name) {
