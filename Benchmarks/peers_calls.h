@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -48,7 +49,7 @@ class Properties : public QObject {
 
 public:
     Q_INVOKABLE [[nodiscard]] int id() const { return number_; }
-    Q_INVOKABLE void light(int channel, bool isOn) { lit_[channel & 3] = isOn; }
+    Q_INVOKABLE void light(int channel, bool isOn) { lit_[std::size_t(channel & 3)] = isOn; }
 
     /// One of its methods, found once.
     static QMetaMethod method(const char* signature);
@@ -56,7 +57,7 @@ public:
 private:
     int number_ = 0;
     bool flag_ = false;
-    bool lit_[4]{};
+    std::array<bool, 4> lit_{};
 };
 
 std::unique_ptr<Properties> makeProperties();

@@ -22,7 +22,7 @@ QString string(std::u16string_view text) {
 
 // The segments of each digit: top, upper right, lower right, bottom, lower left, upper left,
 // middle.
-constexpr int kSegments[]{0x3f, 0x06, 0x5b, 0x4f, 0x66, 0x6d, 0x7d, 0x07, 0x7f, 0x6f};
+constexpr std::array kSegments{0x3f, 0x06, 0x5b, 0x4f, 0x66, 0x6d, 0x7d, 0x07, 0x7f, 0x6f};
 
 // With faces that are there.
 QFont fontOf(const Layout::Font& looks) {
@@ -95,12 +95,15 @@ private:
         const int right = width() - 2;
         const int middle = height() / 2;
         const int bottom = height() - 2;
-        const QRect segments[]{{1, 0, right, 2},           {right, 1, 2, middle},
-                               {right, middle, 2, middle}, {1, bottom, right, 2},
-                               {0, middle, 2, middle},     {0, 1, 2, middle},
-                               {1, middle - 1, right, 2}};
-        for (int i = 0; i < 7; ++i) {
-            const bool isLit = ((kSegments[value_] >> i) & 1) != 0;
+        const std::array<QRect, 7> segments{{{1, 0, right, 2},
+                                             {right, 1, 2, middle},
+                                             {right, middle, 2, middle},
+                                             {1, bottom, right, 2},
+                                             {0, middle, 2, middle},
+                                             {0, 1, 2, middle},
+                                             {1, middle - 1, right, 2}}};
+        for (std::size_t i = 0; i < segments.size(); ++i) {
+            const bool isLit = ((kSegments[std::size_t(value_)] >> i) & 1) != 0;
             painter.fillRect(segments[i], colour(isLit ? row_.style.text : row_.style.back));
         }
     }
@@ -120,7 +123,7 @@ WidgetPanel::WidgetPanel(Integer tab) {
     for (QWidget*& page : pages_) {
         page = new QWidget(this);
         page->resize(size());
-        page->setVisible(page == pages_[tab]);
+        page->setVisible(page == pages_[std::size_t(tab)]);
     }
     std::vector<RowWidget*> widgets(Layout::kWidgetCount);
     for (Widgets::WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
@@ -132,7 +135,8 @@ WidgetPanel::WidgetPanel(Integer tab) {
                           QPoint(right, bottom) / Layout::kTwipsPerPixel)
                         .normalized();
         }
-        QWidget* parent = row.container == 0 ? pages_[row.tab] : widgets[row.container];
+        QWidget* parent =
+            row.container == 0 ? pages_[std::size_t(row.tab)] : widgets[row.container];
         auto* widget = new RowWidget(row, place, parent);
         widgets[id] = widget;
         if (row.style.kind == Kind::digit) digits_.push_back(widget);

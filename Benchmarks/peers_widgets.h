@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -25,7 +26,7 @@ public:
     void pushEverything(int turn);
 
 private:
-    QWidget* pages_[3]{};
+    std::array<QWidget*, 3> pages_{};
     std::vector<RowWidget*> digits_;
     std::vector<RowWidget*> lamps_;
     std::vector<RowWidget*> states_;
