@@ -154,12 +154,12 @@ public:
 
 }  // namespace
 
-Contender tracing(Wave wave, int count, MakeTracer make) {
+Contender tracing(Wave wave, int count, const MakeTracer& make) {
     return repeated([=] { return std::make_shared<Traced>(wave, count, make); },
                     [](Traced& traced, int turn) { traced.trace(turn); });
 }
 
-Contender tracingAllTheTime(Wave wave, int count, MakeTracer make) {
+Contender tracingAllTheTime(Wave wave, int count, const MakeTracer& make) {
     return [=]() -> Round {
         const auto traced = std::make_shared<Traced>(wave, count, make);
         const auto timer = std::make_shared<QTimer>();

@@ -22,11 +22,11 @@ enum class Wave { sine, noise };
 
 /// Traces by turns two waves of that many samples, which are the same but for their phase.
 using MakeTracer = std::function<std::unique_ptr<Tracer>()>;
-Contender tracing(Wave wave, int count, MakeTracer make);
+Contender tracing(Wave wave, int count, const MakeTracer& make);
 
 /// The share of a core that this takes at 60 traces a second, in percent, with what the event loop
 /// then does.
-Contender tracingAllTheTime(Wave wave, int count, MakeTracer make);
+Contender tracingAllTheTime(Wave wave, int count, const MakeTracer& make);
 
 /// A painter's line for each segment, into a picture of that size: the beam alone, or a halo of
 /// three pixels first.

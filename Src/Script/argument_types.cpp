@@ -117,6 +117,7 @@ std::reference_wrapper<const Event> takeEvent(Arguments& arguments, const WordKi
 
 std::vector<std::string_view> eventNames(const Grammar& /*grammar*/) {
     std::vector<std::string_view> names;
+    names.reserve(kEvents.size());
     for (const Event& event : kEvents) names.push_back(event.name);
     return names;
 }

@@ -26,7 +26,7 @@ public:
     }
     /// The ports that the print spooler has from now on; without any its enumeration fails. Throws
     /// Error where the spooler is a machine's.
-    virtual void connectPorts(Runtime::Ports /*ports*/) {
+    virtual void connectPorts(const Runtime::Ports& /*ports*/) {
         throw Error(70, "The ports are the machine's");
     }
 };

@@ -118,7 +118,7 @@ void Session::forgetHandlers() {
     for (const Event& event : kEvents) forget(event);
 }
 
-void Session::perform(const Runtime::Deed& deed) {
+void Session::perform(const Runtime::Deed& deed) const {
     if (isForNoItem(deed, person().store())) {
         throw Misunderstood{"the list has no item " + textOf(StringView(deed.text))};
     }

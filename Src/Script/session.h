@@ -64,7 +64,7 @@ public:
     void queueCommand(ParsedCommand command) { queue_.emplace_back(std::move(command)); }
     void queueResumption() { queue_.emplace_back(Resumption{}); }
     /// What the person does. Throws Misunderstood when it is for an item that isn't in the list.
-    void perform(const Runtime::Deed& deed);
+    void perform(const Runtime::Deed& deed) const;
     void renew();
     void quit() { hasQuit_ = true; }
 

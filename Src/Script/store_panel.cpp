@@ -16,7 +16,7 @@ public:
 
 StorePanel::StorePanel() : spooler_(std::make_shared<Spooler>()) { exchange(); }
 
-void StorePanel::connectPorts(Runtime::Ports ports) { spooler_->ports = std::move(ports); }
+void StorePanel::connectPorts(const Runtime::Ports& ports) { spooler_->ports = ports; }
 
 // A panel that can't be made leaves the present one.
 void StorePanel::exchange() {

@@ -14,7 +14,7 @@ public:
 
     MarvaneAssistant& panel() override { return *panel_; }
     Runtime::Store& store() override { return *store_; }
-    void connectPorts(Runtime::Ports ports) override;
+    void connectPorts(const Runtime::Ports& ports) override;
 
 private:
     class Spooler;

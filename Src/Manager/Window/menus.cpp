@@ -43,12 +43,12 @@ QAction* Menus::addSwitch(QMenu* menu, const QString& text, const QString& keys,
         command(isTicked);
         window_.refresh();
     });
-    refreshes_.push_back([action, isOn] { action->setChecked(isOn()); });
+    refreshes_.emplace_back([action, isOn] { action->setChecked(isOn()); });
     return action;
 }
 
 void Menus::enableWhile(QAction* action, const Condition& condition) {
-    refreshes_.push_back([action, condition] { action->setEnabled(condition()); });
+    refreshes_.emplace_back([action, condition] { action->setEnabled(condition()); });
 }
 
 void Menus::addFileMenu() {

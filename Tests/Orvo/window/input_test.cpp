@@ -145,7 +145,8 @@ TEST_F(InputTest, UpIsMoreOnEverySlider) {
     toTab(1);
     struct {
         Widgets::SliderRef slider;
-        Integer before, after;
+        Integer before = 0;
+        Integer after = 0;
     } rows[] = {{channel(1).volumeSlider, 15, 14}, {pair(1).testSlider, 15, 16}};
     for (const auto& row : rows) {
         auto& slider = store_[row.slider];

@@ -101,8 +101,8 @@ TEST_F(PaintingTest, ATraceColoursItsOwnPixelsAlone) {
     settle();
     QImage expected = control(channel(1).scope).grab().toImage();
     for (int x = 30; x < 195; ++x) expected.setPixelColor(2 + x, 2 + 50, QColor(0, 255, 0));
-    std::vector<Widgets::Point> points;
-    for (int i = 0; i < 1000; ++i) points.push_back({30 + 165 * float(i) / 1000, 50});
+    std::vector<Widgets::Point> points(1000);
+    for (std::size_t i = 0; i < points.size(); ++i) points[i] = {30 + 165 * float(i) / 1000, 50};
     surface.polyline(points, rgb(0, 255, 0));
     settle();
     EXPECT_EQ(control(channel(1).scope).grab().toImage(), expected);
