@@ -1,4 +1,3 @@
-#include "Orvo/monitor/volume.h"
 #include "Orvo/values/indexed.h"
 #include "Support/bench.h"
 
@@ -34,14 +33,6 @@ TEST_F(Monitor, LightsExactlyTheLampOfAFlagAndIndex) {
         expectLit(&I::Clock, pair != nullptr ? Lamps{pair->clockLamp} : Lamps());
         expectLit(&I::Ready, pair != nullptr ? Lamps{pair->readyLamp} : Lamps());
     }
-}
-
-TEST(Volume, AndPositionStandForEachOther) {
-    for (Integer volume = -30; volume <= 30; volume += 2) {
-        EXPECT_EQ(volumeAt(sliderPosition(volume)), volume);
-        EXPECT_EQ(volumeAt(sliderPosition(static_cast<Integer>(volume - 1))), volume);
-    }
-    EXPECT_EQ(errorOf([] { volumeAt(-16400); }), 6);
 }
 
 }  // namespace
