@@ -44,10 +44,10 @@ ManagerSession::~ManagerSession() { owner_.panel().setErrorHandler({}); }
 
 // After the recorder, which is to hear what a fresh panel is told.
 void ManagerSession::serveFreshPanels() {
-    renewals_ = owner_.onRenewed([this] { panelRenewed(); });
+    renewals_ = owner_.onRenewed([this] { takeFreshPanel(); });
 }
 
-void ManagerSession::panelRenewed() {
+void ManagerSession::takeFreshPanel() {
     listenToErrors();
     if (settings_.isReadOnly && !isReplaying()) setReadOnly(true);
 }

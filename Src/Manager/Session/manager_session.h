@@ -75,7 +75,7 @@ public:
 
 private:
     void serveFreshPanels();
-    void panelRenewed();
+    void takeFreshPanel();
     void listenToErrors();
     [[nodiscard]] const Replay* replay() const;
     void endHourglass(std::chrono::milliseconds time);

@@ -6,7 +6,7 @@
 
 namespace Orvo::Manager {
 Station::Station(Script::PanelOwner& owner)
-    : owner_(owner), renewalsBeforeDevice_(owner.onRenewed([this] { panelRenewed(); })) {
+    : owner_(owner), renewalsBeforeDevice_(owner.onRenewed([this] { takeFreshPanel(); })) {
     hearBeforeDevice();
     plugIn(nullptr);
 }
@@ -31,7 +31,7 @@ void Station::plugIn(std::unique_ptr<Device> device) {
     renewalsAfterDevice_ = owner_.onRenewed([this] { hearAfterDevice(); });
 }
 
-void Station::panelRenewed() {
+void Station::takeFreshPanel() {
     conversation_.startAnew();
     traces_.startAnew();
     showsOldValues_ = false;

@@ -41,7 +41,7 @@ public:
 
 private:
     void plugIn(std::unique_ptr<Device> device);
-    void panelRenewed();
+    void takeFreshPanel();
     void hearBeforeDevice();
     void hearAfterDevice();
 
