@@ -9,7 +9,7 @@
 namespace Orvo::Benchmarks {
 namespace {
 
-constexpr int kMany = 99;
+constexpr int kPanels = 99;
 constexpr double kMegabyte = 1e6;
 
 std::unique_ptr<Window::PanelWidget> makeShownPanel() { return makePanel(Layout::kCommonTab); }
@@ -30,11 +30,11 @@ Contender timeOfEach(Make make, Stay stay) {
         return [=] {
             std::vector<decltype(make())> panels;
             const double before = cpuTime();
-            for (int i = 0; i < kMany; ++i) {
+            for (int i = 0; i < kPanels; ++i) {
                 panels.push_back(make());
                 if (stay == Stay::alone) panels.clear();
             }
-            return (cpuTime() - before) / kMany;
+            return (cpuTime() - before) / kPanels;
         };
     };
 }
@@ -47,13 +47,13 @@ Contender memoryOfEach(Make make) {
             const auto first = make();
             const double before = heapInUse();
             std::vector<decltype(make())> panels;
-            while (panels.size() < kMany) panels.push_back(make());
-            return (heapInUse() - before) / kMany;
+            while (panels.size() < kPanels) panels.push_back(make());
+            return (heapInUse() - before) / kPanels;
         };
     };
 }
 
-Row headless() {
+Row withoutWindow() {
     return {.measure = "a panel without a window, made and released",
             .ours = repeated([] { const Bench bench; }),
             .rivals = {{Role::peer,
@@ -107,6 +107,8 @@ Row manyInMemory() {
 
 }  // namespace
 
-std::vector<Row> panelRows() { return {headless(), warm(), cold(), manyInTime(), manyInMemory()}; }
+std::vector<Row> panelRows() {
+    return {withoutWindow(), warm(), cold(), manyInTime(), manyInMemory()};
+}
 
 }  // namespace Orvo::Benchmarks

@@ -10,7 +10,7 @@ namespace Orvo::Artwork {
 
 struct Drawing {
     QRectF place;  ///< what `draw` fills, in units of its own
-    void (*draw)(QPainter& painter);
+    void (*draw)(QPainter& painter) = nullptr;
 };
 
 // The pictures behind a tab's widgets, in twips of the tab control. They carry no information of

@@ -16,7 +16,7 @@ constexpr double kPixel = Layout::kTwipsPerPixel;
 /// A widget's place on its tab.
 constexpr QRectF placeOf(Layout::WidgetId widget) {
     const auto& place = Layout::describe(widget).place;
-    return QRectF(place.left, place.top, place.width, place.height);
+    return {double(place.left), double(place.top), double(place.width), double(place.height)};
 }
 
 /// A surface and the light on it, which comes from above.

@@ -58,7 +58,7 @@ void Panel::create() {
     runtime_->notifyTo(this);
     WidgetTree& widgets = *runtime_;
     widgets[kTabs].setCurrentTab(kCommonTab);
-    for (Integer channel = 1; channel <= std::ssize(kChannels); ++channel) {
+    for (Integer channel = 1; channel <= Integer{kChannels.size()}; ++channel) {
         oscilloscope.drawAxes(channel);
     }
     for (const OptionRef first : {channel(1).positive.option, channel(3).positive.option})

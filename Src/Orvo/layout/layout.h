@@ -31,7 +31,7 @@ constexpr std::size_t kWidgetCount = [] {
            kRailFrames.size() * kRailReadout.size();
 }();
 
-namespace Detail {
+namespace Internal {
 
 enum PairTab : std::size_t { pair12, pair34 };
 
@@ -117,11 +117,11 @@ private:
     std::size_t count_ = 0;
 };
 
-}  // namespace Detail
+}  // namespace Internal
 
 /// Every widget: the tab control, then each tab from back to front, a container before what it
 /// holds. The order is also that of the keyboard focus.
-inline constexpr std::array<Widget, kWidgetCount> kWidgets = Detail::Expansion().widgets();
+inline constexpr std::array<Widget, kWidgetCount> kWidgets = Internal::Expansion().widgets();
 
 constexpr const Widget& describe(WidgetId id) { return kWidgets[id]; }
 constexpr Kind kindOf(WidgetId id) { return describe(id).style.kind; }

@@ -28,7 +28,7 @@ struct Input {
     Widgets::LineRef selector;
 };
 
-namespace Detail {
+namespace Internal {
 
 // Becomes a reference of the kind that the role asks for.
 struct Named {
@@ -96,29 +96,29 @@ struct ChannelParts : PairParts {
 
 constexpr Named the(std::string_view name) { return {name}; }
 
-}  // namespace Detail
+}  // namespace Internal
 
 // clang-format off
 
 /// What stands for the whole amplifier, on the "Common" tab.
 struct Common {
-    Widgets::Ref<Kind::image> background  = Detail::the("Image1");
-    Widgets::LabelRef title               = Detail::the("Label59");
-    Widgets::ComboRef amplifierIds        = Detail::the("Combo1");
-    Widgets::ComboRef serialPorts         = Detail::the("cmbSerialPort");
-    Widgets::ShapeRef linkLamp            = Detail::the("shpConnected");
-    Widgets::ShapeRef powerLamp           = Detail::the("shpOnOff");
-    Widgets::ShapeRef muteLamp            = Detail::the("Shape34");
-    Widgets::ShapeRef protectionLamp      = Detail::the("Shape28");
-    Widgets::ListRef log                  = Detail::the("List1");
-    Widgets::LabelArrayRef testResults    = Detail::the("lblTestResult");  ///< six
-    Widgets::ButtonRef powerButton        = Detail::the("cmdOnOff");
-    Widgets::ButtonRef muteButton         = Detail::the("Command17");
-    Widgets::ButtonRef internalDataButton = Detail::the("cmdReadInData");
-    Widgets::ButtonRef resetLogButton     = Detail::the("Command1");
+    Widgets::Ref<Kind::image> background  = Internal::the("Image1");
+    Widgets::LabelRef title               = Internal::the("Label59");
+    Widgets::ComboRef amplifierIds        = Internal::the("Combo1");
+    Widgets::ComboRef serialPorts         = Internal::the("cmbSerialPort");
+    Widgets::ShapeRef linkLamp            = Internal::the("shpConnected");
+    Widgets::ShapeRef powerLamp           = Internal::the("shpOnOff");
+    Widgets::ShapeRef muteLamp            = Internal::the("Shape34");
+    Widgets::ShapeRef protectionLamp      = Internal::the("Shape28");
+    Widgets::ListRef log                  = Internal::the("List1");
+    Widgets::LabelArrayRef testResults    = Internal::the("lblTestResult");  ///< six
+    Widgets::ButtonRef powerButton        = Internal::the("cmdOnOff");
+    Widgets::ButtonRef muteButton         = Internal::the("Command17");
+    Widgets::ButtonRef internalDataButton = Internal::the("cmdReadInData");
+    Widgets::ButtonRef resetLogButton     = Internal::the("Command1");
 };
 
-struct Pair : private Detail::PairParts {
+struct Pair : private Internal::PairParts {
     using PairParts::PairParts;
 
     Widgets::Ref<Kind::image> background  = its("Image4");
@@ -141,7 +141,7 @@ struct Pair : private Detail::PairParts {
     Widgets::CheckRef powerCheck          = its("chkOnOff12");
 };
 
-struct Channel : private Detail::ChannelParts {
+struct Channel : private Internal::ChannelParts {
     using ChannelParts::ChannelParts;
 
     Readout volume                        = block.readout("Label76", "LED20", "LED19");
@@ -151,10 +151,10 @@ struct Channel : private Detail::ChannelParts {
     Widgets::ShapeRef protectionLamp      = either("Shape18", "Shape21");
     Widgets::ShapeRef signalLamp          = either("Shape22", "Shape23");
     Input positive{either("optP1", "optP2"),
-                   Detail::the(std::array{"lin1p", "lin2p", "lin3p", "lin4p"}[index]),
+                   Internal::the(std::array{"lin1p", "lin2p", "lin3p", "lin4p"}[index]),
                    either("lin1PSelect", "lin2PSelect")};
     Input negative{either("optN1", "optN2"),
-                   Detail::the(std::array{"lin1n", "lin2n", "lin3n", "lin4n"}[index]),
+                   Internal::the(std::array{"lin1n", "lin2n", "lin3n", "lin4n"}[index]),
                    either("lin1NSelect", "lin2NSelect")};
     Widgets::LineRef output               = either("lin1", "lin2");  ///< the line to the scope
     Widgets::PictureRef scope             = either("Picture1", "Picture2");

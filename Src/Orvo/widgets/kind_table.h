@@ -10,7 +10,7 @@ namespace Orvo::Widgets {
 template <Kind kKind, class Class>
 struct For {};
 
-namespace Detail {
+namespace Internal {
 
 template <class... Rows>
 struct All : Rows... {};
@@ -18,7 +18,7 @@ struct All : Rows... {};
 template <Kind kKind, class Class>
 std::type_identity<Class> find(For<kKind, Class>);
 
-}  // namespace Detail
+}  // namespace Internal
 
 /// A table from kinds to classes, one row for each kind that has one.
 template <class... Rows>
@@ -28,7 +28,8 @@ template <Kind... kKinds, class... Classes>
 class KindTable<For<kKinds, Classes>...> {
 public:
     template <Kind kKind>
-    using Of = typename decltype(Detail::find<kKind>(Detail::All<For<kKinds, Classes>...>()))::type;
+    using Of =
+        typename decltype(Internal::find<kKind>(Internal::All<For<kKinds, Classes>...>()))::type;
 
     /// Whether the other table has a class derived from this one's for each kind.
     template <class Other>

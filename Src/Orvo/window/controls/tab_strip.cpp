@@ -10,8 +10,6 @@ namespace Orvo::Window {
 
 namespace {
 
-constexpr WidgetId kTabs = Layout::kTabs.id;
-
 struct TabColours {
     QColor face;
     QColor text;
@@ -25,7 +23,7 @@ TabColours coloursOf(int tab) {
 }  // namespace
 
 TabStrip::TabStrip(Runtime::Store& store, QWidget* parent)
-    : QTabBar(parent), Control(*this, store, kTabs) {
+    : QTabBar(parent), Control(*this, store, Layout::kTabs.id) {
     setDrawBase(false);
     setExpanding(false);
     setUsesScrollButtons(false);
@@ -45,12 +43,12 @@ void TabStrip::refresh() {
     const QSignalBlocker silence(this);
     for (int tab = 0; tab < count(); ++tab) setTabEnabled(tab, enabled[std::size_t(tab)]);
     setCurrentIndex(current);
-    setEnabled(store().acceptsInput(kTabs));
+    setEnabled(store().acceptsInput(Layout::kTabs.id));
     update();
 }
 
 void TabStrip::select(int tab) {
-    input().selectTab(kTabs, tab);
+    input().selectTab(Layout::kTabs.id, tab);
     refresh();
 }
 
