@@ -6,6 +6,7 @@
 #include "Manager/Window/manager_window.h"
 #include "Orvo/layout/common_tab.h"
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 
 // The keys keep clear of the panel's own: Alt with a letter or a digit, Ctrl+Tab, and in its lists
 // what they type there, Ctrl+R above all.

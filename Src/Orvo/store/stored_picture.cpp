@@ -8,6 +8,12 @@ namespace Orvo::Runtime {
 
 using Widgets::Point;
 
+namespace {
+
+constexpr std::size_t kUsualDrawing = 24;  // a grid and a trace
+
+}  // namespace
+
 void StoredPicture::clear() {
     observe({.verb = Verb::clear});
     state_.current = {};
@@ -79,6 +85,7 @@ int StoredPicture::height() const {
 }
 
 void StoredPicture::draw(Drawn drawn) {
+    if (state_.drawing.empty()) state_.drawing.reserve(kUsualDrawing);
     state_.drawing.push_back(std::move(drawn));
     changed();
 }

@@ -50,7 +50,7 @@ void TabStrip::refresh() {
 }
 
 void TabStrip::select(int tab) {
-    input().selectTab(kTabs, tab);
+    perform(Deed::tab(kTabs, tab));
     refresh();
 }
 
