@@ -37,7 +37,7 @@ float StoredPicture::scaleHeight() const {
 
 void StoredPicture::line(Point from, Point to, Colour colour) {
     const LineSegment segment{from, to, colour};
-    observe({.verb = Verb::line, .value = segment});
+    observe(Verb::line, segment);
     draw(segment);
 }
 
@@ -49,7 +49,7 @@ void StoredPicture::setForeColour(Colour text) {
 void StoredPicture::setFontSize(float points) { keep(Verb::setFontSize, state_.fontSize, points); }
 
 void StoredPicture::print(const String& text) {
-    observe({.verb = Verb::print, .value = text});
+    observe(Verb::print, text);
     draw(DrawnText{state_.current, text, state_.foreColour, state_.fontSize});
 }
 
