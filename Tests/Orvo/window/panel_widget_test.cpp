@@ -56,13 +56,13 @@ protected:
     Connection connection_ = widget_->panel().connect(host_);
 
 private:
-    using Action = void (*)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int);
+    using Gesture = void (*)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int);
 
-    void tell(WidgetId id, Action action) {
+    void tell(WidgetId id, Gesture gesture) {
         const int tab = pageOf(id);
         if (widget_->store().get<Runtime::StoredTabs>(0).state().current != tab) toTab(tab);
         const QPoint place = control(id).mapTo(widget_, control(id).rect().center());
-        action(widget_->windowHandle(), Qt::LeftButton, {}, place, -1);
+        gesture(widget_->windowHandle(), Qt::LeftButton, {}, place, -1);
     }
 };
 
