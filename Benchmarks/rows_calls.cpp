@@ -1,5 +1,6 @@
 #include <array>
 
+#include "Orvo/core/call_listener.h"
 #include "Orvo/core/event_hub.h"
 #include "bench.h"
 #include "measure.h"

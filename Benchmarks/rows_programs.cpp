@@ -32,7 +32,7 @@ std::unique_ptr<Manager::ManagerWindow> makePlayingManager(int zoom) {
         shareOfCore(100);
     }
     for (const Layout::Pair& pair : Layout::kPairs) {
-        window->panelWidget().store().input().click(pair.startButton);
+        window->panelWidget().store().perform(Runtime::Deed::click(pair.startButton));
     }
     shareOfCore(1000);
     return window;

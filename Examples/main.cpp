@@ -26,8 +26,8 @@ int main() {
 
     panel.Connected(true);
     panel.VPPower(1, 118);
-    store->input().click(Orvo::Layout::kCommon.powerButton);
-    store->input().click(Orvo::Layout::channel(2).muteButton);
+    store->perform(Orvo::Runtime::Deed::click(Orvo::Layout::kCommon.powerButton));
+    store->perform(Orvo::Runtime::Deed::click(Orvo::Layout::channel(2).muteButton));
 
     const bool isRight = bool(panel.PowerOn()) && bool(panel.Mute(2)) && !bool(panel.Mute(1));
     std::puts(isRight ? "on, channel 2 muted" : "the host was not heard");

@@ -69,7 +69,7 @@ template <class Row>
 Documented documented(ValueType result, const Row& row) {
     const auto type = result == ValueType::none ? "void" : nameOf(result);
     return {"virtual " + std::string(type) + ' ' + std::string(row.name) + '(',
-            contractText(row.contract, ' ')};
+            contractText(contractOf(row), ' ')};
 }
 
 }  // namespace

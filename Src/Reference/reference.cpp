@@ -82,7 +82,7 @@ std::string memberTable() {
 std::string memberContracts() {
     std::string text = heading({"member", "kind", "effect", "units and ranges", "errors"});
     for (const Member& member : kMembers) {
-        const auto& [name, effect, values, errors] = member.contract;
+        const auto& [name, effect, values, errors] = contractOf(member);
         text += cells({code(name), nameOf(member.kind), effect, values, errors});
     }
     return text + '\n';
@@ -93,8 +93,8 @@ std::string eventTable() {
         heading({"dispatch id", "event", "arguments", "raised when", "units and ranges"});
     for (const Event& event : kEvents) {
         text += cells({std::to_string(event.dispatchId), code(event.name),
-                       parametersText(event.parameters()), event.contract.effect,
-                       event.contract.values});
+                       parametersText(event.parameters()), contractOf(event).effect,
+                       contractOf(event).values});
     }
     return text;
 }

@@ -129,6 +129,9 @@ std::reference_wrapper<const Event> takeEvent(Arguments& arguments, const WordKi
 std::vector<std::string_view> eventNames(const Grammar& grammar);
 Call takeLateCall(Arguments& arguments, const WordKind& kind);
 
+inline constexpr std::array kButtons{Runtime::MouseButton::left, Runtime::MouseButton::right,
+                                     Runtime::MouseButton::middle};
+inline constexpr auto kButtonNames = std::to_array<std::string_view>({"left", "right", "middle"});
 inline constexpr std::array kProperties{LayoutProperty::enabled, LayoutProperty::visible};
 inline constexpr auto kPropertyNames = std::to_array<std::string_view>({"enabled", "visible"});
 inline constexpr std::array kTruths{true, false};
@@ -153,8 +156,8 @@ inline constexpr Argument<std::optional<WidgetId>> kWidgetOrScreen{
     Detail::takeWidgetOrScreen};
 
 inline constexpr Argument<Runtime::MouseButton> kButton{
-    {.choices = Runtime::kMouseButtonNames, .presence = WordKind::Presence::optional},
-    Detail::takeOneOfOrFirst<Runtime::kMouseButtons>};
+    {.choices = Detail::kButtonNames, .presence = WordKind::Presence::optional},
+    Detail::takeOneOfOrFirst<Detail::kButtons>};
 inline constexpr Argument<LayoutProperty> kProperty{{.choices = Detail::kPropertyNames},
                                                     Detail::takeOneOf<Detail::kProperties>};
 inline constexpr Argument<bool> kTruth{{.choices = Detail::kTruthNames},

@@ -88,7 +88,7 @@ inline std::string wordOf(const String& text) { return ' ' + textOf(StringView(t
 // The first button goes without saying.
 inline std::string wordOf(Runtime::MouseButton button) {
     const auto place = static_cast<std::size_t>(button);
-    return place == 0 ? "" : ' ' + std::string(Runtime::kMouseButtonNames[place]);
+    return place == 0 ? "" : ' ' + std::string(kButtonNames[place]);
 }
 
 template <class Value>

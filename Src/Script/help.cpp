@@ -48,7 +48,7 @@ std::string helpOnAll(const Grammar& grammar) {
 template <class Row>
 std::string helpOn(std::string text, const Row& row) {
     for (const Parameter& parameter : row.parameters()) text.append(" ").append(parameter.name);
-    return text + '\n' + contractText(row.contract, '\n') + '\n';
+    return text + '\n' + contractText(contractOf(row), '\n') + '\n';
 }
 
 std::string helpOn(std::string_view name, const Grammar& grammar) {

@@ -122,7 +122,9 @@ std::string describe(const Store& widgets, WidgetId widget) {
     const bool showsItself = kind != Kind::timer;
     return std::string(nameOf(kind)) +
            (showsItself ? property("visible", widgets.widget(widget).isVisible()) : "") +
-           widgets.visit(widget, [](const auto& stored) { return properties(stored); });
+           StoredKinds::visit(kind, [&]<class Stored>(std::type_identity<Stored> /*kind*/) {
+               return properties(widgets.get<Stored>(widget));
+           });
 }
 
 std::string show(Session& session, std::optional<WidgetId> widget) {

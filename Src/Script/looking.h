@@ -3,6 +3,7 @@
 #include <string>
 
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 #include "Script/argument_types.h"
 
 // The commands that look at the panel or change its layout. Each function returns its closing

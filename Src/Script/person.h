@@ -16,7 +16,7 @@ public:
     /// Of the present panel.
     virtual Runtime::Store& store() = 0;
 
-    virtual void perform(const Runtime::Deed& deed) { store().input().perform(deed); }
+    virtual void perform(const Runtime::Deed& deed) { store().perform(deed); }
     /// Does nothing for so long; timers that come due tick.
     virtual void wait(std::chrono::milliseconds time) { store().advance(time); }
 

@@ -5,6 +5,8 @@
 #include <utility>
 #include <variant>
 
+#include "Orvo/store/stored_widgets.h"
+#include "Orvo/store/user_input.h"
 #include "Script/command.h"
 #include "Script/text_of.h"
 

@@ -9,6 +9,7 @@
 
 #include "Orvo/core/call_listener.h"
 #include "Orvo/core/event_table.h"
+#include "Orvo/store/input_observer.h"
 #include "Script/panel_owner.h"
 #include "Script/record_file.h"
 

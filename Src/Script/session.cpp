@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "Orvo/store/stored_widgets.h"
 #include "Script/text_of.h"
 
 namespace Orvo::Script {

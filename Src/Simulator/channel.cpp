@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 
 #include "Simulator/scope_frame.h"
@@ -25,8 +26,28 @@ Limits limitsOf(const PowerSupply& supply) {
             std::max(0.0, supply.rails().positivePower.volts() - kHeadroom)};
 }
 
+// The hum goes through whole cycles in each of the amplifier's steps: it stands still on a scope.
+static_assert(2 * kMainsFrequency * kStepSeconds == 1);
 double hum(double seconds) {
     return kHum * std::sin(2 * std::numbers::pi * 2 * kMainsFrequency * seconds);
+}
+
+struct Lines {
+    ScopeLine carrier;
+    ScopeLine hum;
+};
+
+Lines drawLines(Signal signal) {
+    const double cycles = cyclesOnScope(signal);
+    const double seconds = cycles / frequency(signal);
+    return {scopeLine([&](double place) { return carrier(signal, cycles * place); }),
+            scopeLine([&](double place) { return hum(seconds * place); })};
+}
+
+// What a scope shows of a signal with a peak of 1 V, and of the hum beside it.
+const Lines& linesOf(Signal signal) {
+    static const auto kLines = ofEachSignal(drawLines);
+    return kLines[static_cast<std::size_t>(signal)];
 }
 
 }  // namespace
@@ -78,13 +99,14 @@ double Channel::peak(const Surroundings& pair) const {
 IntegerArray Channel::frame(const Surroundings& pair) const {
     const auto [lower, upper] = limitsOf(pair.supply);
     const double peakVolts = peak(pair);
-    const double cycles = cyclesOnScope(signal_);
-    const double length = cycles / frequency(signal_);
-    return scopeFrame([&, lower = lower, upper = upper](double place) {
-        const double ripple = isOpen(pair) ? hum(pair.seconds + length * place) : 0;
-        const double driven = peakVolts * carrier(signal_, cycles * place) + ripple;
-        return std::clamp(driven, lower, upper);
-    });
+    const double ripple = isOpen(pair) ? 1 : 0;
+    const Lines& lines = linesOf(signal_);
+    ScopeLine volts{};
+    for (std::size_t i = 0; i < volts.size(); ++i) {
+        const double driven = peakVolts * lines.carrier[i] + ripple * lines.hum[i];
+        volts[i] = std::clamp(driven, lower, upper);
+    }
+    return scopeFrame(volts);
 }
 
 }  // namespace Orvo::Simulator

@@ -1,5 +1,6 @@
 #include "Simulator/scope_frame.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -19,13 +20,9 @@ Integer sampleOf(double volts) {
     return static_cast<Integer>(std::lround(sampleAt(y, double{kScopeHeight})));
 }
 
-IntegerArray scopeFrame(const std::function<double(double place)>& volts) {
-    std::vector<Integer> samples;
-    samples.reserve(kSamplesPerFrame);
-    for (std::size_t i = 0; i < kSamplesPerFrame; ++i) {
-        const double place = static_cast<double>(i) / (kSamplesPerFrame - 1);
-        samples.push_back(sampleOf(volts(place)));
-    }
+IntegerArray scopeFrame(const ScopeLine& volts) {
+    std::vector<Integer> samples(volts.size());
+    std::ranges::transform(volts, samples.begin(), sampleOf);
     return {1, std::move(samples)};
 }
 

@@ -15,7 +15,7 @@ struct Character {
 };
 
 // By signal. The burst shows with as much of its quiet part; the line's carrier is its bass.
-constexpr std::array<Character, 5> kCharacters{{
+constexpr std::array<Character, kSignalCount> kCharacters{{
     {100, 2.5},
     {1000, 2.5},
     {10000, 2.5},
@@ -44,15 +44,24 @@ double burst(double cycles) {
     return sine(cycles) * (inPeriod < kBurstCycles ? 1 : kBetweenBursts);
 }
 
+using Cycle = std::array<double, 24>;
+
+Cycle firstCycle(Signal signal) {
+    Cycle cycle{};
+    for (std::size_t i = 0; i < cycle.size(); ++i) {
+        cycle[i] = carrier(signal, (static_cast<double>(i) + 0.5) / cycle.size());
+    }
+    return cycle;
+}
+
 double meanSquareOfOneCycle(Signal signal, double volts, double lower, double upper) {
-    constexpr int kPoints = 24;
+    static const auto kCycles = ofEachSignal(firstCycle);
     double sum = 0;
-    for (int i = 0; i < kPoints; ++i) {
-        const double value = volts * carrier(signal, (i + 0.5) / kPoints);
-        const double clipped = std::clamp(value, lower, upper);
+    for (const double point : kCycles[static_cast<std::size_t>(signal)]) {
+        const double clipped = std::clamp(volts * point, lower, upper);
         sum += clipped * clipped;
     }
-    return sum / kPoints;
+    return sum / Cycle().size();
 }
 
 }  // namespace

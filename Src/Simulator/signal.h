@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 #include "Simulator/wander.h"
 
@@ -10,6 +13,15 @@ namespace Orvo::Simulator {
 enum class Signal : std::uint8_t { tone100Hz, tone1kHz, tone10kHz, eiaj, lineIn };
 
 constexpr int kSignalCount = 5;
+
+/// What a function has for each signal, by signal: a sine takes long, and the signals are always
+/// the same.
+template <class Function>
+auto ofEachSignal(const Function& function) {
+    std::array<std::invoke_result_t<Function, Signal>, kSignalCount> all{};
+    for (std::size_t i = 0; i < all.size(); ++i) all[i] = function(static_cast<Signal>(i));
+    return all;
+}
 
 /// By the panel's input codes.
 enum class Input : std::uint8_t { positive = 1, negative = 2 };

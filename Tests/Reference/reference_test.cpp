@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Orvo/core/member_table.h"
+#include "Orvo/core/contract_table.h"
 #include "Orvo/store/state.h"
 #include "Script/command.h"
 
@@ -24,7 +24,7 @@ TEST(Contracts, KnowTheLimitsOfTheStoresLog) {
     const auto* add = std::find_if(Orvo::kMembers.begin(), Orvo::kMembers.end(),
                                    [](auto& member) { return member.name == "AggiugiTesto"; });
     for (const std::size_t limit : {Limits::kMostItems, Limits::kMostText}) {
-        EXPECT_NE(add->contract.errors.find(std::to_string(limit)), std::string::npos) << limit;
+        EXPECT_NE(contractOf(*add).errors.find(std::to_string(limit)), std::string::npos) << limit;
     }
 }
 

@@ -11,6 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using namespace Tests;
+using Runtime::Deed;
 using Runtime::MouseButton;
 using Runtime::ReleasedWhere;
 
@@ -24,7 +25,7 @@ protected:
         return text.substr(text.find('\n') + 1);
     }
 
-    void enterInformation() { person().type(kCommon.log, 18); }
+    void enterInformation() { store().perform(Deed::key(kCommon.log, 18)); }
 
     TemporaryDirectory directory_;
     std::string file_ = directory_.path() / "record.txt";
@@ -47,18 +48,18 @@ TEST_F(RecorderTest, WhatIsTypedAtPromptsStandsBeforeTheirCauseOrIsKeptSecret) {
 
 TEST_F(RecorderTest, WritesWhatThePersonDoesAndThePanelTakes) {
     const std::string text = recorded(Answers::inFull, [this] {
-        person().press(channel(1).muteButton);
+        input().press(channel(1).muteButton);
         store().advance(70ms);
-        person().release(channel(1).muteButton);
-        person().press(kCommon.powerButton, MouseButton::right);
-        person().release(kCommon.powerButton, MouseButton::right, ReleasedWhere::elsewhere);
-        person().press(channel(2).volumeSlider);
-        person().move(channel(2).volumeSlider, 999);
-        person().move(channel(2).volumeSlider, 999);
-        person().release(channel(2).volumeSlider);
-        person().drop(channel(2).volumeSlider);
-        person().selectTab(kTabs, 7);
-        person().pick(kCommon.amplifierIds, u"no such item");
+        input().release(channel(1).muteButton);
+        input().press(kCommon.powerButton, MouseButton::right);
+        input().release(kCommon.powerButton, MouseButton::right, ReleasedWhere::elsewhere);
+        input().press(channel(2).volumeSlider);
+        store().perform(Deed::move(channel(2).volumeSlider, 999));
+        store().perform(Deed::move(channel(2).volumeSlider, 999));
+        input().release(channel(2).volumeSlider);
+        store().perform(Deed::drop(channel(2).volumeSlider));
+        store().perform(Deed::tab(kTabs, 7));
+        store().perform(Deed::pick(kCommon.amplifierIds, u"no such item"));
         store().enable(kCommon.powerButton, false);
         click(kCommon.powerButton);
     });
@@ -134,8 +135,8 @@ TEST_F(ReplayTest, ATicksHandlerStopsTheTimerThatComesNext) {
         if (++ticks > 0) panel().TimerVirtualTemp34(false);
     };
     expectSameReplay(handler, [this] {
-        person().slide(pair(1).testSlider, 40);
-        person().slide(pair(2).testSlider, 60);
+        store().perform(Deed::slide(pair(1).testSlider, 40));
+        store().perform(Deed::slide(pair(2).testSlider, 60));
         store().advance(20s);
     });
 }
@@ -147,16 +148,17 @@ TEST_F(ReplayTest, AnEventThatIsRaisedAgainIsAnsweredAnew) {
     const auto handler = [&] {
         if (++count % 3 == 0) return;
         panel().Mute(1, count % 2 == 0);
-        if (count % 5 == 0) person().slide(channel(2).volumeSlider, count);
+        if (count % 5 == 0) store().perform(Deed::slide(channel(2).volumeSlider, count));
         panel().AggiugiTesto(String(std::size_t(count), u'x'));
     };
     expectSameReplay(handler, [this] {
-        person().slide(pair(1).testSlider, 40);
-        person().slide(pair(2).testSlider, 60);
+        store().perform(Deed::slide(pair(1).testSlider, 40));
+        store().perform(Deed::slide(pair(2).testSlider, 60));
         for (int position = 1; position < 20; ++position) {
-            person().slide(channel(1).volumeSlider, position);
+            store().perform(Deed::slide(channel(1).volumeSlider, position));
             click(channel(1).muteButton);
-            person().activate(position % 2 == 0 ? pair(1).waves[3] : pair(1).waves[4]);
+            store().perform(
+                Deed::activate(position % 2 == 0 ? pair(1).waves[3] : pair(1).waves[4]));
             store().advance(7777ms);
         }
     });

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "Orvo/layout/layout.h"
 #include "Script/person.h"
 #include "Script/session.h"
 #include "Support/approved.h"

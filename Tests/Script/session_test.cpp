@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Orvo/store/operation.h"
 #include "Script/store_panel.h"
 #include "Script/text_of.h"
 

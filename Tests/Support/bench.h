@@ -10,6 +10,8 @@
 
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
+#include "Orvo/store/user_input.h"
 #include "Support/roles.h"
 
 namespace Orvo {
@@ -20,6 +22,8 @@ inline void PrintTo(Colour colour, std::ostream* out) {
 }
 
 namespace Tests {
+
+using Runtime::Deed;
 
 constexpr Boolean kTrue = true;
 constexpr Boolean kFalse = false;
@@ -61,7 +65,6 @@ protected:
     std::unique_ptr<Bench> bench_ = makeBench();
     MarvaneAssistant& panel_ = bench_->panel();
     Runtime::Store& store_ = bench_->store();
-    Runtime::UserInput& person_ = store_.input();
     Lines lines_;
     Connection connection_;
 };

@@ -1,8 +1,13 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <optional>
+#include <source_location>
 #include <sstream>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Orvo/values/text.h"
@@ -11,6 +16,22 @@
 namespace Orvo::Tests {
 
 using Operations = std::vector<std::string>;
+
+/// A verb's name as its declaration has it: what the compiler writes behind "Verb::".
+template <Runtime::Verb kVerb>
+constexpr std::string_view nameOfVerb() {
+    std::string_view name = std::source_location::current().function_name();
+    name.remove_prefix(name.find("Verb::") + std::string_view("Verb::").size());
+    return name.substr(0, name.find_first_of(";]"));
+}
+
+inline std::string_view nameOf(Runtime::Verb verb) {
+    static constexpr auto kNames = []<std::size_t... kVerb>(std::index_sequence<kVerb...>) {
+        return std::array{nameOfVerb<static_cast<Runtime::Verb>(kVerb)>()...};
+    }
+    (std::make_index_sequence<static_cast<std::size_t>(Runtime::Verb::ask) + 1>());
+    return kNames[static_cast<std::size_t>(verb)];
+}
 
 /// Writes down what is done to the widgets, a line each: "Shape34 setFillStyle 0". It may let one
 /// of the operations fail.

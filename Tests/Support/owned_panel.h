@@ -10,8 +10,8 @@ class OwnedPanel : public testing::Test {
 protected:
     MarvaneAssistant& panel() { return owner_.panel(); }
     Runtime::Store& store() { return owner_.store(); }
-    Runtime::UserInput& person() { return store().input(); }
-    void click(Widgets::WidgetId widget) { person().click(widget); }
+    Runtime::UserInput& input() { return store().input(); }
+    void click(Widgets::WidgetId widget) { store().perform(Deed::click(widget)); }
     bool isLit(Widgets::ShapeRef lamp) {
         return store().get<Runtime::StoredShape>(lamp).state().isLit();
     }

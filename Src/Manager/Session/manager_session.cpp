@@ -9,6 +9,7 @@
 
 #include "Manager/Link/link_device.h"
 #include "Orvo/layout/roles.h"
+#include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -113,7 +114,7 @@ void ManagerSession::startRecording(const std::string& file) {
     serveFreshPanels();
     station_.startAnew();
     if (wasReadOnly && !isReadOnly()) setReadOnly(true);
-    owner_.store().input().selectTab(Layout::kTabs.id, tab);
+    owner_.store().perform(Runtime::Deed::tab(Layout::kTabs.id, tab));
     observer_.say("Recording from a fresh start to " +
                   std::filesystem::path(file).filename().string());
 }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "Orvo/layout/roles.h"
+#include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
 Station::Station(Script::PanelOwner& owner)

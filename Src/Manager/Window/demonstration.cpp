@@ -16,6 +16,7 @@
 #include "Orvo/core/marvane_assistant.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -56,7 +57,7 @@ private:
     void waitFor(const char* what, const std::function<bool()>& isDone);
     void letPass(std::chrono::milliseconds time);
     [[nodiscard]] bool isLit(Widgets::ShapeRef lamp);
-    void click(Widgets::ButtonRef button) { store().input().click(button); }
+    void click(Widgets::ButtonRef button) { store().perform(Runtime::Deed::click(button)); }
     Runtime::Store& store() { return window_.panelWidget().store(); }
 
     ManagerWindow window_;

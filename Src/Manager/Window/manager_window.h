@@ -38,17 +38,10 @@ public:
     // What the menus command.
 
     void connectLink(const LinkAddress& address);
-    /// Asks for the address; the last one is there to be taken again.
-    void askForLink();
     /// Also what a person types. Empty when the link is connected, else what is wrong with it.
     QString connectLink(const QString& address);
-    void askForRecording();
-    void askForReplay();
 
     void savePicture();
-    void saveScopePicture(Integer channel);
-    void saveTrace(Integer channel);
-    void copyMessageLog();
     void saveMessageLog();
 
     /// Tabs are counted from 1. One that is disabled doesn't come to the front.
@@ -59,7 +52,6 @@ public:
     void setFullScreen(bool isFullScreen);
 
     void showEvents(bool isShown);
-    [[nodiscard]] bool areEventsShown() const { return !events_->isHidden(); }
     void copyEvents();
 
     void showShortcuts();
@@ -69,6 +61,17 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    friend class Menus;
+
+    /// Asks for the address; the last one is there to be taken again.
+    void askForLink();
+    void askForRecording();
+    void askForReplay();
+    void saveScopePicture(Integer channel);
+    void saveTrace(Integer channel);
+    void copyMessageLog();
+    [[nodiscard]] bool areEventsShown() const { return !events_->isHidden(); }
+
     void say(const std::string& message) override;
     void warn(const Failure& failure) override;
 

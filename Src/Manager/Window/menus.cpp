@@ -6,6 +6,7 @@
 #include "Manager/Window/manager_window.h"
 #include "Orvo/layout/common_tab.h"
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 
 // The keys keep clear of the panel's own: Alt with a letter or a digit, Ctrl+Tab, and in its lists
 // what they type there, Ctrl+R above all.
@@ -22,25 +23,25 @@ Menus::Menus(ManagerWindow& window)
 
 QMenu* Menus::addMenu(const QString& title) { return window_.menuBar()->addMenu(title); }
 
-QAction* Menus::add(QMenu* menu, const QString& text, const QString& keys, const Command& command) {
+QAction* Menus::add(QMenu* menu, const QString& text, const QString& keys, const Effect& effect) {
     auto* action = menu->addAction(text);
     action->setShortcut(QKeySequence(keys));
     // The menu bar's own actions sleep while it is hidden.
     window_.addAction(action);
-    connect(action, &QAction::triggered, this, [this, command] {
-        command();
+    connect(action, &QAction::triggered, this, [this, effect] {
+        effect();
         window_.refresh();
     });
     return action;
 }
 
 QAction* Menus::addSwitch(QMenu* menu, const QString& text, const QString& keys,
-                          const Switch& command, const Condition& isOn) {
+                          const Switch& effect, const Condition& isOn) {
     auto* action = add(menu, text, keys, [] {});
     action->setCheckable(true);
     action->disconnect(this);
-    connect(action, &QAction::triggered, this, [this, command](bool isTicked) {
-        command(isTicked);
+    connect(action, &QAction::triggered, this, [this, effect](bool isTicked) {
+        effect(isTicked);
         window_.refresh();
     });
     refreshes_.emplace_back([action, isOn] { action->setChecked(isOn()); });

@@ -26,13 +26,13 @@ public:
     [[nodiscard]] QList<QAction*> eventActions() const { return eventActions_; }
 
 private:
-    using Command = std::function<void()>;
+    using Effect = std::function<void()>;
     using Switch = std::function<void(bool)>;
     using Condition = std::function<bool()>;
 
     QMenu* addMenu(const QString& title);
-    QAction* add(QMenu* menu, const QString& text, const QString& keys, const Command& command);
-    QAction* addSwitch(QMenu* menu, const QString& text, const QString& keys, const Switch& command,
+    QAction* add(QMenu* menu, const QString& text, const QString& keys, const Effect& effect);
+    QAction* addSwitch(QMenu* menu, const QString& text, const QString& keys, const Switch& effect,
                        const Condition& isOn);
     void enableWhile(QAction* action, const Condition& condition);
     [[nodiscard]] bool isSimulated() const;

@@ -11,6 +11,7 @@
 #include "Manager/Window/warning.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 
 // What the menus command.
 namespace Orvo::Manager {
@@ -80,7 +81,7 @@ void ManagerWindow::saveMessageLog() {
 }
 
 void ManagerWindow::selectTab(int tab) {
-    panel_->store().input().selectTab(Layout::kTabs.id, tab - 1);
+    panel_->store().perform(Runtime::Deed::tab(Layout::kTabs.id, tab - 1));
 }
 
 void ManagerWindow::setZoom(int percent) {

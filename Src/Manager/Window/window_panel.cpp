@@ -5,6 +5,7 @@
 #include "Manager/Window/files.h"
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/pointed_input.h"
+#include "Orvo/layout/layout.h"
 #include "Orvo/window/drawing/text.h"
 
 namespace Orvo::Manager {

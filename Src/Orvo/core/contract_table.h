@@ -1,8 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
+
+#include "Orvo/core/event_table.h"
+#include "Orvo/core/member_table.h"
 
 namespace Orvo {
 
@@ -54,15 +58,6 @@ inline constexpr std::string_view kNegative =
     "13 for a negative value; from -9 to -1 the hundreds digit has become 0 by then.";
 inline constexpr std::string_view kTimer = "`bln` any Boolean, handed to the timer unchanged.";
 inline constexpr std::string_view kNever = "Never raised.";
-
-/// The contract of the row with this number, from 1. One of another name doesn't compile.
-template <std::size_t kRows>
-consteval const Contract& contractOf(const std::array<Contract, kRows>& contracts, int number,
-                                     std::string_view name) {
-    const Contract& contract = contracts[static_cast<std::size_t>(number - 1)];
-    if (contract.name != name) throw "the contract is another row's";
-    return contract;
-}
 
 }  // namespace Detail
 
@@ -147,5 +142,15 @@ inline constexpr auto kEventContracts = std::to_array<Contract>({
 });
 
 // clang-format on
+
+static_assert(std::ranges::equal(kMemberContracts, kMembers, {}, &Contract::name, &Member::name));
+static_assert(std::ranges::equal(kEventContracts, kEvents, {}, &Contract::name, &Event::name));
+
+constexpr const Contract& contractOf(const Member& member) {
+    return kMemberContracts[static_cast<std::size_t>(member.number - 1)];
+}
+constexpr const Contract& contractOf(const Event& event) {
+    return kEventContracts[static_cast<std::size_t>(event.dispatchId - 1)];
+}
 
 }  // namespace Orvo

@@ -6,7 +6,6 @@
 #include <span>
 #include <string_view>
 
-#include "Orvo/core/contract_table.h"
 #include "Orvo/core/events.h"
 #include "Orvo/core/member_table.h"
 #include "Orvo/core/value.h"
@@ -19,7 +18,6 @@ struct Event {
     std::string_view name;
     std::array<Parameter, 4> parameterSlots{};
     std::size_t parameterCount = 0;
-    Contract contract{};
     /// Calls the sink's function; the arguments have the parameters' types already.
     void (*deliver)(MarvaneAssistantEvents& sink, std::span<Value> arguments) = nullptr;
 
@@ -48,7 +46,6 @@ consteval Event event(Long dispatchId, std::string_view name,
             .name = name,
             .parameterSlots = padded<4>(parameters),
             .parameterCount = parameters.size(),
-            .contract = contractOf(kEventContracts, dispatchId, name),
             .deliver = &deliverEvent<kFunction>};
 }
 
@@ -79,7 +76,6 @@ consteval auto eventTable() {
 
 /// All events, by dispatch id.
 inline constexpr auto kEvents = Detail::eventTable();
-static_assert(kEvents.size() == kEventContracts.size());
 
 /// An event by its dispatch id, which must be one of the table's.
 constexpr const Event& eventWith(Long dispatchId) {

@@ -3,7 +3,6 @@
 #include <memory>
 #include <span>
 
-#include "Orvo/core/call_listener.h"
 #include "Orvo/core/connection.h"
 #include "Orvo/core/events.h"
 #include "Orvo/core/interface.h"
@@ -13,6 +12,7 @@
 
 namespace Orvo {
 
+class CallListener;
 class Panel;
 
 /// The front panel of a four-channel power amplifier.

@@ -10,7 +10,6 @@
 #include <tuple>
 #include <utility>
 
-#include "Orvo/core/contract_table.h"
 #include "Orvo/core/interface.h"
 #include "Orvo/core/value.h"
 
@@ -35,7 +34,6 @@ struct Member {
     std::array<Parameter, 2> parameterSlots{};
     std::size_t parameterCount = 0;
     ValueType result = ValueType::none;
-    Contract contract{};
     /// Calls the member; the arguments have the parameters' types already.
     Value (*call)(MarvaneAssistantInterface& panel, std::span<const Value> arguments) = nullptr;
 
@@ -108,7 +106,6 @@ consteval Member member(int number, std::string_view name, MemberKind kind, Long
             .parameterSlots = padded<2>(parameters),
             .parameterCount = parameters.size(),
             .result = result,
-            .contract = contractOf(kMemberContracts, number, name),
             .call = &callMember<kFunction>};
 }
 
@@ -169,7 +166,6 @@ consteval auto memberTable() {
 
 /// All members, in interface order.
 inline constexpr auto kMembers = Detail::memberTable();
-static_assert(kMembers.size() == kMemberContracts.size());
 
 /// The member of a name that takes these arguments; one that the table doesn't have doesn't
 /// compile.

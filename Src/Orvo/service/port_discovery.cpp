@@ -13,6 +13,8 @@
 namespace Orvo {
 namespace {
 
+constexpr std::size_t kMostPorts = 101;
+
 Long field(std::span<const std::byte> record, std::size_t index) {
     Long value = 0;
     std::memcpy(&value, record.subspan(index * sizeof value, sizeof value).data(), sizeof value);
@@ -85,11 +87,12 @@ Long PortDiscovery::discover(const String& server) {
 }
 
 void PortDiscovery::store(std::size_t index, std::span<const std::byte> records) {
-    if (index >= arrPorts.size()) throw Errors::subscriptOutOfRange();
+    if (index >= kMostPorts) throw Errors::subscriptOutOfRange();
     const std::size_t offset = index * PortSpooler::kRecordSize;
     // A spooler that counts more records than it wrote is not followed out of the buffer.
     if (offset + PortSpooler::kRecordSize > records.size()) throw Errors::invalidCall();
     const auto record = records.subspan(offset, PortSpooler::kRecordSize);
+    if (index >= arrPorts.size()) arrPorts.resize(index + 1);
     PortRecord& entry = arrPorts[index];
     entry.PortName = textAt(field(record, 0));
     entry.MonitorName = textAt(field(record, 1));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <vector>
 
 #include "Orvo/service/platform.h"
 #include "Orvo/values/types.h"
@@ -36,7 +36,7 @@ private:
     void store(std::size_t index, std::span<const std::byte> records);
 
     Platform platform_;
-    std::array<PortRecord, 101> arrPorts;
+    std::vector<PortRecord> arrPorts;  // as many as there have been, 101 at most
 };
 
 }  // namespace Orvo

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <string_view>
 
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/reference.h"
@@ -10,14 +8,11 @@
 namespace Orvo::Runtime {
 
 enum class MouseButton : std::uint8_t { left, right, middle };
-inline constexpr std::array kMouseButtons{MouseButton::left, MouseButton::right,
-                                          MouseButton::middle};
-/// In the order of `kMouseButtons`.
-inline constexpr auto kMouseButtonNames =
-    std::to_array<std::string_view>({"left", "right", "middle"});
 
 /// Something that a person does to a widget.
 struct Deed {
+    using WidgetId = Widgets::WidgetId;
+
     enum class Verb : std::uint8_t {
         click,     ///< a mouse button goes down and up on the widget
         release,   ///< the same, but it comes up elsewhere
@@ -32,10 +27,32 @@ struct Deed {
     };
 
     Verb verb = Verb::click;
-    Widgets::WidgetId widget{};
+    WidgetId widget{};
     MouseButton button = MouseButton::left;  ///< click and release
     int number = 0;  ///< the code of the key, 0 to 65535; the slider's position; the tab
     String text{};   ///< the item that is picked
+
+    static Deed click(WidgetId widget, MouseButton button = MouseButton::left) {
+        return {.verb = Verb::click, .widget = widget, .button = button};
+    }
+    static Deed activate(WidgetId widget) { return {.verb = Verb::activate, .widget = widget}; }
+    static Deed key(WidgetId widget, char16_t code) {
+        return {.verb = Verb::key, .widget = widget, .number = code};
+    }
+    static Deed pick(WidgetId combo, StringView item) {
+        return {.verb = Verb::pick, .widget = combo, .text = String(item)};
+    }
+    static Deed slide(WidgetId slider, int position) {
+        return {.verb = Verb::slide, .widget = slider, .number = position};
+    }
+    static Deed hold(WidgetId slider) { return {.verb = Verb::hold, .widget = slider}; }
+    static Deed move(WidgetId slider, int position) {
+        return {.verb = Verb::move, .widget = slider, .number = position};
+    }
+    static Deed drop(WidgetId slider) { return {.verb = Verb::drop, .widget = slider}; }
+    static Deed tab(WidgetId tabs, int number) {
+        return {.verb = Verb::tab, .widget = tabs, .number = number};
+    }
 };
 
 }  // namespace Orvo::Runtime

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 #include <variant>
 
 #include "Orvo/values/types.h"
@@ -51,20 +48,6 @@ enum class Verb : std::uint8_t {
     setPointer,
     ask,
 };
-
-/// The names of the verbs, in their order.
-inline constexpr auto kVerbNames = std::to_array<std::string_view>({
-    "readCaption",    "setCaption",      "setColour",    "readFillStyle", "setFillStyle",
-    "setVisible",     "setEnabled",      "readValue",    "setValue",      "addItem",
-    "clear",          "readText",        "setText",      "setDrawWidth",  "setScaleMode",
-    "readScaleWidth", "readScaleHeight", "line",         "setCurrentX",   "setCurrentY",
-    "setForeColour",  "setFontSize",     "print",        "setCurrentTab", "readTabEnabled",
-    "setTabEnabled",  "setDigit",        "readPosition", "setPosition",   "readButtonDown",
-    "setMaximum",     "setPointer",      "ask",
-});
-static_assert(kVerbNames.size() == static_cast<std::size_t>(Verb::ask) + 1);
-
-constexpr std::string_view nameOf(Verb verb) { return kVerbNames[static_cast<std::size_t>(verb)]; }
 
 struct LineSegment {
     Widgets::Point from;

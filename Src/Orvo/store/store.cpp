@@ -3,27 +3,38 @@
 #include <algorithm>
 #include <utility>
 
+#include "Orvo/layout/layout.h"
+#include "Orvo/store/user_input.h"
+#include "Orvo/store/widget_block.h"
+
 namespace Orvo::Runtime {
 
 using Layout::Kind;
 using Widgets::Notification;
 using Widgets::NotificationKind;
 
+struct Store::Parts {
+    explicit Parts(Store& store) : input(store), widgets(store) {}
+
+    UserInput input;
+    WidgetBlock widgets;
+};
+
 std::shared_ptr<Store> Store::create() { return std::shared_ptr<Store>(new Store); }
 
-Store::Store() {
-    for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
-        widgets_[id] = StoredKinds::visit(
-            Layout::kindOf(id),
-            [&]<class Stored>(std::type_identity<Stored> /*kind*/) { return make<Stored>(id); });
-    }
-}
+Store::Store() : parts_(std::make_unique<Parts>(*this)) {}
+Store::~Store() = default;
 
-template <class Stored>
-std::unique_ptr<StoredWidget> Store::make(WidgetId id) {
-    auto widget = std::make_unique<Stored>(*this, id);
-    interfaces_[id] = widget.get();
-    return widget;
+UserInput& Store::input() { return parts_->input; }
+bool Store::perform(const Deed& deed) { return parts_->input.perform(deed); }
+
+Widgets::Widget& Store::at(WidgetId id) { return parts_->widgets.interfaceOf(id); }
+StoredWidget& Store::stored(WidgetId id) const { return parts_->widgets[id]; }
+void Store::show(WidgetId id, bool visible) { stored(id).show(visible); }
+void Store::enable(WidgetId id, bool enabled) { stored(id).enable(enabled); }
+
+void Store::observe(const Operation& operation) const {
+    if (observer_ != nullptr) observer_->before(operation);
 }
 
 void Store::setPointer(Widgets::Pointer pointer) {
@@ -36,15 +47,15 @@ String Store::ask(const Widgets::Question& question) {
     observe({.verb = Verb::ask, .value = question.text});
     if (prompter_ == nullptr) return {};
     const auto alive = shared_from_this();
-    input_.tell(&InputObserver::asks);
+    parts_->input.tell(&InputObserver::asks);
     const std::optional<String> answer = prompter_->ask(question);
-    input_.tell(&InputObserver::answered, answer);
+    parts_->input.tell(&InputObserver::answered, answer);
     return answer.value_or(String());
 }
 
 bool Store::isShown(WidgetId id) const {
     for (; id != Layout::kPanel; id = Layout::describe(id).container) {
-        if (!widgets_[id]->isVisible()) return false;
+        if (!stored(id).isVisible()) return false;
     }
     return true;
 }
@@ -52,7 +63,7 @@ bool Store::isShown(WidgetId id) const {
 bool Store::acceptsInput(WidgetId id) const {
     if (!isShown(id)) return false;
     for (; id != Layout::kPanel; id = Layout::describe(id).container) {
-        if (!widgets_[id]->isEnabled()) return false;
+        if (!stored(id).isEnabled()) return false;
         const auto& widget = Layout::describe(id);
         if (widget.container == Layout::kPanel) return true;
         const bool isOnTab = Layout::kindOf(widget.container) == Kind::tabs;
@@ -77,9 +88,9 @@ StoredTimer* Store::nextTimer() const {
 }
 
 void Store::tick(const StoredTimer& timer) {
-    input_.tell(&InputObserver::ticks);
+    parts_->input.tell(&InputObserver::ticks);
     notify({.widget = timer.id(), .kind = NotificationKind::tick});
-    input_.tell(&InputObserver::ticked);
+    parts_->input.tell(&InputObserver::ticked);
 }
 
 void Store::letGoOfSliders() {

@@ -1,30 +1,23 @@
 #pragma once
 
-#include <array>
 #include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <type_traits>
-#include <utility>
 
-#include "Orvo/layout/layout.h"
-#include "Orvo/store/stored_widgets.h"
-#include "Orvo/store/user_input.h"
+#include "Orvo/store/deed.h"
 #include "Orvo/widgets/widget_tree.h"
 
 namespace Orvo::Runtime {
 
-/// A screen that shows the store.
-class Screen {
-public:
-    virtual ~Screen() = default;
-    /// What this widget shows may have changed. Called from within the panel's writes: note it and
-    /// paint later.
-    virtual void changed(WidgetId widget) = 0;
-    /// The mouse pointer has changed.
-    virtual void pointerChanged() = 0;
-};
+using Widgets::WidgetId;
+
+class OperationObserver;
+class Screen;
+class StoredTimer;
+class StoredWidget;
+class UserInput;
+struct Operation;
 
 /// Whoever sits in front of the panel and answers its prompts.
 class Prompter {
@@ -47,44 +40,31 @@ public:
     using Milliseconds = std::chrono::milliseconds;
 
     static std::shared_ptr<Store> create();
+    ~Store() override;
+    Store(const Store&) = delete;
+    Store& operator=(const Store&) = delete;
 
     Widgets::MousePointer& mousePointer() override { return *this; }
     Widgets::InputPrompt& inputPrompt() override { return *this; }
     void notifyTo(Widgets::NotificationSink* sink) override { sink_ = sink; }
 
-    /// What a screen and a person's input work with; null takes them away again.
-    void showOn(Screen* screen) { screen_ = screen; }
-    void promptWith(Prompter* prompter) { prompter_ = prompter; }
-    [[nodiscard]] Prompter* prompter() const { return prompter_; }
-    void observeWith(OperationObserver* observer) { observer_ = observer; }
-
-    /// What a person does.
-    UserInput& input() { return input_; }
-
-    /// The state of a widget; `Stored` is the stored class of its kind.
-    template <class Stored>
-    [[nodiscard]] const Stored& get(WidgetId id) const {
-        return static_cast<const Stored&>(*widgets_[id]);
-    }
-    [[nodiscard]] const StoredWidget& widget(WidgetId id) const { return *widgets_[id]; }
-    /// What `use` returns for the widget as its kind's stored class.
-    template <class Use>
-    auto visit(WidgetId id, const Use& use) const {
-        return StoredKinds::visit(Layout::kindOf(id),
-                                  [&]<class Stored>(std::type_identity<Stored> /*kind*/) {
-                                      return use(get<Stored>(id));
-                                  });
-    }
-    [[nodiscard]] Widgets::Pointer pointer() const { return pointer_; }
+    /// What a person does. A widget that is hidden or disabled, by itself or through what contains
+    /// it, ignores it; which tab is in front doesn't matter. A slider goes no further than its
+    /// bounds, and a move that changes the position notifies. False when nothing comes of it: the
+    /// widget ignores it or is of another kind, an item is not in the list, a tab is disabled, a
+    /// slider is there already or not held, or the panel discards the key.
+    bool perform(const Deed& deed);
 
     /// Whether the widget shows, and takes input, with everything that contains it. A tab that is
     /// behind another one shows in this sense; what is on a disabled tab takes no input.
     [[nodiscard]] bool isShown(WidgetId id) const;
     [[nodiscard]] bool acceptsInput(WidgetId id) const;
 
-    /// Changes the layout under the panel's feet.
-    void show(WidgetId id, bool visible) { widgets_[id]->show(visible); }
-    void enable(WidgetId id, bool enabled) { widgets_[id]->enable(enabled); }
+    /// Who answers prompts from now on; null: they are cancelled.
+    void promptWith(Prompter* prompter) { prompter_ = prompter; }
+    [[nodiscard]] Prompter* prompter() const { return prompter_; }
+
+    [[nodiscard]] Widgets::Pointer pointer() const { return pointer_; }
 
     /// The clock that the timers run on; 0 at creation.
     [[nodiscard]] Milliseconds now() const {
@@ -100,32 +80,47 @@ public:
     /// The time until the next tick, if any timer runs.
     [[nodiscard]] std::optional<Milliseconds> untilNextTick() const;
 
+    // The rest is this project's own: headers that are not public say what it works with.
+
+    /// A person's input as it comes from a screen.
+    UserInput& input();
+    /// Null takes them away again.
+    void showOn(Screen* screen) { screen_ = screen; }
+    void observeWith(OperationObserver* observer) { observer_ = observer; }
+
+    [[nodiscard]] const StoredWidget& widget(WidgetId id) const { return stored(id); }
+    /// The same; `Stored` is the stored class of its kind.
+    template <class Stored>
+    [[nodiscard]] const Stored& get(WidgetId id) const {
+        return at<Stored>(id);
+    }
+
+    /// Changes the layout under the panel's feet.
+    void show(WidgetId id, bool visible);
+    void enable(WidgetId id, bool enabled);
+
 private:
     friend class StoredWidget;
     friend class StoredOption;
     friend class StoredPicture;
     friend class StoredTabs;
     friend class UserInput;
+    struct Parts;
 
     Store();
 
-    Widgets::Widget& at(WidgetId id) override { return *interfaces_[id]; }
+    Widgets::Widget& at(WidgetId id) override;
     template <class Stored>
     [[nodiscard]] Stored& at(WidgetId id) const {
-        return static_cast<Stored&>(*widgets_[id]);
+        return static_cast<Stored&>(stored(id));
     }
-    template <class Stored>
-    std::unique_ptr<StoredWidget> make(WidgetId id);
+    [[nodiscard]] StoredWidget& stored(WidgetId id) const;
     void setPointer(Widgets::Pointer pointer) override;
     String ask(const Widgets::Question& question) override;
 
     [[nodiscard]] bool isObserved() const { return observer_ != nullptr; }
-    void observe(const Operation& operation) const {
-        if (observer_ != nullptr) observer_->before(operation);
-    }
-    void changed(WidgetId widget) {
-        if (screen_ != nullptr) screen_->changed(widget);
-    }
+    void observe(const Operation& operation) const;
+    inline void changed(WidgetId widget);
     /// The notification as its handler left it.
     Widgets::Notification notify(Widgets::Notification notification);
     [[nodiscard]] StoredTimer* nextTimer() const;
@@ -133,9 +128,7 @@ private:
     /// Of those that a person holds and that take no input any more.
     void letGoOfSliders();
 
-    std::array<std::unique_ptr<StoredWidget>, Layout::kWidgetCount> widgets_;
-    std::array<Widgets::Widget*, Layout::kWidgetCount> interfaces_{};  // of the same
-    UserInput input_{*this};
+    std::unique_ptr<Parts> parts_;
     Widgets::NotificationSink* sink_ = nullptr;
     Screen* screen_ = nullptr;
     Prompter* prompter_ = nullptr;

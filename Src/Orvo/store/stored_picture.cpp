@@ -8,6 +8,12 @@ namespace Orvo::Runtime {
 
 using Widgets::Point;
 
+namespace {
+
+constexpr std::size_t kUsualDrawing = 24;  // a grid and a trace
+
+}  // namespace
+
 void StoredPicture::clear() {
     observe({.verb = Verb::clear});
     state_.current = {};
@@ -31,7 +37,7 @@ float StoredPicture::scaleHeight() const {
 
 void StoredPicture::line(Point from, Point to, Colour colour) {
     const LineSegment segment{from, to, colour};
-    observe({.verb = Verb::line, .value = segment});
+    observe(Verb::line, segment);
     draw(segment);
 }
 
@@ -43,7 +49,7 @@ void StoredPicture::setForeColour(Colour text) {
 void StoredPicture::setFontSize(float points) { keep(Verb::setFontSize, state_.fontSize, points); }
 
 void StoredPicture::print(const String& text) {
-    observe({.verb = Verb::print, .value = text});
+    observe(Verb::print, text);
     draw(DrawnText{state_.current, text, state_.foreColour, state_.fontSize});
 }
 
@@ -79,6 +85,7 @@ int StoredPicture::height() const {
 }
 
 void StoredPicture::draw(Drawn drawn) {
+    if (state_.drawing.empty()) state_.drawing.reserve(kUsualDrawing);
     state_.drawing.push_back(std::move(drawn));
     changed();
 }

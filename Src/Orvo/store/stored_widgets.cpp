@@ -13,6 +13,12 @@ using Widgets::CheckValue;
 using Widgets::FillStyle;
 using Widgets::NotificationKind;
 
+namespace {
+
+constexpr std::size_t kUsualItems = 99;  // the amplifiers' ids
+
+}  // namespace
+
 Integer SliderState::within(int wanted) const {
     return static_cast<Integer>(std::clamp<int>(wanted, kMinimum, std::max(kMinimum, maximum)));
 }
@@ -102,6 +108,7 @@ StoredCombo::StoredCombo(Store& store, WidgetId id) : StoredEnableable(store, id
 
 void StoredCombo::addItem(const String& text) {
     observe({.verb = Verb::addItem, .value = text});
+    if (state_.items.empty()) state_.items.reserve(kUsualItems);
     state_.items.push_back(text);
     changed();
 }

@@ -8,7 +8,9 @@
 
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/operation.h"
+#include "Orvo/store/screen.h"
 #include "Orvo/store/state.h"
+#include "Orvo/store/store.h"
 #include "Orvo/widgets/kind_table.h"
 #include "Orvo/widgets/notification.h"
 #include "Orvo/widgets/widgets.h"
@@ -17,7 +19,6 @@
 // the functions below the interface are its own and the person's.
 namespace Orvo::Runtime {
 
-class Store;
 using Widgets::For;
 using Widgets::Kind;
 
@@ -257,5 +258,9 @@ using StoredKinds = Widgets::KindTable<
     For<Kind::slider, StoredSlider>>;
 // clang-format on
 static_assert(Widgets::Interfaces::kHasBasesOf<StoredKinds>);
+
+inline void Store::changed(WidgetId widget) {
+    if (screen_ != nullptr) screen_->changed(widget);
+}
 
 }  // namespace Orvo::Runtime

@@ -6,6 +6,7 @@
 
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Runtime {
 
@@ -124,12 +125,12 @@ void UserInput::carryOut(const Deed& deed) {
 }
 
 void UserInput::press(WidgetId widget, MouseButton button) {
-    if (isSliderGrip(widget, button)) hold(widget);
+    if (isSliderGrip(widget, button)) perform(Deed::hold(widget));
 }
 
 void UserInput::release(WidgetId widget, MouseButton button, ReleasedWhere where) {
     if (isSliderGrip(widget, button)) {
-        drop(widget);
+        perform(Deed::drop(widget));
         if (store_.acceptsInput(widget)) notify(widget, NotificationKind::release);
         return;
     }

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "Orvo/store/screen.h"
 #include "Orvo/window/clock.h"
 #include "Orvo/window/controls/control.h"
 #include "Orvo/window/controls/tab_strip.h"

@@ -76,7 +76,7 @@ TEST_F(HostTest, ShowsALostLinkAndStopsUntilItReturns) {
     panel_.VPPower(1, 999);
     panel_.Mute(2, true);
     panel_.VolumeSlider(2, -20);
-    person_.slide(pair(1).testSlider, 95);
+    store_.perform(Deed::slide(pair(1).testSlider, 95));
     host_->set(Fault::shortOnChannel3, true);
     pass(5000);
     EXPECT_EQ(positivePower(), 999);
@@ -99,8 +99,8 @@ TEST_F(HostTest, GivesUpWhatABreakOfTheLinkSwallowedThatNobodyNoticed) {
     constexpr Integer kMoves[] = {20, 25};
     for (const auto button :
          {pair(1).powerCheck.id, channel(1).muteButton.id, pair(1).startButton.id})
-        person_.click(button);
-    for (Integer position : kMoves) person_.slide(channel(1).volumeSlider, position);
+        store_.perform(Deed::click(button));
+    for (Integer position : kMoves) store_.perform(Deed::slide(channel(1).volumeSlider, position));
     host_->set(Fault::linkLoss, true);
     pass(50);
     host_->set(Fault::linkLoss, false);
@@ -117,7 +117,7 @@ TEST_F(HostTest, GivesUpWhatABreakOfTheLinkSwallowedThatNobodyNoticed) {
 
 TEST_F(HostTest, LeavesTheTestTemperatureAloneWithoutALink) {
     run();
-    person_.slide(pair(1).testSlider, 40);
+    store_.perform(Deed::slide(pair(1).testSlider, 40));
     host_->set(Fault::linkLoss, true);
     pass(1000);
     takeLines();
@@ -131,8 +131,8 @@ TEST_F(HostTest, LeavesTheTestTemperatureAloneWithoutALink) {
 TEST_F(HostTest, StaysConnectedButHearsNothingInGarbledReplies) {
     run();
     host_->set(Fault::garbledReplies, true);
-    person_.click(channel(1).muteButton);
-    person_.click(kCommon.internalDataButton);
+    store_.perform(Deed::click(channel(1).muteButton));
+    store_.perform(Deed::click(kCommon.internalDataButton));
     pass(4000);
     EXPECT_TRUE(isLit(kCommon.linkLamp));
     EXPECT_GT(host_->sinceLastWord(), Milliseconds(3500));
@@ -149,7 +149,8 @@ TEST_F(HostTest, StaysConnectedButHearsNothingInGarbledReplies) {
 
 TEST_F(HostTest, DoesWithoutASecondPair) {
     run();
-    for (const auto button : {channel(1).muteButton, channel(2).muteButton}) person_.click(button);
+    for (const auto button : {channel(1).muteButton, channel(2).muteButton})
+        store_.perform(Deed::click(button));
     pass(300);
     EXPECT_FALSE(isLit(kCommon.muteLamp));
     host_->set(Fault::shortOnChannel3, true);
@@ -163,7 +164,7 @@ TEST_F(HostTest, DoesWithoutASecondPair) {
     };
     EXPECT_FALSE(hasTab());
     EXPECT_TRUE(isLit(kCommon.muteLamp));
-    person_.click(kCommon.muteButton);
+    store_.perform(Deed::click(kCommon.muteButton));
     pass(300);
     EXPECT_FALSE(isLit(kCommon.muteLamp));
     EXPECT_FALSE(isLit(channel(1).muteLamp));
@@ -182,9 +183,9 @@ TEST_F(HostTest, KeepsTheFaultsWhenAnotherAmplifierIsPicked) {
     run();
     host_->set(Fault::shortOnChannel2, true);
     store_.enable(kCommon.amplifierIds, true);
-    person_.pick(kCommon.amplifierIds, u"2");
+    store_.perform(Deed::pick(kCommon.amplifierIds, u"2"));
     pass(500);
-    person_.click(kCommon.powerButton);
+    store_.perform(Deed::click(kCommon.powerButton));
     pass(2500);
     EXPECT_TRUE(isLit(channel(2).protectionLamp));
 }

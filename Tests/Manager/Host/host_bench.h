@@ -32,7 +32,7 @@ protected:
     /// Connected, switched on and ready.
     void run() {
         pass(500);
-        person_.click(kCommon.powerButton);
+        store_.perform(Deed::click(kCommon.powerButton));
         pass(2500);
     }
 

@@ -11,7 +11,7 @@ TEST_F(HostTest, LivesTheSameLifeForTheSameSeedHoweverItsTimeIsDivided) {
         bench->store().observeWith(&recorder);
         SimulatedHost host(bench->panel(), seed);
         for (int now = 0; now < 6000; now += pace) {
-            if (now == 2400) bench->store().input().click(channel(2).muteButton);
+            if (now == 2400) bench->store().perform(Deed::click(channel(2).muteButton));
             host.advance(Milliseconds(pace));
         }
         bench->store().observeWith(nullptr);
@@ -26,7 +26,7 @@ TEST_F(HostTest, LivesTheSameLifeForTheSameSeedHoweverItsTimeIsDivided) {
 
 TEST_F(HostTest, SendsOnlyWhatChanged) {
     run();
-    person_.click(kCommon.muteButton);
+    store_.perform(Deed::click(kCommon.muteButton));
     pass(1000);
     OperationLog recorder;
     store_.observeWith(&recorder);

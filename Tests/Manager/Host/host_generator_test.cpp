@@ -6,7 +6,7 @@ namespace {
 TEST_F(HostTest, RoutesTheGeneratorToTheChosenInput) {
     run();
     for (const auto slider : {channel(1).volumeSlider, channel(2).volumeSlider})
-        person_.slide(slider, 15);
+        store_.perform(Deed::slide(slider, 15));
     const struct {
         Widgets::OptionRef wave, input;
         Widgets::PictureRef driven, other;
@@ -17,7 +17,7 @@ TEST_F(HostTest, RoutesTheGeneratorToTheChosenInput) {
     };
     for (const auto& row : kRows) {
         for (const auto widget : {row.wave.id, row.input.id, pair(1).startButton.id})
-            person_.click(widget);
+            store_.perform(Deed::click(widget));
         pass(500);
         EXPECT_NEAR(swing(row.driven).highest, 105, 4) << row.wave;
         EXPECT_NEAR(swing(row.driven).lowest, -105, 4) << row.wave;
@@ -29,18 +29,18 @@ TEST_F(HostTest, RoutesTheGeneratorToTheChosenInput) {
 TEST_F(HostTest, ShowsTheNegativeInputInverted) {
     run();
     const auto early = [this] { return trace(channel(3).scope)[20].y; };
-    person_.click(pair(2).startButton);
+    store_.perform(Deed::click(pair(2).startButton));
     pass(500);
     EXPECT_LT(early(), 40);
-    person_.click(channel(3).negative.option);
-    person_.click(pair(2).startButton);
+    store_.perform(Deed::click(channel(3).negative.option));
+    store_.perform(Deed::click(pair(2).startButton));
     pass(500);
     EXPECT_GT(early(), 60);
 }
 
 TEST_F(HostTest, ClipsAtTheRails) {
     run();
-    person_.click(pair(1).startButton);
+    store_.perform(Deed::click(pair(1).startButton));
     const auto flat = [this] {
         const float top = 50 - swing(channel(1).scope).highest / 3;
         return std::ranges::count_if(trace(channel(1).scope),
@@ -52,7 +52,7 @@ TEST_F(HostTest, ClipsAtTheRails) {
         bool isClipped;
     } kRows[] = {{18, 64, false}, {16, 101, false}, {15, 105, true}};
     for (const auto& row : kRows) {
-        person_.slide(channel(1).volumeSlider, row.position);
+        store_.perform(Deed::slide(channel(1).volumeSlider, row.position));
         pass(500);
         EXPECT_NEAR(swing(channel(1).scope).highest, row.highest, 3) << row.position;
         EXPECT_EQ(flat() > 40, row.isClipped) << row.position;
@@ -61,14 +61,14 @@ TEST_F(HostTest, ClipsAtTheRails) {
 
 TEST_F(HostTest, RunsTheThermalTestFromItsSlider) {
     run();
-    person_.slide(pair(1).testSlider, 95);
+    store_.perform(Deed::slide(pair(1).testSlider, 95));
     pass(6000);
     EXPECT_EQ(temperature(), 95);
     const auto lamps = {kCommon.protectionLamp, channel(1).protectionLamp,
                         channel(2).protectionLamp};
     for (const auto lamp : lamps) EXPECT_TRUE(isLit(lamp)) << lamp;
     EXPECT_FALSE(isLit(channel(3).protectionLamp));
-    person_.slide(pair(1).testSlider, 0);
+    store_.perform(Deed::slide(pair(1).testSlider, 0));
     pass(3000);
     EXPECT_LT(temperature(), 40);
     for (const auto lamp : lamps) EXPECT_FALSE(isLit(lamp)) << lamp;

@@ -17,18 +17,18 @@ TEST_F(HostTest, MutesWhenTheAmplifierConfirms) {
         {kCommon.muteButton, "01234"}, {kCommon.muteButton, ""},
     };
     for (const auto& [button, lamps] : rows) {
-        person_.click(button);
+        store_.perform(Deed::click(button));
         pass(200);
         EXPECT_EQ(muted(), lamps);
     }
-    person_.click(channel(1).muteButton);
+    store_.perform(Deed::click(channel(1).muteButton));
     EXPECT_FALSE(isLit(channel(1).muteLamp));
 }
 
 TEST_F(HostTest, SilencesWhatIsMuted) {
     run();
     EXPECT_GT(swing(channel(1).scope).highest, 5);
-    person_.click(channel(1).muteButton);
+    store_.perform(Deed::click(channel(1).muteButton));
     pass(300);
     EXPECT_NEAR(swing(channel(1).scope).highest, 0, 1);
     EXPECT_TRUE(isLit(channel(1).signalLamp));
@@ -39,16 +39,16 @@ TEST_F(HostTest, ShowsTheVolumeThatIsConfirmedAndLeavesAHeldSliderAlone) {
     const auto readout = [this] { return digits(channel(1).volume); };
     EXPECT_EQ(readout(), "06");
     EXPECT_EQ(position(channel(1).volumeSlider), 18);
-    person_.hold(channel(1).volumeSlider);
-    person_.move(channel(1).volumeSlider, 10);
+    store_.perform(Deed::hold(channel(1).volumeSlider));
+    store_.perform(Deed::move(channel(1).volumeSlider, 10));
     EXPECT_EQ(readout(), "06");
     pass(300);
     EXPECT_EQ(readout(), "00");
     EXPECT_EQ(position(channel(1).volumeSlider), 10);
-    person_.drop(channel(1).volumeSlider);
+    store_.perform(Deed::drop(channel(1).volumeSlider));
     pass(20);
     EXPECT_EQ(position(channel(1).volumeSlider), 15);
-    person_.move(channel(1).volumeSlider, 21);
+    store_.perform(Deed::move(channel(1).volumeSlider, 21));
     pass(200);
     EXPECT_EQ(readout(), "12");
     EXPECT_EQ(caption(channel(1).volume.sign.value()), u"-");
@@ -57,7 +57,7 @@ TEST_F(HostTest, ShowsTheVolumeThatIsConfirmedAndLeavesAHeldSliderAlone) {
 TEST_F(HostTest, DoesNotPullBackASliderThatIsMovedFasterThanTheAmplifierAnswers) {
     run();
     for (Integer position = 19; position <= 28; ++position) {
-        person_.move(channel(3).volumeSlider, position);
+        store_.perform(Deed::move(channel(3).volumeSlider, position));
         pass(20);
         EXPECT_EQ(this->position(channel(3).volumeSlider), position);
     }
@@ -68,10 +68,10 @@ TEST_F(HostTest, DoesNotPullBackASliderThatIsMovedFasterThanTheAmplifierAnswers)
 
 TEST_F(HostTest, PutsASliderBackThatWasMovedWithoutALink) {
     run();
-    person_.slide(channel(1).volumeSlider, 25);
+    store_.perform(Deed::slide(channel(1).volumeSlider, 25));
     host_->set(Fault::linkLoss, true);
     pass(1000);
-    person_.slide(channel(2).volumeSlider, 25);
+    store_.perform(Deed::slide(channel(2).volumeSlider, 25));
     pass(20);
     EXPECT_EQ(logged("Not connected"), 1);
     for (const auto slider : {channel(1).volumeSlider, channel(2).volumeSlider})

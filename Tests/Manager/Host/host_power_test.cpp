@@ -20,7 +20,7 @@ TEST_F(HostTest, BringsUpTheLinkTheMainsAndOnAskingTheAmplifier) {
     EXPECT_EQ(shown(), "");
     pass(300);
     EXPECT_EQ(shown(), "link connected mains ");
-    person_.click(kCommon.powerButton);
+    store_.perform(Deed::click(kCommon.powerButton));
     EXPECT_EQ(shown(), "link connected mains ");
     pass(250);
     EXPECT_EQ(shown(), "link connected mains power ");
@@ -35,7 +35,7 @@ TEST_F(HostTest, BringsUpTheLinkTheMainsAndOnAskingTheAmplifier) {
 
 TEST_F(HostTest, ShowsTheSoftStartAndTheDischarge) {
     pass(500);
-    person_.click(pair(1).powerCheck);
+    store_.perform(Deed::click(pair(1).powerCheck));
     pass(600);
     int last = positivePower();
     for (int i = 0; i < 4; ++i) {
@@ -44,7 +44,7 @@ TEST_F(HostTest, ShowsTheSoftStartAndTheDischarge) {
         last = positivePower();
     }
     pass(2000);
-    person_.click(pair(1).powerCheck);
+    store_.perform(Deed::click(pair(1).powerCheck));
     pass(1000);
     EXPECT_FALSE(isLit(kCommon.powerLamp));
     EXPECT_FALSE(isLit(pair(1).readyLamp));
@@ -55,16 +55,16 @@ TEST_F(HostTest, ShowsTheSoftStartAndTheDischarge) {
 }
 
 TEST_F(HostTest, PutsAPowerButtonBackThatCameToNothing) {
-    person_.click(pair(1).powerCheck);
+    store_.perform(Deed::click(pair(1).powerCheck));
     EXPECT_FALSE(isChecked(pair(1).powerCheck));
     EXPECT_TRUE(hasLogged("Not connected"));
     host_->set(Fault::mainsFailure, true);
     pass(500);
-    person_.click(pair(1).powerCheck);
+    store_.perform(Deed::click(pair(1).powerCheck));
     EXPECT_TRUE(isChecked(pair(1).powerCheck));
     pass(500);
     EXPECT_FALSE(isChecked(pair(1).powerCheck));
-    person_.click(pair(1).powerCheck);
+    store_.perform(Deed::click(pair(1).powerCheck));
     host_->set(Fault::linkLoss, true);
     pass(1000);
     EXPECT_FALSE(isChecked(pair(1).powerCheck));
@@ -74,7 +74,7 @@ TEST_F(HostTest, DoesNotFlipThePowerButtonsToAndFro) {
     run();
     for (const bool isOn : {false, true}) {
         pass(70);
-        person_.click(pair(1).powerCheck);
+        store_.perform(Deed::click(pair(1).powerCheck));
         for (int i = 0; i < 30; ++i) {
             pass(10);
             ASSERT_EQ(isChecked(pair(1).powerCheck), isOn) << i;

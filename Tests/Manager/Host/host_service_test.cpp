@@ -27,12 +27,12 @@ TEST_F(HostTest, RunsTheQuickTestRowByRow) {
         EXPECT_EQ(rows(), row.results) << row.label;
     }
     EXPECT_TRUE(hasLogged("Quick test: 6 of 6 passed"));
-    person_.slide(pair(2).testSlider, 95);
+    store_.perform(Deed::slide(pair(2).testSlider, 95));
     pass(300);
     host_->runQuickTest();
     pass(3000);
     EXPECT_EQ(rows(), "FPPPPP");
-    person_.slide(pair(2).testSlider, 0);
+    store_.perform(Deed::slide(pair(2).testSlider, 0));
     host_->set(Fault::mainsFailure, true);
     pass(8000);
     host_->runQuickTest();
@@ -50,7 +50,7 @@ TEST_F(HostTest, RunsTheQuickTestRowByRow) {
 
 TEST_F(HostTest, WritesTheInternalDataToTheLog) {
     run();
-    person_.click(kCommon.internalDataButton);
+    store_.perform(Deed::click(kCommon.internalDataButton));
     EXPECT_FALSE(hasLogged("Internal data"));
     pass(200);
     for (const auto* text : {"Internal data", "SN amplifier: ", "Channel 4: -6 dB, open", "Pair 2",
@@ -72,12 +72,12 @@ TEST_F(HostTest, KeepsTheInformationThatWasEntered) {
     Answering answering;
     store_.promptWith(&answering);
     run();
-    person_.type(kCommon.log, 18);
+    store_.perform(Deed::key(kCommon.log, 18));
     pass(300);
     EXPECT_TRUE(hasLogged("SN amplifier: <Serial number of amplifier>"));
     EXPECT_TRUE(hasLogged("Information: <General Informations of Amplifier>"));
     panel_.CancellaTesto();
-    person_.click(kCommon.internalDataButton);
+    store_.perform(Deed::click(kCommon.internalDataButton));
     pass(300);
     EXPECT_TRUE(hasLogged("SN control module: <Serial number of Control Module Card>"));
     store_.promptWith(nullptr);
@@ -85,17 +85,17 @@ TEST_F(HostTest, KeepsTheInformationThatWasEntered) {
 
 TEST_F(HostTest, TalksToTheAmplifierThatIsPicked) {
     run();
-    person_.click(channel(1).muteButton);
+    store_.perform(Deed::click(channel(1).muteButton));
     pass(200);
     store_.enable(kCommon.amplifierIds, true);
-    person_.pick(kCommon.amplifierIds, u"7");
+    store_.perform(Deed::pick(kCommon.amplifierIds, u"7"));
     EXPECT_FALSE(isLit(kCommon.linkLamp));
     pass(500);
     EXPECT_TRUE(isLit(kCommon.linkLamp));
     EXPECT_FALSE(isLit(channel(1).muteLamp));
     EXPECT_FALSE(hasLogged("Link lost"));
     EXPECT_FALSE(hasLogged("Amplifier off"));
-    person_.pick(kCommon.amplifierIds, u"1");
+    store_.perform(Deed::pick(kCommon.amplifierIds, u"1"));
     pass(500);
     EXPECT_TRUE(isLit(channel(1).muteLamp));
 }

@@ -54,15 +54,15 @@ TEST_F(SessionTest, AReplayHasTheSameEventsAndEndsInTheSameState) {
         click(widget);
         session_->letPass(333ms);
     }
-    person().press(channel(1).volumeSlider);
+    input().press(channel(1).volumeSlider);
     for (int position = 5; position < 20; position += 3) {
-        person().move(channel(1).volumeSlider, position);
+        store().perform(Runtime::Deed::move(channel(1).volumeSlider, position));
         session_->letPass(40ms);
     }
-    person().release(channel(1).volumeSlider, Runtime::MouseButton::left,
-                     Runtime::ReleasedWhere::elsewhere);
-    person().slide(pair(1).testSlider, 9);
-    person().type(kCommon.log, 18);
+    input().release(channel(1).volumeSlider, Runtime::MouseButton::left,
+                    Runtime::ReleasedWhere::elsewhere);
+    store().perform(Runtime::Deed::slide(pair(1).testSlider, 9));
+    store().perform(Runtime::Deed::key(kCommon.log, 18));
     session_->simulator()->set(Simulator::Fault::mainsFailure, true);
     // Late by far: the timers tick as often as they came due.
     session_->letPass(7s);
@@ -153,7 +153,7 @@ TEST_F(SessionTest, WhatCannotBeRecordedOrReplayedIsToldAndChangesNothing) {
 
 TEST_F(SessionTest, ARecordingStaysReadOnlyAndOnItsTab) {
     session_->setReadOnly(true);
-    person().selectTab(Layout::kTabs.id, 2);
+    store().perform(Runtime::Deed::tab(Layout::kTabs.id, 2));
     session_->startRecording(file_);
     EXPECT_TRUE(session_->isReadOnly());
     EXPECT_EQ(store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current, 2);

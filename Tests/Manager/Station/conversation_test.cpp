@@ -28,7 +28,7 @@ TEST_F(ConversationTest, AnswersStandUnderTheirEvent) {
         panel_.Mute(1, true);
         panel_.Mute(Integer{1});
     };
-    person_.click(channel(1).muteButton);
+    store_.perform(Runtime::Deed::click(channel(1).muteButton));
     panel_.Protection(2, true);
     EXPECT_EQ(log_.lines(), Log({"event Mute 1", "  let Mute 1 -1", "  get Mute 1", "  = -1",
                                  "let Protection 2 -1"}));

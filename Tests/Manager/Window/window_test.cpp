@@ -139,7 +139,7 @@ TEST_F(WindowTest, TheEventViewShowsTheLastEventsAndIsBounded) {
     window_.session().connectNothing();
     window_.showEvents(true);
     for (std::size_t i = 0; i < EventLog::kMostLines + 50; ++i) {
-        window_.panelWidget().store().input().click(channel(1).muteButton);
+        window_.panelWidget().store().perform(Runtime::Deed::click(channel(1).muteButton));
         if (i % 777 == 0) window_.refresh();
     }
     auto* sideways = window_.findChild<QPlainTextEdit*>()->horizontalScrollBar();
@@ -215,7 +215,7 @@ TEST_F(WindowTest, ClosingEndsWithAPromptOpen) {
     soon.start(0);
     window_.panelWidget().store().enable(kCommon.resetLogButton, true);
     window_.panelWidget().store().show(kCommon.resetLogButton, true);
-    window_.panelWidget().store().input().click(kCommon.resetLogButton);
+    window_.panelWidget().store().perform(Runtime::Deed::click(kCommon.resetLogButton));
     EXPECT_FALSE(window_.isVisible());
     EXPECT_EQ(window_.findChild<QInputDialog*>(), nullptr);
 }

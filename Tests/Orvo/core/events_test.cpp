@@ -22,8 +22,8 @@ TEST_F(Events, PassCopiesThatASinkMayAssignTo) {
     Assigning second;
     const auto one = panel_.connect(first);
     const auto two = panel_.connect(second);
-    person_.click(channel(2).muteButton);
-    person_.click(channel(2).muteButton);
+    store_.perform(Deed::click(channel(2).muteButton));
+    store_.perform(Deed::click(channel(2).muteButton));
     EXPECT_EQ(first.heard, (std::vector<Integer>{2, 2}));
     EXPECT_EQ(second.heard, (std::vector<Integer>{2, 2}));
 }
@@ -32,9 +32,9 @@ TEST_F(Events, EndWithTheirConnection) {
     int heard = 0;
     {
         const auto connection = panel_.connect([&](Long, std::span<Value>) { ++heard; });
-        person_.click(kCommon.powerButton);
+        store_.perform(Deed::click(kCommon.powerButton));
     }
-    person_.click(kCommon.powerButton);
+    store_.perform(Deed::click(kCommon.powerButton));
     EXPECT_EQ(heard, 1);
 }
 
@@ -50,9 +50,9 @@ TEST_F(Events, LetASinkDisconnectItselfAndAnotherAndConnectANewOne) {
         added = panel_.connect([&](Long, std::span<Value>) { heard.emplace_back("added"); });
     });
     later = panel_.connect([&](Long, std::span<Value>) { heard.emplace_back("later"); });
-    person_.click(kCommon.powerButton);
+    store_.perform(Deed::click(kCommon.powerButton));
     EXPECT_EQ(heard, Lines{"self"});
-    person_.click(kCommon.powerButton);
+    store_.perform(Deed::click(kCommon.powerButton));
     EXPECT_EQ(heard, (Lines{"self", "added"}));
 }
 
@@ -67,8 +67,8 @@ TEST_F(Events, LetASinkReleaseThePanelInTheMidstOfAHandler) {
             bench->release();
         });
         const auto two = bench->panel().connect([&](Long, std::span<Value>) { ++heard; });
-        bench->store().input().click(button);
-        bench->store().input().click(button);
+        bench->store().perform(Deed::click(button));
+        bench->store().perform(Deed::click(button));
         EXPECT_EQ(heard, 1) << Layout::describe(button).name;
     }
 }
@@ -80,8 +80,8 @@ TEST_F(Events, GoOnWhenASinkFails) {
     });
     int heard = 0;
     const auto other = panel_.connect([&](Long, std::span<Value>) { ++heard; });
-    person_.click(kCommon.powerButton);
-    person_.click(channel(1).muteButton);
+    store_.perform(Deed::click(kCommon.powerButton));
+    store_.perform(Deed::click(channel(1).muteButton));
     EXPECT_EQ(heard, 2);
     EXPECT_EQ(takeLines(),
               (Lines{"OnOff", "! 1003 Host handler failed: no link", "Mute 1", "! 6 Overflow"}));

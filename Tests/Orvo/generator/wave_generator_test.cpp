@@ -44,7 +44,7 @@ TEST_F(Routing, HighlightsOneRouteOfItsPairAndLeavesTheOtherPairAlone) {
         const Input& chosen = Layout::kChannels[channel].*input;
         SCOPED_TRACE(Layout::describe(chosen.option).name);
         const Lines other = litOf(1 - channel / 2);
-        person_.click(chosen.option);
+        store_.perform(Deed::click(chosen.option));
         Lines expected = linesOf(chosen);
         expected.insert(Layout::kChannels[channel].output);
         EXPECT_EQ(litOf(channel / 2), expected);

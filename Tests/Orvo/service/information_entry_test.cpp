@@ -16,7 +16,7 @@ TEST_F(InformationEntry, EndsWhenThePanelIsReleasedUnderIt) {
         int asked = 0;
     } person;
     person.bench->store().promptWith(&person);
-    person.bench->store().input().type(kCommon.log, 18);
+    person.bench->store().perform(Deed::key(kCommon.log, 18));
     EXPECT_EQ(person.asked, 1);
     EXPECT_TRUE(person.bench->store().widget(kCommon.resetLogButton).isEnabled());
 }

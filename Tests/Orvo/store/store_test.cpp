@@ -30,7 +30,6 @@ protected:
 
     std::shared_ptr<Store> shared_ = Store::create();
     Store& store_ = *shared_;
-    Runtime::UserInput& person_ = store_.input();
     std::vector<std::string> heard_;
     std::function<void(Notification&)> answer_;
 };
@@ -43,13 +42,13 @@ TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
     constexpr auto kP3 = channel(3).positive.option;
     store_[kP3].setValue(true);
     store_[kP1].setValue(true);
-    person_.click(kN1.id);
+    store_.perform(Deed::click(kN1.id));
     EXPECT_FALSE(store_[kP1].value());
     EXPECT_TRUE(store_[kN1].value());
     EXPECT_TRUE(store_[kP3].value());
     EXPECT_EQ(takeHeard(), (Heard{"click optP3", "click optP1", "click optN1", "release optN1"}));
-    person_.click(kN1.id);
-    person_.type(kN1.id, ' ');
+    store_.perform(Deed::click(kN1.id));
+    store_.perform(Deed::key(kN1.id, ' '));
     store_[kN1].setValue(true);
     EXPECT_EQ(takeHeard(),
               (Heard{"click optN1", "release optN1", "key optN1", "click optN1", "click optN1"}));
@@ -77,13 +76,13 @@ TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
     store_[kSlider].setPosition(-40);
     EXPECT_EQ(store_[kSlider].position(), -40);
     EXPECT_EQ(state.shown(), 0);
-    person_.press(kSlider.id);
+    store_.input().press(kSlider.id);
     EXPECT_TRUE(bool(store_[kSlider].buttonDown()));
-    person_.move(kSlider.id, 35);
+    store_.perform(Deed::move(kSlider.id, 35));
     EXPECT_EQ(store_[kSlider].position(), 30);
     store_[kSlider].setEnabled(false);
     EXPECT_FALSE(bool(store_[kSlider].buttonDown()));
-    person_.slide(kSlider.id, 3);
+    store_.perform(Deed::slide(kSlider.id, 3));
     EXPECT_EQ(store_[kSlider].position(), 30);
     EXPECT_EQ(takeHeard(), Heard{"change ZelvinSlider1"});
 }
@@ -91,12 +90,12 @@ TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
 TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
     auto& tabs = store_[Layout::kTabs];
     const auto& state = store_.get<Runtime::StoredTabs>(Layout::kTabs.id).state();
-    person_.selectTab(Layout::kTabs.id, 2);
+    store_.perform(Deed::tab(Layout::kTabs.id, 2));
     tabs.setTabEnabled(1, false);
     EXPECT_EQ(state.current, 2);
     tabs.setTabEnabled(2, false);
     EXPECT_EQ(state.current, 0);
-    person_.selectTab(Layout::kTabs.id, 2);
+    store_.perform(Deed::tab(Layout::kTabs.id, 2));
     EXPECT_EQ(state.current, 0);
     EXPECT_EQ(errorOf([&] { tabs.setTabEnabled(3, true); }), 5);
 }

@@ -229,7 +229,7 @@ TEST(AccessibilityOfAPanelTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
     host.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
     panel.control(kCommon.powerButton)->setFocus();
-    panel.store().input().selectTab(0, 1);
+    panel.store().perform(Runtime::Deed::tab(0, 1));
     panel.flush();
     EXPECT_TRUE(panel.control(kTabs)->hasFocus());
 }

@@ -94,7 +94,7 @@ TEST_F(InputTest, WhatAPersonDoesReachesThePanel) {
     };
     for (const InputRow& row : rows) {
         SCOPED_TRACE(row.label);
-        toTab(row.widget == kTabs ? 0 : pageOf(row.widget));
+        toTab(pageOf(row.widget));
         store_[channel(1).volumeSlider].setPosition(0);
         settle();
         panel_.heard.clear();

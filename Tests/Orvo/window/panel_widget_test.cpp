@@ -13,7 +13,7 @@
 #include <QWindow>
 
 #include "Orvo/core/marvane_assistant.h"
-#include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 #include "Orvo/window/drawing/scale.h"
 #include "Support/roles.h"
 
@@ -47,7 +47,7 @@ protected:
         tell(id, QTest::mouseRelease);
     }
     void toTab(int tab) {
-        widget_->store().input().selectTab(0, tab);
+        widget_->store().perform(Runtime::Deed::tab(0, tab));
         widget_->flush();
     }
 
@@ -56,13 +56,13 @@ protected:
     Connection connection_ = widget_->panel().connect(host_);
 
 private:
-    using Action = void (*)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int);
+    using Gesture = void (*)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int);
 
-    void tell(WidgetId id, Action action) {
+    void tell(WidgetId id, Gesture gesture) {
         const int tab = pageOf(id);
         if (widget_->store().get<Runtime::StoredTabs>(0).state().current != tab) toTab(tab);
         const QPoint place = control(id).mapTo(widget_, control(id).rect().center());
-        action(widget_->windowHandle(), Qt::LeftButton, {}, place, -1);
+        gesture(widget_->windowHandle(), Qt::LeftButton, {}, place, -1);
     }
 };
 
@@ -76,7 +76,7 @@ TEST_F(PanelWidgetTest, TheRoundTripIsOnTheScreenAFrameLater) {
 TEST_F(PanelWidgetTest, TimersRunByTheRealClock) {
     int ticks = 0;
     widget_->panel().TimerVirtualTemp34(false);
-    widget_->store().input().slide(pair(1).testSlider, 50);
+    widget_->store().perform(Runtime::Deed::slide(pair(1).testSlider, 50));
     host_.act = [&] { ++ticks; };
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }, 10'000));
 }
@@ -114,7 +114,7 @@ TEST_F(PanelWidgetTest, AHandlerMayDeleteIt) {
         {"slider", [&] { press(channel(1).volumeSlider); }},
         {"tick",
          [&] {
-             widget_->store().input().slide(pair(1).testSlider, 50);
+             widget_->store().perform(Runtime::Deed::slide(pair(1).testSlider, 50));
              host_.act = [&] { delete widget_; };
              QTest::qWait(1700);
          }},
@@ -196,7 +196,7 @@ TEST_F(PromptTest, ClosingTheWindowEndsTheEntryAtWhicheverPrompt) {
         });
         answering.start(1);
         widget_->show();
-        store_->input().type(kCommon.log, 18);
+        store_->perform(Runtime::Deed::key(kCommon.log, 18));
         EXPECT_EQ(asked, closedAt);
         EXPECT_EQ(raised, 0);
         EXPECT_TRUE(store_->widget(kCommon.resetLogButton).isEnabled());

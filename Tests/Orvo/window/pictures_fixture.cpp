@@ -71,7 +71,7 @@ void PicturesTest::showChannel(Integer channel) {
 }
 
 QImage PicturesTest::picture(int tab) {
-    store_.input().selectTab(Layout::kTabs.id, tab);
+    store_.perform(Runtime::Deed::tab(Layout::kTabs.id, tab));
     widget_.flush();
     return widget_.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }

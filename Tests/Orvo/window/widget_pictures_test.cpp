@@ -89,7 +89,7 @@ TEST_F(WidgetPicturesTest, Lines) {
     add(Layout::describe(channel(1).positive.option).container);
     for (const auto option :
          {channel(1).negative.option, channel(2).positive.option, channel(2).negative.option}) {
-        store_.input().click(option);
+        store_.perform(Runtime::Deed::click(option));
         add(Layout::describe(channel(1).positive.option).container);
     }
     expectTilesAsKept("route", false);
@@ -98,7 +98,7 @@ TEST_F(WidgetPicturesTest, Lines) {
 TEST_F(WidgetPicturesTest, OptionsAndChecks) {
     for (const auto button : {pair(1).waves[0].id, pair(1).waves[1].id, pair(1).powerCheck.id})
         addStates(button);
-    store_.input().click(pair(1).powerCheck);
+    store_.perform(Runtime::Deed::click(pair(1).powerCheck));
     addStates(pair(1).powerCheck);
     expectTilesAsKept("options", false);
 }
@@ -115,12 +115,12 @@ TEST_F(WidgetPicturesTest, Buttons) {
 TEST_F(WidgetPicturesTest, Sliders) {
     for (const auto slider : {channel(1).volumeSlider, pair(1).testSlider}) {
         addStates(slider);
-        store_.input().hold(slider);
+        store_.perform(Runtime::Deed::hold(slider));
         for (const int position : {0, 13, 100}) {
-            store_.input().move(slider, position);
+            store_.perform(Runtime::Deed::move(slider, position));
             add(slider);
         }
-        store_.input().drop(slider);
+        store_.perform(Runtime::Deed::drop(slider));
     }
     expectTilesAsKept("sliders", false);
 }

@@ -45,7 +45,7 @@ protected:
     }
 
     void toTab(int tab) {
-        store_.input().selectTab(0, tab);
+        store_.perform(Runtime::Deed::tab(0, tab));
         settle();
     }
 

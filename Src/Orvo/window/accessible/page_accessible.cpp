@@ -51,7 +51,7 @@ QAccessible::State PaintedAccessible::state() const {
 }
 
 void* PaintedAccessible::interface_cast(QAccessible::InterfaceType type) {
-    const bool isCounted = kind() != Kind::label;
+    const bool isCounted = Layout::kindOf(id_) != Kind::label;
     if (type != QAccessible::ValueInterface || !isCounted) return nullptr;
     return static_cast<QAccessibleValueInterface*>(this);
 }
@@ -61,12 +61,12 @@ QVariant PaintedAccessible::currentValue() const {
 }
 
 QVariant PaintedAccessible::maximumValue() const {
-    if (kind() == Kind::shape) return 1;
-    return int(std::pow(10, readoutWith(id_)->width)) - 1;
+    const auto* readout = readoutWith(id_);
+    return readout == nullptr ? 1 : int(std::pow(10, readout->width)) - 1;
 }
 
 QVariant PaintedAccessible::minimumValue() const {
-    return kind() == Kind::shape ? 0 : -maximumValue().toInt();
+    return readoutWith(id_) == nullptr ? 0 : -maximumValue().toInt();
 }
 
 PageAccessible::PageAccessible(Page& page) : QAccessibleWidget(&page, QAccessible::Pane) {}

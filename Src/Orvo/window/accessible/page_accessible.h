@@ -36,7 +36,6 @@ public:
     [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
 
 private:
-    [[nodiscard]] Layout::Kind kind() const { return Layout::kindOf(id_); }
     [[nodiscard]] QString value() const;
 
     const QPointer<Page> page_;

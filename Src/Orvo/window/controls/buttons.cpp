@@ -82,7 +82,8 @@ void OptionButton::selectNext(int step) {
             auto* fellow = dynamic_cast<OptionButton*>(child);
             if (fellow != nullptr && fellow->id() == next) fellow->setFocus(Qt::TabFocusReason);
         }
-        return input().activate(next);
+        perform(Deed::activate(next));
+        return;
     }
 }
 

@@ -21,7 +21,7 @@ ComboBox::ComboBox(Runtime::Store& store, WidgetId id, QWidget* parent)
 
 void ComboBox::pick(const QString& text) {
     const QPointer<QWidget> self = this;
-    input().pick(id(), fromQt(text));
+    perform(Deed::pick(id(), fromQt(text)));
     if (self != nullptr) refresh();
 }
 
@@ -61,7 +61,7 @@ void ComboBox::keyPressEvent(QKeyEvent* event) {
     if (typed.empty()) return QComboBox::keyPressEvent(event);
     const QPointer<QObject> self = this;
     for (const char16_t character : typed) {
-        if (self) input().type(id(), Integer(character));
+        if (self) perform(Deed::key(id(), character));
     }
 }
 

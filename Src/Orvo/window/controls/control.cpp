@@ -5,6 +5,7 @@
 
 #include <QMouseEvent>
 
+#include "Orvo/store/user_input.h"
 #include "Orvo/widgets/kind_table.h"
 #include "Orvo/window/controls/buttons.h"
 #include "Orvo/window/controls/combo_box.h"
@@ -70,14 +71,15 @@ using Controls = Widgets::KindTable<
 void Control::press(QMouseEvent& event) {
     const auto button = mouseButtonOf(event);
     if (!button) return event.ignore();
-    input().press(id_, *button);
+    store_.input().press(id_, *button);
 }
 
 void Control::release(QMouseEvent& event) {
     const auto button = mouseButtonOf(event);
     if (!button) return event.ignore();
     const bool isInside = self_.rect().contains(event.position().toPoint());
-    input().release(id_, *button, isInside ? ReleasedWhere::onWidget : ReleasedWhere::elsewhere);
+    const auto where = isInside ? ReleasedWhere::onWidget : ReleasedWhere::elsewhere;
+    store_.input().release(id_, *button, where);
 }
 
 // A screen reader that is told of a name asks whose it is, and keeps what it learns: not while the

@@ -3,10 +3,13 @@
 #include <QWidget>
 
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 #include "Orvo/window/drawing/scale.h"
 #include "Orvo/window/drawing/text.h"
 
 namespace Orvo::Window {
+
+using Runtime::Deed;
 
 /// What a real Qt control has besides Qt's own: the widget of the store that it stands for. It
 /// shows what the store says and hands on what a person does; a rule about either is the store's.
@@ -37,7 +40,7 @@ protected:
     }
     [[nodiscard]] const Layout::Widget& description() const { return Layout::describe(id_); }
     [[nodiscard]] const Layout::Style& looks() const { return description().style; }
-    [[nodiscard]] Runtime::UserInput& input() const { return store_.input(); }
+    bool perform(const Deed& deed) { return store_.perform(deed); }
     [[nodiscard]] double zoom() const { return zoom_; }
 
     /// Hands a mouse button on, but for the further ones that some mice have.

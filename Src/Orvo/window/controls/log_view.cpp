@@ -148,7 +148,7 @@ void LogView::keyPressEvent(QKeyEvent* event) {
     const String typed = typedBy(*event);
     bool isTaken = typed.empty();
     for (const char16_t character : typed) {
-        isTaken |= input().type(id(), Integer(character));
+        isTaken |= perform(Deed::key(id(), character));
         if (!self) return;
     }
     if (!isTaken) return;

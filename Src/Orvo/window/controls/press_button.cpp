@@ -10,7 +10,7 @@ PressButton::PressButton(Runtime::Store& store, WidgetId id, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     // Mouse and keys don't come to this, but a screen reader's press does.
-    connect(this, &QAbstractButton::clicked, this, [this] { input().activate(this->id()); });
+    connect(this, &QAbstractButton::clicked, this, [this] { perform(Deed::activate(this->id())); });
 }
 
 void PressButton::refresh() {
@@ -21,7 +21,7 @@ void PressButton::refresh() {
 bool PressButton::event(QEvent* event) {
     if (event->type() != QEvent::Shortcut) return QAbstractButton::event(event);
     event->accept();
-    input().activate(id());
+    perform(Deed::activate(id()));
     return true;
 }
 
@@ -47,14 +47,14 @@ void PressButton::keyPressEvent(QKeyEvent* event) {
     if (!isSpace && !(isEnter && isEnterTaken)) return event->ignore();
     if (event->isAutoRepeat()) return;
     if (isSpace) return setDown(true);
-    input().type(id(), Integer{'\r'});
+    perform(Deed::key(id(), u'\r'));
 }
 
 void PressButton::keyReleaseEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Space) return event->ignore();
     if (event->isAutoRepeat() || !isDown()) return;
     setDown(false);
-    input().type(id(), Integer{' '});
+    perform(Deed::key(id(), u' '));
 }
 
 void PressButton::focusOutEvent(QFocusEvent* event) {

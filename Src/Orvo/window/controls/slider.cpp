@@ -57,7 +57,7 @@ bool Slider::event(QEvent* event) {
 
 void Slider::letGo() {
     grip_.reset();
-    if (std::exchange(isPressed_, false)) input().drop(id());
+    if (std::exchange(isPressed_, false)) perform(Deed::drop(id()));
 }
 
 void Slider::mousePressEvent(QMouseEvent* event) {

@@ -15,7 +15,7 @@ public:
     void refresh() override;
 
     /// As a person does.
-    void moveTo(int position) { input().move(id(), position); }
+    void moveTo(int position) { perform(Deed::move(id(), position)); }
     [[nodiscard]] int maximum() const { return track().maximum; }
 
 protected:

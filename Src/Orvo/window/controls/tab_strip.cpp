@@ -48,7 +48,7 @@ void TabStrip::refresh() {
 }
 
 void TabStrip::select(int tab) {
-    input().selectTab(Layout::kTabs.id, tab);
+    perform(Deed::tab(Layout::kTabs.id, tab));
     refresh();
 }
 

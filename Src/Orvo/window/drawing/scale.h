@@ -25,10 +25,12 @@ constexpr Corner cornerOf(WidgetId container) {
     return corner;
 }
 
-/// The tab of the panel that a widget belongs to, whatever it is contained in.
+/// The tab of the panel that a widget belongs to, whatever it is contained in; the first for the
+/// tabs themselves.
 constexpr int pageOf(WidgetId id) {
-    while (Layout::describe(id).container != 0) id = Layout::describe(id).container;
-    return Layout::describe(id).tab;
+    int tab = 0;
+    for (; id != Layout::kTabs; id = Layout::describe(id).container) tab = Layout::describe(id).tab;
+    return tab;
 }
 
 /// From twips to pixels: the one place where the factor is applied. It is edges that are rounded,

@@ -3,6 +3,7 @@
 #include <QRect>
 
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 #include "Orvo/window/drawing/scale.h"
 
 class QPainter;

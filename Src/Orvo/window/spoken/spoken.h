@@ -6,6 +6,7 @@
 
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 
 // What the named widgets say, in words. A lamp says "lit" or "dark", a readout "-42 V", a result
 // "PASS", a slider "-10 dB", a scope "trace of 240 samples".
