@@ -20,8 +20,6 @@ struct Event {
     std::array<Parameter, 4> parameterSlots{};
     std::size_t parameterCount = 0;
     Contract contract{};
-    /// Calls the sink's function; the arguments have the parameters' types already.
-    void (*deliver)(MarvaneAssistantEvents& sink, std::span<Value> arguments) = nullptr;
 
     [[nodiscard]] constexpr std::span<const Parameter> parameters() const {
         return std::span(parameterSlots).first(parameterCount);
@@ -31,16 +29,6 @@ struct Event {
 namespace Detail {
 
 template <auto kFunction>
-void deliverEvent(MarvaneAssistantEvents& sink, std::span<Value> arguments) {
-    using Types = Signature<decltype(kFunction)>;
-    [&]<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
-        (sink.*
-         kFunction)(std::get<typename Types::template Argument<kIndex>>(arguments[kIndex])...);
-    }
-    (std::make_index_sequence<Types::kCount>());
-}
-
-template <auto kFunction>
 consteval Event event(Long dispatchId, std::string_view name,
                       std::initializer_list<Parameter> parameters) {
     if (!fits<decltype(kFunction)>(parameters)) throw "the parameters are not the function's";
@@ -48,8 +36,7 @@ consteval Event event(Long dispatchId, std::string_view name,
             .name = name,
             .parameterSlots = padded<4>(parameters),
             .parameterCount = parameters.size(),
-            .contract = contractOf(kEventContracts, dispatchId, name),
-            .deliver = &deliverEvent<kFunction>};
+            .contract = contractOf(kEventContracts, dispatchId, name)};
 }
 
 consteval auto eventTable() {
