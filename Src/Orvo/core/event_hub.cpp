@@ -1,10 +1,22 @@
 #include "Orvo/core/event_hub.h"
 
+#include <array>
 #include <exception>
 #include <new>
 #include <utility>
 
 namespace Orvo {
+namespace {
+
+using Events = MarvaneAssistantEvents;
+
+template <class... Arguments>
+void tellLateBound(const LateBoundSink& sink, Long dispatchId, const Arguments&... arguments) {
+    std::array<Value, sizeof...(Arguments)> own{arguments...};
+    sink(dispatchId, own);
+}
+
+}  // namespace
 
 Error currentError() {
     try {
@@ -20,16 +32,10 @@ Error currentError() {
     }
 }
 
-Connection EventHub::connect(MarvaneAssistantEvents& sink) {
-    return sinks_.add([&sink](const Event& event, std::span<Value> arguments) {
-        event.deliver(sink, arguments);
-    });
-}
+Connection EventHub::connect(MarvaneAssistantEvents& sink) { return sinks_.add({.typed = &sink}); }
 
 Connection EventHub::connect(LateBoundSink sink) {
-    return sinks_.add([sink = std::move(sink)](const Event& event, std::span<Value> arguments) {
-        sink(event.dispatchId, arguments);
-    });
+    return sinks_.add({.lateBound = std::move(sink)});
 }
 
 void EventHub::close() {
@@ -37,37 +43,41 @@ void EventHub::close() {
     sinks_.disconnectAll();
 }
 
-void EventHub::raise(const Event& event, std::initializer_list<Value> arguments) {
-    sinks_.tell([&](const Deliver& sink) { deliver(sink, event, arguments); });
+template <auto kFunction, class... Arguments>
+inline void EventHub::raise(const Event& event, const Arguments&... arguments) {
+    sinks_.tell([&](const Sink& sink) {
+        try {
+            if (sink.typed != nullptr) {
+                const auto deliver = [&](Arguments... own) { (sink.typed->*kFunction)(own...); };
+                return deliver(arguments...);
+            }
+            tellLateBound(sink.lateBound, event.dispatchId, arguments...);
+        } catch (...) {
+            onError_(currentError());
+        }
+    });
     if (!isOpen_) throw Released{};
 }
 
-void EventHub::deliver(const Deliver& sink, const Event& event, std::vector<Value> arguments) {
-    try {
-        sink(event, arguments);
-    } catch (...) {
-        onError_(currentError());
-    }
-}
-
-void EventHub::OnOff() { raise(eventNamed("OnOff"), {}); }
-void EventHub::Mute(Integer& intChannel) { raise(eventNamed("Mute"), {intChannel}); }
-void EventHub::DownLoad() { raise(eventNamed("DownLoad"), {}); }
+void EventHub::OnOff() { raise<&Events::OnOff>(eventNamed("OnOff")); }
+void EventHub::Mute(Integer& intChannel) { raise<&Events::Mute>(eventNamed("Mute"), intChannel); }
+void EventHub::DownLoad() { raise<&Events::DownLoad>(eventNamed("DownLoad")); }
 void EventHub::VolumeChange(Integer& intChannel, Integer& intVolume) {
-    raise(eventNamed("VolumeChange"), {intChannel, intVolume});
+    raise<&Events::VolumeChange>(eventNamed("VolumeChange"), intChannel, intVolume);
 }
 void EventHub::SetTemp(Integer& intChannel, Integer& intValue) {
-    raise(eventNamed("SetTemp"), {intChannel, intValue});
+    raise<&Events::SetTemp>(eventNamed("SetTemp"), intChannel, intValue);
 }
 void EventHub::WaveForm(Integer& intNChannel, Integer& intTypeWaveForm, Integer& intPosNeg) {
-    raise(eventNamed("WaveForm"), {intNChannel, intTypeWaveForm, intPosNeg});
+    raise<&Events::WaveForm>(eventNamed("WaveForm"), intNChannel, intTypeWaveForm, intPosNeg);
 }
 void EventHub::GeneralInformations(Integer& intIdDevice, String& strInformations, String& strSnAmp,
                                    String& strSnCard) {
-    raise(eventNamed("GeneralInformations"), {intIdDevice, strInformations, strSnAmp, strSnCard});
+    raise<&Events::GeneralInformations>(eventNamed("GeneralInformations"), intIdDevice,
+                                        strInformations, strSnAmp, strSnCard);
 }
 void EventHub::ChangeAmpId(Integer& intIdDevice) {
-    raise(eventNamed("ChangeAmpId"), {intIdDevice});
+    raise<&Events::ChangeAmpId>(eventNamed("ChangeAmpId"), intIdDevice);
 }
 
 }  // namespace Orvo

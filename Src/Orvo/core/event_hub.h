@@ -1,9 +1,5 @@
 #pragma once
 
-#include <initializer_list>
-#include <span>
-#include <vector>
-
 #include "Orvo/core/connection.h"
 #include "Orvo/core/event_table.h"
 #include "Orvo/core/events.h"
@@ -43,13 +39,17 @@ public:
     void ChangeAmpId(Integer& intIdDevice) override;
 
 private:
-    using Deliver = std::function<void(const Event& event, std::span<Value> arguments)>;
+    // One of the two.
+    struct Sink {
+        MarvaneAssistantEvents* typed = nullptr;
+        LateBoundSink lateBound{};
+    };
 
-    void raise(const Event& event, std::initializer_list<Value> arguments);
-    void deliver(const Deliver& sink, const Event& event, std::vector<Value> arguments);
+    template <auto kFunction, class... Arguments>
+    void raise(const Event& event, const Arguments&... arguments);
 
     const ErrorHandler& onError_;
-    Receivers<Deliver> sinks_;
+    Receivers<Sink> sinks_;
     bool isOpen_ = true;
 };
 

@@ -18,8 +18,6 @@ struct Event {
     std::string_view name;
     std::array<Parameter, 4> parameterSlots{};
     std::size_t parameterCount = 0;
-    /// Calls the sink's function; the arguments have the parameters' types already.
-    void (*deliver)(MarvaneAssistantEvents& sink, std::span<Value> arguments) = nullptr;
 
     [[nodiscard]] constexpr std::span<const Parameter> parameters() const {
         return std::span(parameterSlots).first(parameterCount);
@@ -29,24 +27,13 @@ struct Event {
 namespace Detail {
 
 template <auto kFunction>
-void deliverEvent(MarvaneAssistantEvents& sink, std::span<Value> arguments) {
-    using Types = Signature<decltype(kFunction)>;
-    [&]<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
-        (sink.*
-         kFunction)(std::get<typename Types::template Argument<kIndex>>(arguments[kIndex])...);
-    }
-    (std::make_index_sequence<Types::kCount>());
-}
-
-template <auto kFunction>
 consteval Event event(Long dispatchId, std::string_view name,
                       std::initializer_list<Parameter> parameters) {
     if (!fits<decltype(kFunction)>(parameters)) throw "the parameters are not the function's";
     return {.dispatchId = dispatchId,
             .name = name,
             .parameterSlots = padded<4>(parameters),
-            .parameterCount = parameters.size(),
-            .deliver = &deliverEvent<kFunction>};
+            .parameterCount = parameters.size()};
 }
 
 consteval auto eventTable() {

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string_view>
-#include <vector>
 
 #include "Orvo/core/member_table.h"
 #include "Orvo/values/error.h"
@@ -23,8 +21,5 @@ std::optional<Long> dispatchIdOf(std::string_view name);
 /// The member with this dispatch id and kind. Error 438 when there is none, error 383 when it is
 /// written but can only be read, error 394 when it is read but can only be written.
 const Member& findMember(Long dispatchId, MemberKind kind);
-
-/// The arguments converted to the member's parameters. Error 450 when their number is another.
-std::vector<Value> convertArguments(const Member& member, std::span<const Value> arguments);
 
 }  // namespace Orvo

@@ -39,8 +39,8 @@ public:
     /// as long. It may call the panel, and release it, but throws nothing.
     Connection listen(CallListener& listener);
 
-    /// Calls a member by dispatch id. Arguments are converted to the types of its parameters, see
-    /// `convert`; errors 438, 450, 383 and 394 as for `findMember` and `convertArguments`.
+    /// Calls a member by dispatch id; errors 438, 383 and 394 as for `findMember`, conversions and
+    /// error 450 as for `Member::call`.
     InvokeResult invoke(Long dispatchId, MemberKind kind, std::span<const Value> arguments = {});
 
     /// Who is told of an error that nobody waits for: one that ended the handling of a click or a
@@ -85,10 +85,9 @@ public:
     Boolean ReadOnly() override;
 
 private:
-    // On the right thread, and kept alive until the call returns.
-    [[nodiscard]] std::shared_ptr<Panel> enter() const;
+    [[nodiscard]] Panel& onItsThread() const;
 
-    std::shared_ptr<Panel> panel_;
+    std::unique_ptr<Panel> panel_;
 };
 
 }  // namespace Orvo

@@ -12,6 +12,7 @@
 
 #include "Orvo/core/interface.h"
 #include "Orvo/core/value.h"
+#include "Orvo/values/error.h"
 
 namespace Orvo {
 
@@ -34,7 +35,8 @@ struct Member {
     std::array<Parameter, 2> parameterSlots{};
     std::size_t parameterCount = 0;
     ValueType result = ValueType::none;
-    /// Calls the member; the arguments have the parameters' types already.
+    /// Calls the member, with the arguments converted to the types of its parameters, see
+    /// `convert`. Error 450 when their number is another.
     Value (*call)(MarvaneAssistantInterface& panel, std::span<const Value> arguments) = nullptr;
 
     [[nodiscard]] constexpr std::span<const Parameter> parameters() const {
@@ -74,17 +76,25 @@ consteval std::array<Parameter, kSlots> padded(std::initializer_list<Parameter> 
     return filled;
 }
 
+// Values that have the parameters' types already are passed on as they are, without copies.
 template <auto kFunction>
-Value callMember(MarvaneAssistantInterface& panel, std::span<const Value> arguments) {
+Value callMember(MarvaneAssistantInterface& panel, std::span<const Value> values) {
     using Types = Signature<decltype(kFunction)>;
+    if (values.size() != Types::kCount) throw Errors::wrongArgumentCount();
     return [&]<std::size_t... kIndex>(std::index_sequence<kIndex...>)->Value {
+        if (!((typeOf(values[kIndex]) == Types::kTypes[kIndex]) && ...)) {
+            // Braces: the first that can't be converted is the one that is told of.
+            const std::array<Value, Types::kCount> converted{
+                convert(values[kIndex], Types::kTypes[kIndex])...};
+            return callMember<kFunction>(panel, converted);
+        }
         const auto call = [&] {
             return (panel.*kFunction)(
-                std::get<typename Types::template Argument<kIndex>>(arguments[kIndex])...);
+                std::get<typename Types::template Argument<kIndex>>(values[kIndex])...);
         };
         if constexpr (std::is_void_v<typename Types::Returned>) {
             call();
-            return {};
+            return std::monostate();
         } else {
             return call();
         }

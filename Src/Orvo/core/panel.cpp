@@ -68,14 +68,16 @@ void Panel::create() {
     for (const Pair& pair : kPairs) widgets[pair.testSlider].setMaximum(kHighestTestTemperature);
 }
 
-void Panel::release() {
-    runtime_->notifyTo(nullptr);
-    events.close();
-    prompt_->release();
+void Panel::release(std::unique_ptr<Panel> panel) {
+    Panel& released = *panel;
+    released.runtime_->notifyTo(nullptr);
+    released.events.close();
+    released.prompt_->release();
+    if (released.isUnderWay_) released.released_ = std::move(panel);
 }
 
 void Panel::notify(Notification& notification) {
-    const auto alive = shared_from_this();
+    const UnderWay underWay(*this);
     const auto* bound = std::find_if(kNotifications.begin(), kNotifications.end(), [&](auto& row) {
         return row.widget == notification.widget && row.kind == notification.kind;
     });
@@ -90,9 +92,7 @@ void Panel::notify(Notification& notification) {
     }
 }
 
-void Panel::checkThread() const {
-    if (std::this_thread::get_id() != thread_) throw Errors::wrongThread();
-}
+void Panel::refuseThread() { throw Errors::wrongThread(); }
 
 void Panel::setErrorHandler(ErrorHandler handler) {
     errorHandler_ = handler ? std::move(handler) : writeToStandardError;

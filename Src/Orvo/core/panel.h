@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <thread>
+#include <utility>
 
 #include "Orvo/core/call_listener.h"
 #include "Orvo/core/event_hub.h"
@@ -25,8 +26,8 @@
 namespace Orvo {
 
 /// The panel's subjects over one set of widgets, and the entry through which the widgets notify
-/// them. It outlives its owner for as long as a call is under way.
-class Panel final : public Widgets::NotificationSink, public std::enable_shared_from_this<Panel> {
+/// them.
+class Panel final : public Widgets::NotificationSink {
 public:
     Panel(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform);
     ~Panel() override;
@@ -35,24 +36,34 @@ public:
     /// are taken from here on.
     void create();
 
-    /// No notification and no event passes from here on; what is under way ends without an error.
-    void release();
+    /// No notification and no event passes from here on; what is under way ends without an error,
+    /// and the panel with it.
+    static void release(std::unique_ptr<Panel> panel);
 
     void notify(Widgets::Notification& notification) override;
 
     /// Throws error 1001 on another thread than the one that made the panel.
-    void checkThread() const;
+    void checkThread() const {
+        if (&kThread != thread_) refuseThread();
+    }
 
     void setErrorHandler(ErrorHandler handler);
 
 private:
+    friend class UnderWay;
     // Ends what is under way when the panel was released while a prompt was open.
     class Prompt;
 
+    [[noreturn]] static void refuseThread();
     void report(const Error& error) const;
 
+    // Each thread has its own, at an address that takes no call to find out.
+    static inline constinit thread_local const char kThread = 0;
+
+    const char* thread_ = &kThread;
+    bool isUnderWay_ = false;
+    std::unique_ptr<Panel> released_;  // itself, until what is under way ends
     std::shared_ptr<Widgets::WidgetTree> runtime_;
-    std::thread::id thread_ = std::this_thread::get_id();
     ErrorHandler errorHandler_;
     ErrorHandler onError_ = [this](const Error& error) { report(error); };
     std::unique_ptr<Prompt> prompt_;
@@ -78,6 +89,26 @@ public:
     InformationEntry informationEntry;
     PortDiscovery portDiscovery;
     // NOLINTEND(*-non-private-member-variables-in-classes)
+};
+
+/// Something that the panel does, perhaps while it does something else already. A panel that is
+/// released meanwhile ends with the outermost.
+class UnderWay {
+public:
+    explicit UnderWay(Panel& panel)
+        : panel_(panel), isOutermost_(!std::exchange(panel.isUnderWay_, true)) {}
+    UnderWay(const UnderWay&) = delete;
+    UnderWay& operator=(const UnderWay&) = delete;
+    ~UnderWay() {
+        if (!isOutermost_) return;
+        panel_.isUnderWay_ = false;
+        if (panel_.released_ != nullptr) [[unlikely]]
+            panel_.released_.reset();
+    }
+
+private:
+    Panel& panel_;
+    const bool isOutermost_;
 };
 
 }  // namespace Orvo

@@ -138,4 +138,7 @@ private:
     std::function<Milliseconds()> sinceCatchUp_;
 };
 
+inline bool StoredWidget::isObserved() const { return store_.isObserved(); }
+inline void StoredWidget::changed() { store_.changed(id_); }
+
 }  // namespace Orvo::Runtime

@@ -44,8 +44,6 @@ void StoredWidget::enable(bool enabled) {
     if (change(isEnabled_, enabled)) store_.letGoOfSliders();
 }
 
-void StoredWidget::changed() { store_.changed(id_); }
-
 StoredLabel::StoredLabel(Store& store, WidgetId id) : StoredKind(store, id) {
     state_ = {String(description().caption), description().style.text};
 }
@@ -71,7 +69,7 @@ StoredLine::StoredLine(Store& store, WidgetId id) : StoredKind(store, id) {
 void StoredLine::setColour(Colour colour) { write(Verb::setColour, state_.colour, colour); }
 
 void StoredLine::setVisible(Boolean visible) {
-    observe({.verb = Verb::setVisible, .value = visible.raw()});
+    observe(Verb::setVisible, visible.raw());
     show(bool(visible));
 }
 
@@ -82,7 +80,7 @@ StoredOption::StoredOption(Store& store, WidgetId id) : StoredEnableable(store, 
 bool StoredOption::value() const { return read(Verb::readValue, state_.value); }
 
 void StoredOption::setValue(bool value) {
-    observe({.verb = Verb::setValue, .value = Boolean(value).raw()});
+    observe(Verb::setValue, Boolean(value).raw());
     value ? select(Cause::code) : clear();
 }
 
@@ -107,7 +105,7 @@ StoredCombo::StoredCombo(Store& store, WidgetId id) : StoredEnableable(store, id
 }
 
 void StoredCombo::addItem(const String& text) {
-    observe({.verb = Verb::addItem, .value = text});
+    observe(Verb::addItem, text);
     if (state_.items.empty()) state_.items.reserve(kUsualItems);
     state_.items.push_back(text);
     changed();
@@ -121,7 +119,7 @@ bool StoredCombo::hasItem(StringView text) const {
 }
 
 void StoredList::addItem(const String& text) {
-    observe({.verb = Verb::addItem, .value = text});
+    observe(Verb::addItem, text);
     const bool isFull = state_.items.size() == ListState::kMostItems ||
                         text.size() > ListState::kMostText - state_.text;
     if (isFull) throw Errors::outOfMemory();
@@ -131,7 +129,7 @@ void StoredList::addItem(const String& text) {
 }
 
 void StoredList::clear() {
-    observe({.verb = Verb::clear});
+    observe(Verb::clear);
     if (state_.items.empty()) return;
     state_.items.clear();
     state_.text = 0;
@@ -165,7 +163,7 @@ std::size_t StoredTabs::checked(Integer tab) const {
 }
 
 void StoredTabs::setCurrentTab(Integer tab) {
-    observe({.verb = Verb::setCurrentTab, .value = tab});
+    observe(Verb::setCurrentTab, tab);
     bringToFront(static_cast<Integer>(checked(tab)));
 }
 
@@ -196,7 +194,7 @@ void StoredTabs::leaveDisabledTab() {
 }
 
 void StoredDigit::setDigit(Integer digit) {
-    observe({.verb = Verb::setDigit, .value = digit});
+    observe(Verb::setDigit, digit);
     if (digit < 0 || digit > 9) throw Errors::invalidCall();
     change(state_.digit, std::optional(digit));
 }

@@ -43,8 +43,14 @@ protected:
     void observe(Operation operation) const;
     void changed();
 
+    // An operation costs more to put together than to carry out: only for whoever observes it.
+    [[nodiscard]] bool isObserved() const;
+    void observe(Verb verb) const {
+        if (isObserved()) observe(Operation{.verb = verb});
+    }
     template <class Value>
     void observe(Verb verb, const Value& written) const {
+        if (!isObserved()) return;
         if constexpr (std::is_enum_v<Value>) {
             observe({.verb = verb, .value = static_cast<Integer>(written)});
         } else {
@@ -53,7 +59,7 @@ protected:
     }
     template <class Value>
     [[nodiscard]] const Value& read(Verb verb, const Value& kept) const {
-        observe({.verb = verb});
+        observe(verb);
         return kept;
     }
     template <class Value>
@@ -93,7 +99,7 @@ class StoredEnableable : public StoredKind<Interface, State> {
 public:
     using StoredKind<Interface, State>::StoredKind;
     void setEnabled(Boolean enabled) final {
-        this->observe({.verb = Verb::setEnabled, .value = enabled.raw()});
+        this->observe(Verb::setEnabled, enabled.raw());
         this->enable(bool(enabled));
     }
 };

@@ -73,6 +73,36 @@ TEST_F(Events, LetASinkReleaseThePanelInTheMidstOfAHandler) {
     }
 }
 
+TEST_F(Events, LetASinkReleaseThePanelFromWithinAnEventInsideAnother) {
+    auto bench = makeBench();
+    auto& store = bench->store();
+    Lines heard;
+    const auto one = bench->panel().connect([&](Long id, std::span<Value> arguments) {
+        heard.push_back(lineOf(id, arguments));
+        id == 1 ? store.input().click(channel(1).muteButton) : bench->release();
+    });
+    const auto two = bench->panel().connect([&](Long, std::span<Value>) { heard.emplace_back(); });
+    store.input().click(kCommon.powerButton);
+    EXPECT_EQ(heard, (Lines{"OnOff", "Mute 1"}));
+}
+
+TEST_F(Events, LetGoOfWhatASinkHoldsOnceItIsDisconnected) {
+    const auto held = std::make_shared<int>();
+    Connection holding;
+    const auto connect = [&] { holding = panel_.connect([held](Long, std::span<Value>) {}); };
+    connect();
+    holding.disconnect();
+    EXPECT_EQ(held.use_count(), 1) << "at once";
+    const auto other = panel_.connect([&](Long, std::span<Value>) { holding.disconnect(); });
+    connect();
+    person_.click(kCommon.powerButton);
+    EXPECT_EQ(held.use_count(), 1) << "after an event in which another sink disconnected it";
+    auto bench = makeBench();
+    holding = bench->panel().connect([held](Long, std::span<Value>) {});
+    bench->release();
+    EXPECT_EQ(held.use_count(), 1) << "with the panel";
+}
+
 TEST_F(Events, GoOnWhenASinkFails) {
     const auto failing = panel_.connect([&](Long id, std::span<Value>) {
         if (id == 1) throw std::runtime_error("no link");
