@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "Orvo/generator/grid.h"
-#include "Orvo/generator/trace.h"
+#include "Orvo/widgets/trace.h"
 
 namespace Orvo::Simulator {
 namespace {
@@ -16,7 +16,7 @@ constexpr float kScopeHeight = 95;  // pixels
 
 Integer sampleOf(double volts) {
     const double y = gridY(volts, kScopeHeight);
-    return static_cast<Integer>(std::lround(sampleAt(y, double{kScopeHeight})));
+    return static_cast<Integer>(std::lround(Widgets::sampleAt(y, double{kScopeHeight})));
 }
 
 IntegerArray scopeFrame(const std::function<double(double place)>& volts) {
