@@ -49,7 +49,7 @@ struct Trace {
     /// Never less than the one before it.
     [[nodiscard]] constexpr float x(std::size_t place) const {
         const double room = double{width} - kTraceMargin;
-        const auto index = static_cast<double>(place + 1);
+        const auto index = static_cast<Long>(place) + 1;
         return static_cast<float>(kTraceMargin + room * index / upperBound);
     }
     [[nodiscard]] constexpr float y(Integer sample) const {
