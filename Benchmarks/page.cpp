@@ -23,9 +23,9 @@ the library as it was when this page was last written; what counts are the ratio
 
 constexpr auto kMiddle = R"(
 A *peer* does the same job in the usual way. A *floor* is what nobody can do without, such as reading
-the samples. A *limit* is a figure. Traces are drawn with a halo, which a peer leaves out unless it
-says so; a scope's picture is what its window paints. Behind a row of `marvane-manager` is the
-simulated amplifier, with a tone on two channels and its programme on the others.
+the samples. A *limit* is a figure. A scope's picture is what its window paints. Behind a row of
+`marvane-manager` is the simulated amplifier, with a tone on two channels and its programme on the
+others.
 
 In the charts a bar to the left is less than the rival needs, one to the right is more. The stroke is
 where it must end; red hasn't got there, and nothing is asked of what is grey.

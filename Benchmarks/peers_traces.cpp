@@ -50,7 +50,7 @@ private:
 
 class LineDrawer final : public Tracer {
 public:
-    LineDrawer(QSize size, Beam beam) : image_(size, QImage::Format_RGB32), beam_(beam) {
+    explicit LineDrawer(QSize size) : image_(size, QImage::Format_RGB32) {
         for (int value = 0; value <= kFullScale; ++value) {
             heights_[std::size_t(value)] = value * (size.height() - 1) / kFullScale;
         }
@@ -59,13 +59,7 @@ public:
     void trace(const IntegerArray& samples) override {
         image_.fill(Qt::black);
         QPainter painter(&image_);
-        if (beam_ == Beam::withHalo) draw(painter, QPen(QColor(0, 80, 0), 3), samples);
-        draw(painter, QPen(Qt::green, 0), samples);
-    }
-
-private:
-    void draw(QPainter& painter, const QPen& pen, const IntegerArray& samples) const {
-        painter.setPen(pen);
+        painter.setPen(QPen(Qt::green, 0));
         const auto values = samples.elements();
         const int width = image_.width();
         const int count = int(values.size());
@@ -75,10 +69,10 @@ private:
         }
     }
 
+private:
     [[nodiscard]] int heightOf(Integer value) const { return heights_[std::size_t(value)]; }
 
     QImage image_;
-    Beam beam_;
     std::array<int, kFullScale + 1> heights_{};
 };
 
@@ -177,9 +171,7 @@ Contender tracingAllTheTime(Wave wave, int count, const MakeTracer& make) {
     };
 }
 
-std::unique_ptr<Tracer> makeLineDrawer(QSize size, Beam beam) {
-    return std::make_unique<LineDrawer>(size, beam);
-}
+std::unique_ptr<Tracer> makeLineDrawer(QSize size) { return std::make_unique<LineDrawer>(size); }
 
 std::unique_ptr<Tracer> makeSegmentRecorder() { return std::make_unique<SegmentRecorder>(); }
 std::unique_ptr<Tracer> makeCopier() { return std::make_unique<Copier>(); }

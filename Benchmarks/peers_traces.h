@@ -28,10 +28,8 @@ Contender tracing(Wave wave, int count, const MakeTracer& make);
 /// then does.
 Contender tracingAllTheTime(Wave wave, int count, const MakeTracer& make);
 
-/// A painter's line for each segment, into a picture of that size: the beam alone, or a halo of
-/// three pixels first.
-enum class Beam { plain, withHalo };
-std::unique_ptr<Tracer> makeLineDrawer(QSize size, Beam beam);
+/// A painter's line for each segment, into a picture of that size.
+std::unique_ptr<Tracer> makeLineDrawer(QSize size);
 
 /// A virtual call for each segment, which writes it down.
 std::unique_ptr<Tracer> makeSegmentRecorder();

@@ -84,23 +84,19 @@ void append(std::vector<Rival>& rivals, std::vector<Rival> more) {
 }
 
 Row toPicture(Wave wave, Limits againstLines) {
-    const auto drawLines = [](Beam beam) {
-        return [beam] { return makeLineDrawer(scopeSize(), beam); };
-    };
+    const auto drawLines = [] { return makeLineDrawer(scopeSize()); };
     Row row{.measure = "a trace of 32,767 samples to picture" + nameOf(wave),
             .ours = tracing(wave, kMany, make<PanelScope>),
-            .rivals = {{Role::peer, "drawLine a segment, beam alone",
-                        tracing(wave, kMany, drawLines(Beam::plain)), againstLines},
-                       {Role::peer, "drawLine a segment, halo and beam",
-                        tracing(wave, kMany, drawLines(Beam::withHalo))},
-                       {Role::floor,
-                        "1,000 samples",
-                        tracing(wave, kFew, make<PanelScope>),
-                        {.must = times(1.5)}},
-                       {Role::floor,
-                        "samples scanned, scope unchanged",
-                        tracing(wave, kMany, make<UnchangedScope>),
-                        {.aim = times(2)}}}};
+            .rivals = {
+                {Role::peer, "drawLine a segment", tracing(wave, kMany, drawLines), againstLines},
+                {Role::floor,
+                 "1,000 samples",
+                 tracing(wave, kFew, make<PanelScope>),
+                 {.must = times(1.5)}},
+                {Role::floor,
+                 "samples scanned, scope unchanged",
+                 tracing(wave, kMany, make<UnchangedScope>),
+                 {.aim = times(2)}}}};
     append(row.rivals, plotting(wave, kMany, scopeSize(), {.must = timesLess(12)}));
     return row;
 }

@@ -99,10 +99,8 @@ void add(Lines& lines, const LineSegment& line) {
                     textOf(line.colour));
 }
 
-void add(Lines& lines, const DrawnPolyline& polyline) {
-    for (std::size_t i = 1; i < polyline.points.size(); ++i) {
-        add(lines, LineSegment{polyline.points[i - 1], polyline.points[i], polyline.colour});
-    }
+void add(Lines& lines, const Widgets::Trace& trace) {
+    for (std::size_t i = 1; i < trace.samples.size(); ++i) add(lines, segmentTo(trace, i));
 }
 
 void add(Lines& lines, const DrawnText& text) {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "Orvo/generator/grid.h"
-#include "Orvo/generator/trace.h"
+#include "Orvo/widgets/trace.h"
 
 namespace Orvo::Simulator {
 namespace {
@@ -17,7 +17,7 @@ constexpr float kScopeHeight = 95;  // pixels
 
 Integer sampleOf(double volts) {
     const double y = gridY(volts, kScopeHeight);
-    return static_cast<Integer>(std::lround(sampleAt(y, double{kScopeHeight})));
+    return static_cast<Integer>(std::lround(Widgets::sampleAt(y, double{kScopeHeight})));
 }
 
 IntegerArray scopeFrame(const ScopeLine& volts) {

@@ -4,9 +4,9 @@
 #include <cstddef>
 
 #include "Orvo/generator/grid.h"
-#include "Orvo/generator/trace.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/stored_widgets.h"
+#include "Orvo/widgets/trace.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -23,7 +23,7 @@ constexpr int kPictureHeight =
 constexpr float kSurfaceHeight = kPictureHeight - 2 * Runtime::kPictureBorder;
 
 double voltsOf(Integer sample) {
-    return voltsAt(traceY(sample, double{kSurfaceHeight}), kSurfaceHeight);
+    return voltsAt(Widgets::traceY(sample, double{kSurfaceHeight}), kSurfaceHeight);
 }
 
 std::string withTwoDecimals(double value) {
@@ -31,13 +31,6 @@ std::string withTwoDecimals(double value) {
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
                                    std::chars_format::fixed, 2);
     return {digits.data(), end.ptr};
-}
-
-// The samples from index 1 on.
-std::span<const Integer> drawn(const IntegerArray& samples) {
-    if (samples.dimensionCount() != 1 || samples.bounds().lower > kFirstDrawn) return {};
-    const auto skipped = static_cast<std::size_t>(kFirstDrawn - samples.bounds().lower);
-    return samples.elements().subspan(std::min(skipped, samples.elements().size()));
 }
 
 }  // namespace
@@ -56,10 +49,12 @@ void Traces::draw(Integer channel, const IntegerArray& samples) {
 }
 
 const IntegerArray& Traces::samples(Integer channel) const { return samples_[at(channel)]; }
-bool Traces::has(Integer channel) const { return !drawn(samples(channel)).empty(); }
+bool Traces::has(Integer channel) const {
+    return !samples(channel).elementsFrom(kFirstDrawn).empty();
+}
 
 std::string traceCsv(const IntegerArray& samples) {
-    const auto values = drawn(samples);
+    const auto values = samples.elementsFrom(kFirstDrawn);
     std::string csv = "index,sample (counts),level (V)\n";
     for (std::size_t i = 0; i < values.size(); ++i) {
         csv += std::to_string(i + 1) + ',' + std::to_string(values[i]) + ',' +

@@ -1,5 +1,7 @@
 #include "Orvo/generator/grid.h"
 
+#include <cstddef>
+
 #include "Orvo/values/arithmetic.h"
 
 namespace Orvo {
@@ -18,6 +20,7 @@ std::vector<GridMark> gridMarks(float height) {
     const int step = stepOf(height);
     if (step <= 0) return {};
     std::vector<GridMark> marks;
+    marks.reserve(static_cast<std::size_t>(last / step));
     int volts = kTopVolts;
     for (int y = step; y <= last; y += step, volts -= kVoltsPerMark) {
         marks.push_back({static_cast<Integer>(y), static_cast<Integer>(volts)});

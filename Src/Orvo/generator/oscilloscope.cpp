@@ -4,10 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <span>
 
 #include "Orvo/generator/grid.h"
-#include "Orvo/generator/trace.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/values/arithmetic.h"
 #include "Orvo/values/error.h"
@@ -30,7 +28,7 @@ constexpr Colour kMark = rgb(0, 150, 0);
 constexpr Colour kLabel = rgb(0, 200, 0);
 constexpr Colour kTrace = rgb(0, 255, 0);
 
-constexpr Long kLastIndex = std::numeric_limits<Integer>::max();
+constexpr std::size_t kLastIndex = std::numeric_limits<Integer>::max();
 
 void drawMark(Picture& surface, const GridMark& mark) {
     const auto y = static_cast<float>(mark.y);
@@ -41,14 +39,6 @@ void drawMark(Picture& surface, const GridMark& mark) {
     surface.setForeColour(kLabel);
     surface.setFontSize(kLabelPoints);
     surface.print(decimalText(mark.volts) + u" V");
-}
-
-// The elements with index 1 to `last`; none unless the array is one-dimensional and has them.
-std::span<const Integer> samplesFromOne(const IntegerArray& samples, Long last) {
-    const Long lower = samples.bounds().lower;
-    if (samples.dimensionCount() != 1 || lower > 1) return {};
-    const auto skipped = static_cast<std::size_t>(std::int64_t{1} - lower);
-    return samples.elements().subspan(skipped, static_cast<std::size_t>(last));
 }
 
 }  // namespace
@@ -75,12 +65,12 @@ void Oscilloscope::drawTrace(Integer channel, const IntegerArray& samples) {
     if (segments < 1) return;
     const float width = surface.scaleWidth();
     const float height = surface.scaleHeight();
+    const auto fromOne = samples.elementsFrom(1);
+    if (fromOne.empty()) throw Errors::subscriptOutOfRange();
     // Indexes are Integers: sample 32768 has none that the next segment could name.
-    const Long lastReached = std::min(upper, kLastIndex);
-    const auto drawn = samplesFromOne(samples, lastReached);
-    if (drawn.empty()) throw Errors::subscriptOutOfRange();
-    surface.polyline(tracePoints(drawn, upper, width, height), kTrace);
-    if (upper > kLastIndex) {
+    const auto drawn = fromOne.first(std::min(fromOne.size(), kLastIndex));
+    surface.trace({{drawn.begin(), drawn.end()}, upper, width, height, kTrace});
+    if (drawn.size() < fromOne.size()) {
         static_cast<void>(surface.scaleWidth());
         static_cast<void>(surface.scaleHeight());
         throw Errors::overflow();

@@ -57,6 +57,11 @@ struct LineSegment {
     friend constexpr bool operator==(const LineSegment&, const LineSegment&) = default;
 };
 
+/// The line that joins the sample with that place, above 0, to the one before it.
+constexpr LineSegment segmentTo(const Widgets::Trace& trace, std::size_t place) {
+    return {trace.at(place - 1), trace.at(place), trace.colour};
+}
+
 /// One operation of the panel on a widget, with what it writes; `StringView` is valid during the
 /// call only.
 struct Operation {

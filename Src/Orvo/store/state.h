@@ -63,14 +63,11 @@ struct DrawnText {
     String text;
     Colour colour;
     float points = 0;
+
+    friend bool operator==(const DrawnText&, const DrawnText&) = default;
 };
 
-struct DrawnPolyline {
-    std::vector<Widgets::Point> points;
-    Colour colour;
-};
-
-using Drawn = std::variant<LineSegment, DrawnText, DrawnPolyline>;
+using Drawn = std::variant<LineSegment, DrawnText, Widgets::Trace>;
 
 /// What has been drawn since the surface was last cleared, in order.
 struct PictureState {

@@ -7,6 +7,7 @@
 namespace Orvo::Runtime {
 
 using Widgets::Point;
+using Widgets::Trace;
 
 namespace {
 
@@ -53,14 +54,14 @@ void StoredPicture::print(const String& text) {
     draw(DrawnText{state_.current, text, state_.foreColour, state_.fontSize});
 }
 
-void StoredPicture::polyline(std::vector<Point> points, Colour colour) {
-    std::size_t reached = store().isObserved() ? 0 : points.size();
+void StoredPicture::trace(Trace trace) {
+    std::size_t reached = store().isObserved() ? 0 : trace.samples.size();
     const auto keep = [&] {
-        points.resize(reached);
-        if (reached > 1) draw(DrawnPolyline{std::move(points), colour});
+        trace.samples.resize(reached);
+        if (reached > 1) draw(std::move(trace));
     };
     try {
-        for (; reached < points.size(); ++reached) observePoint(points, reached, colour);
+        for (; reached < trace.samples.size(); ++reached) observePoint(trace, reached);
     } catch (...) {
         keep();
         throw;
@@ -68,12 +69,12 @@ void StoredPicture::polyline(std::vector<Point> points, Colour colour) {
     keep();
 }
 
-// What an observer sees of a block: the operations that it stands for.
-void StoredPicture::observePoint(std::span<const Point> points, std::size_t i, Colour colour) {
+// What an observer sees of a trace: the operations that it stands for.
+void StoredPicture::observePoint(const Trace& trace, std::size_t i) {
     if (i == 0) return;
     if (i > 1) observe({.verb = Verb::readScaleWidth});
     if (i > 1) observe({.verb = Verb::readScaleHeight});
-    observe({.verb = Verb::line, .value = LineSegment{points[i - 1], points[i], colour}});
+    observe({.verb = Verb::line, .value = segmentTo(trace, i)});
 }
 
 int StoredPicture::width() const {

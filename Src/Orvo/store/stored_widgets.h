@@ -1,10 +1,8 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
 #include <type_traits>
 #include <variant>
-#include <vector>
 
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/operation.h"
@@ -192,7 +190,7 @@ public:
     void setForeColour(Colour text) override;
     void setFontSize(float points) override;
     void print(const String& text) override;
-    void polyline(std::vector<Widgets::Point> points, Colour colour) override;
+    void trace(Widgets::Trace trace) override;
 
     /// The drawing area in pixels.
     [[nodiscard]] int width() const;
@@ -205,7 +203,7 @@ private:
         kept = value;
     }
     void draw(Drawn drawn);
-    void observePoint(std::span<const Widgets::Point> points, std::size_t i, Colour colour);
+    void observePoint(const Widgets::Trace& trace, std::size_t i);
 };
 
 class StoredTabs final : public StoredKind<Widgets::Tabs, TabsState> {

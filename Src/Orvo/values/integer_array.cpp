@@ -1,5 +1,6 @@
 #include "Orvo/values/integer_array.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <utility>
@@ -40,6 +41,12 @@ IntegerArray::IntegerArray(std::vector<Bounds> dimensions)
 IntegerArray::Bounds IntegerArray::bounds(std::size_t dimension) const {
     if (dimension == 0 || dimension > dimensions_.size()) throw Errors::subscriptOutOfRange();
     return dimensions_[dimension - 1];
+}
+
+std::span<const Integer> IntegerArray::elementsFrom(Long index) const {
+    if (dimensions_.size() != 1 || dimensions_[0].lower > index) return {};
+    const auto skipped = static_cast<std::size_t>(std::int64_t{index} - dimensions_[0].lower);
+    return elements().subspan(std::min(skipped, elements_.size()));
 }
 
 }  // namespace Orvo

@@ -42,6 +42,10 @@ public:
     [[nodiscard]] std::span<const Integer> elements() const { return elements_; }
     [[nodiscard]] std::span<Integer> elements() { return elements_; }
 
+    /// Those from an index on; none when the array has not exactly one dimension, or one that
+    /// begins above that index.
+    [[nodiscard]] std::span<const Integer> elementsFrom(Long index) const;
+
     friend bool operator==(const IntegerArray&, const IntegerArray&) = default;
 
 private:

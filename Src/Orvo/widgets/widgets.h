@@ -1,10 +1,9 @@
 #pragma once
 
-#include <vector>
-
 #include "Orvo/values/boolean.h"
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/kind_table.h"
+#include "Orvo/widgets/trace.h"
 
 // One interface per kind of widget, with what the panel does to it and nothing more. Every
 // operation may fail with an Error; it has then changed nothing. An operation that finds its value
@@ -77,14 +76,6 @@ public:
 /// Enabling a timer that is disabled starts its interval anew.
 class Timer : public Enableable {};
 
-/// A position on a picture surface, in its scale (pixels), from the top left corner.
-struct Point {
-    float x = 0;
-    float y = 0;
-
-    friend constexpr bool operator==(const Point&, const Point&) = default;
-};
-
 enum class ScaleMode : Integer { pixels = 3 };
 
 /// A surface that keeps what is drawn on it until it is cleared, shown or not.
@@ -102,9 +93,9 @@ public:
     virtual void setFontSize(float points) = 0;
     /// Writes a text with its top left corner at the current position, in the fore colour.
     virtual void print(const String& text) = 0;
-    /// Joins the points in order: the same as drawing one line for each segment, and reading the
+    /// Joins the samples in order: the same as drawing one line for each segment, and reading the
     /// scale's width and height before every one but the first; only faster.
-    virtual void polyline(std::vector<Point> points, Colour colour) = 0;
+    virtual void trace(Trace trace) = 0;
 };
 
 class Tabs : public Widget {

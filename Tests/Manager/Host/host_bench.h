@@ -56,9 +56,13 @@ protected:
     [[nodiscard]] int positivePower() const { return std::stoi(digits(pair(1).positivePower)); }
     [[nodiscard]] int temperature() const { return std::stoi(digits(pair(1).temperature)); }
 
-    [[nodiscard]] const std::vector<Widgets::Point>& trace(Widgets::PictureRef scope) const {
+    /// How far down each sample of the trace on a scope lies.
+    [[nodiscard]] std::vector<float> trace(Widgets::PictureRef scope) const {
         const auto& drawing = store_.get<Runtime::StoredPicture>(scope).state().drawing;
-        return std::get<Runtime::DrawnPolyline>(drawing.back()).points;
+        const auto& drawn = std::get<Widgets::Trace>(drawing.back());
+        std::vector<float> heights;
+        for (const Integer sample : drawn.samples) heights.push_back(drawn.y(sample));
+        return heights;
     }
 
     /// The lowest and the highest voltage of the trace on a scope; the grid has 10 pixels for 30 V.
@@ -67,9 +71,8 @@ protected:
         float highest = 0;
     };
     [[nodiscard]] Swing swing(Widgets::PictureRef scope) const {
-        const auto [top, bottom] =
-            std::ranges::minmax_element(trace(scope), {}, &Widgets::Point::y);
-        return {(50 - bottom->y) * 3, (50 - top->y) * 3};
+        const auto [top, bottom] = std::ranges::minmax(trace(scope));
+        return {(50 - bottom) * 3, (50 - top) * 3};
     }
 
     std::unique_ptr<SimulatedHost> host_ =

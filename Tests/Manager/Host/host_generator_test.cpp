@@ -28,7 +28,7 @@ TEST_F(HostTest, RoutesTheGeneratorToTheChosenInput) {
 
 TEST_F(HostTest, ShowsTheNegativeInputInverted) {
     run();
-    const auto early = [this] { return trace(channel(3).scope)[20].y; };
+    const auto early = [this] { return trace(channel(3).scope)[20]; };
     store_.perform(Deed::click(pair(2).startButton));
     pass(500);
     EXPECT_LT(early(), 40);
@@ -44,7 +44,7 @@ TEST_F(HostTest, ClipsAtTheRails) {
     const auto flat = [this] {
         const float top = 50 - swing(channel(1).scope).highest / 3;
         return std::ranges::count_if(trace(channel(1).scope),
-                                     [top](auto point) { return point.y < top + 0.3F; });
+                                     [top](float y) { return y < top + 0.3F; });
     };
     const struct {
         Integer position;

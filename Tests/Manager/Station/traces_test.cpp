@@ -1,5 +1,7 @@
 #include "Manager/Station/traces.h"
 
+#include <limits>
+
 #include "Support/bench.h"
 
 namespace Orvo::Manager {
@@ -21,6 +23,7 @@ TEST(TraceCsv, HasALineForEachSampleWithItsLevel) {
 TEST(TraceCsv, LeavesOutWhatTheScopeDoesNotDraw) {
     EXPECT_EQ(traceCsv({-1, {1, 2, 128}}), kHeader + "1,128,6.94\n");
     EXPECT_EQ(traceCsv({2, {128}}), kHeader);
+    EXPECT_EQ(traceCsv({std::numeric_limits<Long>::min(), {128}}), kHeader);
     EXPECT_EQ(traceCsv({}), kHeader);
 }
 

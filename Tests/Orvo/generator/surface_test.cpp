@@ -1,5 +1,5 @@
 #include "Orvo/generator/grid.h"
-#include "Orvo/generator/trace.h"
+#include "Orvo/widgets/trace.h"
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
@@ -27,14 +27,13 @@ TEST(GridMarks, LieEveryTenthOfTheHeight) {
     EXPECT_EQ(errorOf([] { gridMarks(32768); }), 6);
 }
 
-TEST(TracePoints, SpreadTheSamplesOverTheSurface) {
-    const std::vector<Integer> samples{128, 255, 0};
-    const auto points = tracePoints(samples, 100, 195, 95);
-    EXPECT_FLOAT_EQ(points[0].x, 31.65F);
-    EXPECT_NEAR(points[0].y, 47.69, 0.005);
-    EXPECT_NEAR(points[1].y, 98.31, 0.005);
-    EXPECT_NEAR(points[2].y, -3.34, 0.005);
-    EXPECT_EQ(tracePoints(std::vector<Integer>(100), 100, 195, 95).back().x, 195);
+TEST(Trace, SpreadsTheSamplesOverTheSurface) {
+    const Widgets::Trace trace{{128, 255, 0}, 100, 195, 95, {}};
+    EXPECT_FLOAT_EQ(trace.at(0).x, 31.65F);
+    EXPECT_NEAR(trace.at(0).y, 47.69, 0.005);
+    EXPECT_NEAR(trace.at(1).y, 98.31, 0.005);
+    EXPECT_NEAR(trace.at(2).y, -3.34, 0.005);
+    EXPECT_EQ(trace.x(99), 195);
 }
 
 }  // namespace

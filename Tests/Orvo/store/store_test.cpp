@@ -100,16 +100,15 @@ TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
     EXPECT_EQ(errorOf([&] { tabs.setTabEnabled(3, true); }), 5);
 }
 
-TEST_F(StoreTest, KeepsTheSegmentsOfABlockBeforeTheOneThatFails) {
+TEST_F(StoreTest, KeepsTheSegmentsOfATraceBeforeTheOneThatFails) {
     constexpr auto kPicture = channel(1).scope;
-    const std::vector<Widgets::Point> points{{0, 0}, {1, 1}, {2, 0}, {3, 1}};
     OperationLog log;
     log.failAt = 6;  // the third line
     store_.observeWith(&log);
-    EXPECT_EQ(errorOf([&] { store_[kPicture].polyline(points, Layout::kGreen); }), 7);
+    EXPECT_EQ(errorOf([&] { store_[kPicture].trace({{1, 2, 3, 4}, 4, 195, 95, {}}); }), 7);
     const auto& drawing = store_.get<Runtime::StoredPicture>(kPicture.id).state().drawing;
     ASSERT_EQ(drawing.size(), 1U);
-    EXPECT_EQ(std::get<Runtime::DrawnPolyline>(drawing[0]).points.size(), 3U);
+    EXPECT_EQ(std::get<Widgets::Trace>(drawing[0]).samples.size(), 3U);
 }
 
 }  // namespace

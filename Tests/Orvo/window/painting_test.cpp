@@ -35,6 +35,11 @@ protected:
         for (int i = 0; i < 5; ++i) QTest::qWait(20);
     }
 
+    /// A trace with so many samples a pixel that all is covered.
+    static Widgets::Trace flat(Integer value) {
+        return {std::vector<Integer>(1000, value), 1000, 195, 95, rgb(0, 255, 0)};
+    }
+
     QRegion paintedBy(const std::function<void()>& change) {
         PaintWatch watch(front_);
         change();
@@ -101,11 +106,68 @@ TEST_F(PaintingTest, ATraceColoursItsOwnPixelsAlone) {
     settle();
     QImage expected = control(channel(1).scope).grab().toImage();
     for (int x = 30; x < 195; ++x) expected.setPixelColor(2 + x, 2 + 50, QColor(0, 255, 0));
-    std::vector<Widgets::Point> points(1000);
-    for (std::size_t i = 0; i < points.size(); ++i) points[i] = {30 + 165 * float(i) / 1000, 50};
-    surface.polyline(points, rgb(0, 255, 0));
+    surface.trace(flat(135));
     settle();
     EXPECT_EQ(control(channel(1).scope).grab().toImage(), expected);
+}
+
+TEST_F(PaintingTest, WhatIsDrawnLaterOnAScopeLiesOnTop) {
+    auto& surface = store_[channel(1).scope];
+    const auto colour = [&] {
+        settle();
+        return control(channel(1).scope).grab().toImage().pixelColor(2 + 100, 2 + 50);
+    };
+    const auto drawLine = [&] { surface.line({0, 50}, {195, 50}, rgb(255, 0, 0)); };
+    surface.trace(flat(135));
+    EXPECT_EQ(colour(), QColor(0, 255, 0));
+    drawLine();
+    EXPECT_EQ(colour(), QColor(255, 0, 0));
+    surface.trace(flat(135));
+    EXPECT_EQ(colour(), QColor(0, 255, 0));
+    surface.clear();
+    drawLine();
+    surface.trace(flat(10));
+    EXPECT_EQ(colour(), QColor(255, 0, 0));
+}
+
+TEST_F(PaintingTest, AScopeThatKeepsItsGridShowsWhatItWouldWithoutIt) {
+    auto& surface = store_[channel(1).scope];
+    const auto shown = [&] { return control(channel(1).scope).grab().toImage(); };
+    const auto drawGrid = [&](float y, StringView text) {
+        surface.clear();
+        surface.line({0, y}, {195, y}, rgb(0, 100, 0));
+        surface.setForeColour(rgb(0, 200, 0));
+        surface.print(String(text));
+    };
+    const std::pair<const char*, std::function<void()>> kSteps[] = {
+        {"a grid", [&] { drawGrid(50, u"0 V"); }},
+        {"a trace over it", [&] { surface.trace(flat(100)); }},
+        {"a second trace", [&] { surface.trace(flat(150)); }},
+        {"the grid again", [&] { drawGrid(50, u"0 V"); }},
+        {"another trace", [&] { surface.trace(flat(200)); }},
+        {"another line",
+         [&] {
+             drawGrid(60, u"0 V");
+             surface.trace(flat(200));
+         }},
+        {"another text",
+         [&] {
+             drawGrid(60, u"1 V");
+             surface.trace(flat(200));
+         }},
+        {"disabled", [&] { store_.enable(channel(1).scope, false); }},
+        {"cleared", [&] { surface.clear(); }},
+    };
+    for (const auto& [label, change] : kSteps) {
+        change();
+        settle();
+        const QImage kept = shown();
+        front_.setZoom(2);
+        settle();
+        front_.setZoom(1);
+        settle();
+        EXPECT_EQ(kept, shown()) << label;
+    }
 }
 
 }  // namespace

@@ -1,12 +1,15 @@
 #include <cmath>
-#include <vector>
+#include <functional>
+#include <numeric>
+#include <random>
+#include <span>
 
 #include <gtest/gtest.h>
 
 #include <QImage>
 #include <QPainter>
 
-#include "Orvo/window/controls/trace_lines.h"
+#include "Orvo/window/controls/trace_drawing.h"
 #include "Orvo/window/drawing/slider_track.h"
 
 namespace Orvo::Window {
@@ -30,56 +33,78 @@ TEST(SliderTrack, BeyondTheTrackIsItsEnd) {
     EXPECT_EQ((SliderTrack{8, 48, 0, ZeroAt::top}.capAt(0)), 8) << "no range at all";
 }
 
-QImage picture(const QList<QLine>& lines, int thickness) {
-    QImage image(390, 190, QImage::Format_RGB32);
-    image.fill(Qt::black);
-    QPainter painter(&image);
+constexpr double kWidth = 195;
+constexpr double kHeight = 95;
+
+QImage blank(double zoom) {
+    QImage picture(qRound(kWidth * zoom), qRound(kHeight * zoom), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    return picture;
+}
+
+struct Segments {
+    QImage picture;
+    int longFalls = 0;  // each of which Qt leaves a row too late
+};
+
+// A line for each segment, as squares in whole pixels.
+Segments inSegments(const Widgets::Trace& trace, double zoom) {
+    Segments segments{blank(zoom)};
+    QPainter painter(&segments.picture);
     painter.setPen(Qt::green);
-    drawLines(painter, lines, thickness);
-    return image;
-}
-
-std::vector<Widgets::Point> trace(std::size_t samples, float (*valueAt)(std::size_t)) {
-    std::vector<Widgets::Point> points(samples);
-    for (std::size_t i = 0; i < samples; ++i) {
-        points[i] = {30 + 165 * float(i + 1) / float(samples), valueAt(i)};
+    const auto pixel = [&](std::size_t i) {
+        return QPoint(int(std::floor(trace.at(i).x * (segments.picture.width() / kWidth))),
+                      int(std::floor(trace.at(i).y * (segments.picture.height() / kHeight))));
+    };
+    const int thickness = qRound(zoom);
+    for (std::size_t i = 1; i < trace.samples.size(); ++i) {
+        const QLine segment(pixel(i - 1), pixel(i));
+        if (segment.dy() > 200) ++segments.longFalls;
+        for (int square = 0; square < thickness * thickness; ++square) {
+            painter.drawLine(segment.translated(square % thickness, square / thickness));
+        }
     }
-    return points;
+    return segments;
 }
 
-TEST(TraceLines, IsThePictureOfItsSegmentsPixelForPixel) {
-    const auto sine = [](std::size_t i) { return 47 + 40 * std::sin(float(i) * 0.07F); };
-    const auto square = [](std::size_t i) { return i / 50 % 2 == 0 ? 8.5F : 90.25F; };
-    const auto noise = [](std::size_t i) { return float(i * 7919 % 131) - 15; };
-    const auto steps = [](std::size_t i) { return float(i / 7 % 95); };
-    for (const auto valueAt : {+sine, +square, +noise, +steps}) {
-        for (const std::size_t samples : {2U, 37U, 165U, 500U, 5000U, 32767U}) {
-            const auto points = trace(samples, valueAt);
-            for (const double zoom : {1.0, 1.5, 2.0}) {
-                QList<QLine> segments;
-                for (std::size_t i = 1; i < samples; ++i) {
-                    segments += traceLines(std::span(points).subspan(i - 1, 2), zoom, zoom);
-                }
-                const auto inOnePass = traceLines(points, zoom, zoom);
-                EXPECT_LE(inOnePass.size(), 2 * 391);
-                const int thickness = qRound(zoom);
-                EXPECT_EQ(picture(inOnePass, thickness), picture(segments, thickness))
-                    << samples << " samples at " << zoom;
+int differingPixels(const QImage& one, const QImage& other) {
+    const auto pixelsOf = [](const QImage& picture) {
+        return std::span(reinterpret_cast<const QRgb*>(picture.constBits()),
+                         std::size_t(picture.width() * picture.height()));
+    };
+    return std::transform_reduce(pixelsOf(one).begin(), pixelsOf(one).end(),
+                                 pixelsOf(other).begin(), 0, std::plus(), std::not_equal_to());
+}
+
+TEST(DrawTrace, GivesThePictureOfItsSegments) {
+    std::minstd_rand random(1);
+    const auto any = [&](int least, int most) {
+        return std::uniform_int_distribution<int>(least, most)(random);
+    };
+    const struct {
+        const char* label;
+        std::function<int(int)> valueAt;
+    } kWaves[] = {
+        {"sine", [](int i) { return qRound(127 + 115 * std::sin(i * 0.07)); }},
+        {"noise", [&](int) { return any(0, 255); }},
+        {"square", [](int i) { return i / 50 % 2 == 0 ? 20 : 240; }},
+        {"ramp", [](int i) { return i % 256; }},
+        {"falling", [](int i) { return -i % 997; }},
+        {"far out", [&](int) { return any(0, 9) == 0 ? any(-32768, 32767) : any(0, 255); }},
+    };
+    for (const auto& wave : kWaves) {
+        for (const int count : {2, 37, 166, 167, 248, 500, 3000}) {
+            Widgets::Trace trace{{}, count, kWidth, kHeight, rgb(0, 255, 0)};
+            for (int i = 0; i < count; ++i) trace.samples.push_back(Integer(wave.valueAt(i)));
+            for (const double zoom : {1.0, 1.25, 1.5, 2.0, 4.0}) {
+                QImage picture = blank(zoom);
+                drawTrace({picture, picture.width() / kWidth, picture.height() / kHeight}, trace);
+                const auto [expected, longFalls] = inSegments(trace, zoom);
+                EXPECT_LE(differingPixels(picture, expected), 2 + longFalls)
+                    << wave.label << ", " << count << " samples at " << zoom;
             }
         }
     }
-    EXPECT_TRUE(traceLines({}, 1, 1).isEmpty());
-}
-
-TEST(TraceLines, DrawsASegmentAsALineBetweenItsPixels) {
-    const Widgets::Point points[] = {{10, 90.5F}, {14.75F, 3}, {14.9F, 20}};
-    QImage expected(390, 190, QImage::Format_RGB32);
-    expected.fill(Qt::black);
-    QPainter painter(&expected);
-    painter.setPen(Qt::green);
-    painter.drawLine(10, 90, 14, 3);
-    painter.drawLine(14, 3, 14, 20);
-    EXPECT_EQ(picture(traceLines(points, 1, 1), 1), expected);
 }
 
 }  // namespace

@@ -1,13 +1,16 @@
 #include "Orvo/window/controls/scope.h"
 
+#include <algorithm>
+
 #include <QFontMetricsF>
 #include <QPaintEvent>
 #include <QPainter>
 
-#include "Orvo/window/controls/trace_lines.h"
 #include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
+
+using Runtime::Drawn;
 
 Scope::Scope(Runtime::Store& store, WidgetId id, QWidget* parent)
     : QWidget(parent), Control(*this, store, id) {
@@ -16,7 +19,7 @@ Scope::Scope(Runtime::Store& store, WidgetId id, QWidget* parent)
 
 void Scope::layOut(const Scale& scale) {
     Control::layOut(scale);
-    picture_ = {};
+    picture_ = grid_ = {};
 }
 
 void Scope::refresh() {
@@ -25,56 +28,80 @@ void Scope::refresh() {
     update();
 }
 
-QRect Scope::surface() const {
-    const int border = qRound(Runtime::kPictureBorder * zoom());
-    return rect().adjusted(border, border, -border, -border);
+void Scope::paintEvent(QPaintEvent*) {
+    if (picture_.size() != sizeInPixels()) draw();
+    QPainter(this).drawImage(QPoint(), picture_);
 }
 
-void Scope::paintEvent(QPaintEvent*) {
-    if (picture_.isNull() || picture_.devicePixelRatio() != devicePixelRatioF()) draw();
-    QPainter painter(this);
-    painter.fillRect(rect(), Palette::kScopeFrame);
-    painter.fillRect(rect().adjusted(0, 0, -qRound(zoom()), -qRound(zoom())), Palette::kScopeShade);
-    painter.drawPixmap(surface().topLeft(), picture_);
-}
+QSize Scope::sizeInPixels() const { return size() * devicePixelRatioF(); }
 
 void Scope::draw() {
-    const double ratio = devicePixelRatioF();
-    const auto& picture = store().get<Runtime::StoredPicture>(id());
-    picture_ = QPixmap(surface().size() * ratio);
-    across_ = picture_.width() / double(picture.width());
-    down_ = picture_.height() / double(picture.height());
-    picture_.fill(toQt(looks().back));
-    QPainter painter(&picture_);
-    for (const Runtime::Drawn& drawn : picture.state().drawing) {
-        std::visit([&](const auto& figure) { draw(painter, figure); }, drawn);
-    }
-    // Only now: until here one unit of the painter is one device pixel.
+    const std::span<const Drawn> drawing = stored<Runtime::StoredPicture>().drawing;
+    const auto trace = std::ranges::find_if(
+        drawing, [](const Drawn& drawn) { return std::holds_alternative<Widgets::Trace>(drawn); });
+    const std::span grid(drawing.begin(), trace);
+    const bool isKept = grid_.size() == sizeInPixels() && std::ranges::equal(grid, drawnOnGrid_);
+    if (!isKept) drawGrid(grid);
+    picture_ = grid_;
+    draw(picture_, {trace, drawing.end()});
+}
+
+void Scope::drawGrid(std::span<const Drawn> drawing) {
+    grid_ = QImage(sizeInPixels(), QImage::Format_RGB32);
+    grid_.setDevicePixelRatio(devicePixelRatioF());
+    QPainter painter(&grid_);
+    painter.fillRect(rect(), Palette::kScopeFrame);
+    painter.fillRect(rect().adjusted(0, 0, -qRound(zoom()), -qRound(zoom())), Palette::kScopeShade);
     painter.end();
-    picture_.setDevicePixelRatio(ratio);
+    surfaceOf(grid_).fill(toQt(looks().back));
+    draw(grid_, drawing);
+    drawnOnGrid_.assign(drawing.begin(), drawing.end());
+}
+
+// The same pixels, without the frame around them.
+QImage Scope::surfaceOf(QImage& picture) const {
+    const int border = qRound(qRound(Runtime::kPictureBorder * zoom()) * devicePixelRatioF());
+    const QRect inside = picture.rect().adjusted(border, border, -border, -border);
+    const qsizetype start = border * picture.bytesPerLine() + border * qsizetype(sizeof(QRgb));
+    return {picture.bits() + start, inside.width(), inside.height(), picture.bytesPerLine(),
+            picture.format()};
+}
+
+void Scope::draw(QImage& picture, std::span<const Drawn> drawing) const {
+    if (drawing.empty()) return;
+    const auto& its = store().get<Runtime::StoredPicture>(id());
+    QImage surface = surfaceOf(picture);
+    const Canvas canvas{surface, surface.width() / double(its.width()),
+                        surface.height() / double(its.height())};
+    for (const Drawn& drawn : drawing) {
+        std::visit([&](const auto& figure) { draw(canvas, figure); }, drawn);
+    }
 }
 
 // A unit of the surface is a pixel, so a line runs along the middle of its row.
-void Scope::draw(QPainter& painter, const Runtime::LineSegment& line) const {
+void Scope::draw(const Canvas& canvas, const Runtime::LineSegment& line) const {
     const bool isStraight = line.from.x == line.to.x || line.from.y == line.to.y;
+    const auto middleOf = [&](Widgets::Point point) {
+        return QPointF((point.x + 0.5) * canvas.across, (point.y + 0.5) * canvas.down);
+    };
+    QPainter painter(&canvas.picture);
     painter.setRenderHint(QPainter::Antialiasing, !isStraight);
-    painter.setPen(QPen(toQt(line.colour), qMax(1, qRound(down_))));
-    painter.drawLine(QPointF((line.from.x + 0.5) * across_, (line.from.y + 0.5) * down_),
-                     QPointF((line.to.x + 0.5) * across_, (line.to.y + 0.5) * down_));
+    painter.setPen(QPen(toQt(line.colour), canvas.thickness()));
+    painter.drawLine(middleOf(line.from), middleOf(line.to));
 }
 
-void Scope::draw(QPainter& painter, const Runtime::DrawnText& text) const {
+void Scope::draw(const Canvas& canvas, const Runtime::DrawnText& text) const {
     Layout::Font font = looks().font;
     if (text.points > 0) font.points = double(text.points);
-    painter.setFont(toQt(font, down_));
+    QPainter painter(&canvas.picture);
+    painter.setFont(toQt(font, canvas.down));
     painter.setPen(toQt(text.colour));
-    const double baseline = text.at.y * down_ + QFontMetricsF(painter.font()).ascent();
-    painter.drawText(QPointF(text.at.x * across_, baseline), toQt(text.text));
+    const double baseline = text.at.y * canvas.down + QFontMetricsF(painter.font()).ascent();
+    painter.drawText(QPointF(text.at.x * canvas.across, baseline), toQt(text.text));
 }
 
-void Scope::draw(QPainter& painter, const Runtime::DrawnPolyline& polyline) const {
-    painter.setPen(toQt(polyline.colour));
-    drawLines(painter, traceLines(polyline.points, across_, down_), qMax(1, qRound(down_)));
+void Scope::draw(const Canvas& canvas, const Widgets::Trace& trace) const {
+    drawTrace(canvas, trace);
 }
 
 }  // namespace Orvo::Window

@@ -1,14 +1,18 @@
 #pragma once
 
-#include <QPixmap>
+#include <span>
+#include <vector>
+
+#include <QImage>
 
 #include "Orvo/window/controls/control.h"
+#include "Orvo/window/controls/trace_drawing.h"
 
 namespace Orvo::Window {
 
 /// A scope's surface. What has been drawn on it is kept as a picture in the screen's own pixels,
 /// made anew when the store's drawing or the zoom changes and not when the window is only
-/// repainted.
+/// repainted. A grid is kept for the traces over it.
 class Scope final : public QWidget, public Control {
 public:
     Scope(Runtime::Store& store, WidgetId id, QWidget* parent);
@@ -19,15 +23,18 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] QRect surface() const;
+    [[nodiscard]] QSize sizeInPixels() const;
+    [[nodiscard]] QImage surfaceOf(QImage& picture) const;
     void draw();
-    void draw(QPainter& painter, const Runtime::LineSegment& line) const;
-    void draw(QPainter& painter, const Runtime::DrawnText& text) const;
-    void draw(QPainter& painter, const Runtime::DrawnPolyline& polyline) const;
+    void drawGrid(std::span<const Runtime::Drawn> drawing);
+    void draw(QImage& picture, std::span<const Runtime::Drawn> drawing) const;
+    void draw(const Canvas& canvas, const Runtime::LineSegment& line) const;
+    void draw(const Canvas& canvas, const Runtime::DrawnText& text) const;
+    void draw(const Canvas& canvas, const Widgets::Trace& trace) const;
 
-    QPixmap picture_;
-    double across_ = 1;  // device pixels for one unit of the surface
-    double down_ = 1;
+    QImage picture_;  // null when it is to be made anew
+    QImage grid_;     // what it shows of the drawing before the first trace
+    std::vector<Runtime::Drawn> drawnOnGrid_;
 };
 
 }  // namespace Orvo::Window

@@ -49,8 +49,8 @@ std::optional<int> numberOn(const Runtime::Store& store, const Layout::Readout& 
 
 QString traceOn(const Runtime::Store& store, WidgetId picture) {
     for (const auto& drawn : store.get<Runtime::StoredPicture>(picture).state().drawing) {
-        const auto* trace = std::get_if<Runtime::DrawnPolyline>(&drawn);
-        if (trace != nullptr) return QString("trace of %1 samples").arg(trace->points.size());
+        const auto* trace = std::get_if<Widgets::Trace>(&drawn);
+        if (trace != nullptr) return QString("trace of %1 samples").arg(trace->samples.size());
     }
     return "no trace";
 }
