@@ -7,7 +7,6 @@
 #include <QShortcut>
 
 #include "Orvo/window/accessible/accessibility.h"
-#include "Orvo/window/drawing/fonts.h"
 #include "Orvo/window/spoken/hints.h"
 
 namespace Orvo::Window {
@@ -32,7 +31,6 @@ PanelScreen::PanelScreen(std::shared_ptr<Runtime::Store> store, QWidget* parent,
     frame_.setSingleShot(true);
     frame_.setTimerType(Qt::PreciseTimer);
     connect(&frame_, &QTimer::timeout, this, &PanelScreen::flush);
-    provideFonts();
     installAccessibility();
     setAccessibleName("Amplifier panel");
     build();
