@@ -7,7 +7,6 @@
 #include <QShortcut>
 
 #include "Orvo/window/accessible/accessibility.h"
-#include "Orvo/window/drawing/fonts.h"
 #include "Orvo/window/spoken/hints.h"
 
 namespace Orvo::Window {
@@ -32,13 +31,11 @@ PanelScreen::PanelScreen(std::shared_ptr<Runtime::Store> store, QWidget* parent,
     frame_.setSingleShot(true);
     frame_.setTimerType(Qt::PreciseTimer);
     connect(&frame_, &QTimer::timeout, this, &PanelScreen::flush);
-    provideFonts();
     installAccessibility();
     setAccessibleName("Amplifier panel");
     build();
     layOut();
-    dirty_.set();
-    flush();
+    bringTabToFront();
     store_->showOn(this);
     store_->promptWith(&prompt_);
 }
@@ -52,14 +49,32 @@ PanelScreen::~PanelScreen() {
 
 void PanelScreen::build() {
     tabs_ = new TabStrip(*store_, this);
-    for (int tab = 0; tab < tabs_->count(); ++tab) pages_.push_back(new Page(*store_, tab, this));
-    for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
-        controls_[id] = makeControl(*store_, id, pages_[std::size_t(pageOf(id))]);
+    for (int tab = 0; tab < tabs_->count(); ++tab) {
+        pages_.push_back(new Page(
+            *store_, tab, [this, tab] { fill(tab); }, this));
     }
     describeTo(*tabs_, kTabs);
     tabs_->raise();
     addTabShortcut(QKeySequence("Ctrl+Tab"), +1);
     addTabShortcut(QKeySequence("Ctrl+Shift+Tab"), -1);
+}
+
+// Most tabs are never looked at. The keyboard reaches the controls in the layout's order, and what
+// else is in the host's window after them.
+void PanelScreen::fill(int tab) {
+    if (filled_.test(std::size_t(tab))) return;
+    filled_.set(std::size_t(tab));
+    QWidget* before = tabs_;
+    for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
+        if (pageOf(id) != tab) continue;
+        Control* control = makeControl(*store_, id, pages_[std::size_t(tab)]);
+        if (control == nullptr) continue;
+        controls_[id] = control;
+        control->layOut(scale_);
+        control->refresh();
+        setTabOrder(before, &control->self());
+        before = &control->self();
+    }
 }
 
 void PanelScreen::addTabShortcut(const QKeySequence& keys, int direction) {
@@ -73,8 +88,9 @@ void PanelScreen::setZoom(double zoom) {
     layOut();
 }
 
-QWidget* PanelScreen::control(WidgetId widget) const {
+QWidget* PanelScreen::control(WidgetId widget) {
     if (widget == kTabs) return tabs_;
+    fill(pageOf(widget));
     return controls_[widget] != nullptr ? &controls_[widget]->self() : nullptr;
 }
 
@@ -118,6 +134,7 @@ void PanelScreen::flush() {
     for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
         if (due.test(id)) bringToScreen(id);
     }
+    for (Page* page : pages_) page->repaintChanges();
 }
 
 // What a container allows holds for all that it contains, and an option's fellows share the
@@ -135,12 +152,14 @@ void PanelScreen::bringToScreen(WidgetId widget) {
     if (widget == kTabs) return bringTabToFront();
     if (controls_[widget] != nullptr) return controls_[widget]->refresh();
     Page& page = *pages_[std::size_t(pageOf(widget))];
-    if (page.repaintWidget(widget)) announce(page, widget);
+    page.noteChange(widget);
+    announce(page, widget);
 }
 
 // The focus that a page takes with it would go to whatever comes next in the host's window.
 void PanelScreen::bringTabToFront() {
     tabs_->refresh();
+    fill(tabs_->currentIndex());
     for (Page* page : pages_) {
         const bool isInFront = page->tab() == tabs_->currentIndex();
         if (!isInFront && page->isAncestorOf(QApplication::focusWidget())) tabs_->setFocus();

@@ -32,7 +32,7 @@ public:
     void setZoom(double zoom);
 
     /// Null for what is only painted.
-    [[nodiscard]] QWidget* control(WidgetId widget) const;
+    [[nodiscard]] QWidget* control(WidgetId widget);
 
     /// Brings what has changed to the screen now.
     void flush();
@@ -44,6 +44,7 @@ protected:
 
 private:
     void build();
+    void fill(int tab);
     void layOut();
     void addTabShortcut(const QKeySequence& keys, int direction);
     void noteWithContents(WidgetId widget);
@@ -55,7 +56,8 @@ private:
     Scale scale_{1.0};
     TabStrip* tabs_ = nullptr;
     std::vector<Page*> pages_;
-    std::array<Control*, Layout::kWidgetCount> controls_{};
+    std::array<Control*, Layout::kWidgetCount> controls_{};  // of the tabs looked at so far
+    std::bitset<Layout::kTabCaptions.size()> filled_;
     std::bitset<Layout::kWidgetCount> dirty_;
     QTimer frame_;
     QElapsedTimer sinceFrame_;

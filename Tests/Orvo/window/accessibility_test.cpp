@@ -218,6 +218,7 @@ TEST(AccessibilityOfAPanelTest, AFreshPanelIsKnownAfresh) {
     EXPECT_EQ(known(), before);
 }
 
+<<<<<<< HEAD
 TEST(AccessibilityOfAPanelTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
     QWidget host;
     QVBoxLayout layout(&host);
@@ -232,6 +233,38 @@ TEST(AccessibilityOfAPanelTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
     panel.store().perform(Runtime::Deed::tab(0, 1));
     panel.flush();
     EXPECT_TRUE(panel.control(kTabs)->hasFocus());
+=======
+/// A panel that isn't alone in its window.
+class PanelWithNeighbourTest : public testing::Test {
+protected:
+    PanelWithNeighbourTest() {
+        layout_.addWidget(&panel_);
+        layout_.addWidget(&neighbour_);
+        host_.show();
+        host_.activateWindow();
+        if (!QTest::qWaitForWindowActive(&host_)) ADD_FAILURE() << "the window stays inactive";
+    }
+
+    QWidget host_;
+    QVBoxLayout layout_{&host_};
+    PanelWidget panel_;
+    QPushButton neighbour_;
+};
+
+TEST_F(PanelWithNeighbourTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
+    panel_.control(kCommon.powerButton)->setFocus();
+    panel_.store().input().selectTab(0, 1);
+    panel_.flush();
+    EXPECT_TRUE(panel_.control(kTabs)->hasFocus());
+}
+
+TEST_F(PanelWithNeighbourTest, TheTabKeyComesToTheNeighbourAfterAllControlsOfALaterTab) {
+    panel_.store().input().selectTab(0, 1);
+    panel_.flush();
+    neighbour_.setFocus();
+    QTest::keyClick(&neighbour_, Qt::Key_Backtab);
+    EXPECT_EQ(QApplication::focusWidget(), panel_.control(channel(2).muteButton));
+>>>>>>> paint
 }
 
 }  // namespace

@@ -1,4 +1,7 @@
+#include <QAbstractItemView>
 #include <QPaintEvent>
+#include <QScreen>
+#include <QScrollBar>
 
 #include "window_fixture.h"
 
@@ -81,6 +84,34 @@ TEST_F(PaintingTest, TextThatRanOverItsPlaceIsWipedAway) {
     settle();
     const QRect wide = paintedBy([&] { result.setCaption(u"x"); }).boundingRect();
     EXPECT_GT(wide.width(), 2 * Scale(1).rect(pair(1).linkText).width());
+}
+
+TEST_F(PaintingTest, WhatIsOnTheScreenIsWhatPaintingAllOfItShows) {
+    const auto expectAsPaintedAnew = [&](const char* when) {
+        settle();
+        settle();  // Qt empties a list in two steps
+        const QImage shown = front_.screen()->grabWindow(front_.winId()).toImage();
+        EXPECT_EQ(shown.convertToFormat(QImage::Format_RGB32),
+                  front_.grab().toImage().convertToFormat(QImage::Format_RGB32))
+            << when;
+    };
+    auto& text = store_[pair(1).linkText];
+    for (const auto* caption : {u"Disconnected, and for long", u"x", u"Connected"}) {
+        text.setCaption(caption);
+        store_[pair(1).positivePower.places[1]].setDigit(Integer(*caption % 10));
+        expectAsPaintedAnew("a text");
+    }
+    store_.show(Layout::describe(pair(1).positivePower.places[0]).container, false);
+    expectAsPaintedAnew("a hidden frame");
+    toTab(0);
+    for (int line = 0; line < 60; ++line) {
+        store_[kCommon.log].addItem(fromQt(QString("line %1 ").arg(line).repeated(line)));
+        if (line % 3 != 1) expectAsPaintedAnew("a line of the log");
+    }
+    control<QAbstractItemView>(kCommon.log).verticalScrollBar()->setValue(11);
+    expectAsPaintedAnew("scrolling back");
+    store_[kCommon.log].clear();
+    expectAsPaintedAnew("an empty log");
 }
 
 TEST_F(PaintingTest, AScopeShowsWhatIsDrawnInItsOwnUnits) {

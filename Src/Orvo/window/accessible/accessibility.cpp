@@ -1,6 +1,5 @@
 #include "Orvo/window/accessible/accessibility.h"
 
-#include <algorithm>
 #include <array>
 
 #include "Orvo/window/accessible/control_accessible.h"
@@ -49,8 +48,7 @@ void installAccessibility() { QAccessible::installFactory(make); }
 void announce(Page& page, WidgetId painted) {
     if (!QAccessible::isActive()) return;
     const WidgetId speaker = speakerOf(painted);
-    const auto& all = page.speakers();
-    if (!std::binary_search(all.begin(), all.end(), speaker)) return;
+    if (!page.isSpeaker(speaker)) return;
     auto* known = dynamic_cast<PageAccessible*>(QAccessible::queryAccessibleInterface(&page));
     if (known != nullptr) known->announce(speaker);
 }

@@ -78,6 +78,7 @@ PageAccessible::~PageAccessible() {
 void PageAccessible::announce(WidgetId id) { speaker(id)->announce(); }
 
 std::vector<WidgetId> PageAccessible::children() const {
+    page().fill();
     std::vector<WidgetId> all = page().speakers();
     for (QObject* child : page().children()) {
         if (const auto* control = dynamic_cast<Control*>(child)) all.push_back(control->id());

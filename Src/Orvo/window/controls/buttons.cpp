@@ -7,6 +7,7 @@
 
 #include "Artwork/Drawings/drawings.h"
 #include "Orvo/window/drawing/chrome.h"
+#include "Orvo/window/drawing/kept_picture.h"
 #include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
@@ -104,7 +105,11 @@ void PowerButton::drawVeil(QPainter& painter, QColor colour) const {
 void PowerButton::paintEvent(QPaintEvent*) {
     const bool isSunken = isChecked() != isDown();
     QPainter painter(this);
-    Artwork::paint(painter, isSunken ? Artwork::kPowerDown : Artwork::kPowerUp, rect());
+    const auto draw = [&](QPainter& onto) {
+        Artwork::paint(onto, isSunken ? Artwork::kPowerDown : Artwork::kPowerUp, rect());
+    };
+    const auto key = [&] { return QString(isSunken ? "down" : "up"); };
+    KeptPicture().paint(painter, rect(), {key, draw});
     if (!isEnabled()) drawVeil(painter, Palette::kDisabledVeil);
     if (isEnabled() && underMouse()) drawVeil(painter, Palette::kPointedVeil);
     drawFocus(painter, *this, zoom());

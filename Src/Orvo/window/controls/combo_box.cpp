@@ -29,9 +29,16 @@ void ComboBox::refresh() {
     Control::refresh();
     const auto& [text, items] = stored<Runtime::StoredCombo>();
     const QSignalBlocker silence(this);
-    for (auto i = std::size_t(count()); i < items.size(); ++i) addItem(toQt(items[i]));
+    QStringList added;
+    for (auto i = std::size_t(count()); i < items.size(); ++i) added += toQt(items[i]);
+    addItems(added);
     setCurrentIndex(findText(toQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
     update();
+}
+
+// Qt would make the list for its font, which few ever open; made later, it takes the font over.
+void ComboBox::changeEvent(QEvent* event) {
+    if (event->type() != QEvent::FontChange) QComboBox::changeEvent(event);
 }
 
 void ComboBox::paintEvent(QPaintEvent*) {

@@ -26,11 +26,14 @@ void LogModel::keepUp() {
 
 int LogModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : shown_; }
 
+QString LogModel::textOf(int row, std::size_t most) const {
+    if (!has(row)) return {};
+    return toQt(StringView(list_.items[std::size_t(row)]).substr(0, most));
+}
+
 QVariant LogModel::data(const QModelIndex& index, int role) const {
-    const auto row = std::size_t(index.row());
-    if ((role != Qt::DisplayRole && role != Qt::ToolTipRole) || row >= list_.items.size())
-        return {};
-    return toQt(list_.items[row]);
+    if ((role != Qt::DisplayRole && role != Qt::ToolTipRole) || !has(index.row())) return {};
+    return textOf(index.row(), StringView::npos);
 }
 
 }  // namespace Orvo::Window

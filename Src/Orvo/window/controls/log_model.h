@@ -15,10 +15,15 @@ public:
     /// Tells the views what has been added, in time proportional to that, or that all is new.
     void keepUp();
 
+    /// At most so many characters of a line.
+    [[nodiscard]] QString textOf(int row, std::size_t most) const;
+
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
 private:
+    [[nodiscard]] bool has(int row) const { return std::size_t(row) < list_.items.size(); }
+
     const Runtime::ListState& list_;
     std::uint64_t clears_;
     int shown_;

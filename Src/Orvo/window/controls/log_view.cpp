@@ -12,7 +12,6 @@
 #include <QPointer>
 
 #include "Orvo/service/information_entry.h"
-#include "Orvo/window/controls/log_scroll_bar.h"
 #include "Orvo/window/drawing/chrome.h"
 #include "Orvo/window/drawing/palette.h"
 
@@ -25,10 +24,12 @@ constexpr double kMargin = 4;  // left of the text, in pixels
 }  // namespace
 
 LogView::LogView(Runtime::Store& store, WidgetId id, QWidget* parent)
-    : QAbstractItemView(parent), Control(*this, store, id), model_(stored<Runtime::StoredList>()) {
+    : QAbstractItemView(parent),
+      Control(*this, store, id),
+      model_(*new LogModel(stored<Runtime::StoredList>(), this)) {
     setModel(&model_);
     setFrameShape(QFrame::NoFrame);
-    setVerticalScrollBar(new LogScrollBar);
+    setVerticalScrollBar(&bar_);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSelectionMode(ExtendedSelection);
@@ -36,38 +37,48 @@ LogView::LogView(Runtime::Store& store, WidgetId id, QWidget* parent)
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-// The model ends before the view that Qt still keeps: let go of it in time.
-LogView::~LogView() { setModel(nullptr); }
-
 void LogView::layOut(const Scale& scale) {
     Control::layOut(scale);
     rowHeight_ = QFontMetrics(font()).height();
-    verticalScrollBar()->setFixedWidth(scale.thickness(11));
+    bar_.setFixedWidth(scale.thickness(11));
     updateGeometries();
 }
 
 void LogView::refresh() {
     Control::refresh();
-    const bool isAtEnd = top() == verticalScrollBar()->maximum();
+    const bool isAtEnd = top() == bar_.maximum();
+    const int before = rowCount();
     model_.keepUp();
     updateGeometries();
-    if (isAtEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    if (isAtEnd) bar_.setValue(bar_.maximum());
+    bar_.settle();
+    // Only now: what waits to be painted can't be scrolled.
+    if (rowCount() > before) viewport()->update(placeOf(before, rowCount() - 1));
 }
 
-int LogView::top() const { return verticalScrollBar()->value(); }
+int LogView::top() const { return bar_.value(); }
 int LogView::visibleRows() const { return std::max(1, viewport()->height() / rowHeight_); }
 int LogView::verticalOffset() const { return top() * rowHeight_; }
 
 void LogView::updateGeometries() {
-    verticalScrollBar()->setPageStep(visibleRows());
-    verticalScrollBar()->setRange(0, std::max(0, rowCount() - visibleRows()));
+    bar_.setPageStep(visibleRows());
+    bar_.setRange(0, std::max(0, rowCount() - visibleRows()));
     QAbstractItemView::updateGeometries();
 }
 
-void LogView::scrollContentsBy(int, int) { viewport()->update(); }
+// The frame of the focus stays where it is, and parts of device pixels can't be scrolled.
+void LogView::scrollContentsBy(int /*columns*/, int rows) {
+    const double ratio = devicePixelRatioF();
+    if (hasFocus() || ratio != qRound(ratio)) return viewport()->update();
+    viewport()->scroll(0, rows * rowHeight_);
+}
+
+QRect LogView::placeOf(int first, int last) const {
+    return {0, (first - top()) * rowHeight_, viewport()->width(), (last - first + 1) * rowHeight_};
+}
 
 QRect LogView::visualRect(const QModelIndex& index) const {
-    return {0, (index.row() - top()) * rowHeight_, viewport()->width(), rowHeight_};
+    return placeOf(index.row(), index.row());
 }
 
 QModelIndex LogView::indexAt(const QPoint& point) const {
@@ -76,7 +87,7 @@ QModelIndex LogView::indexAt(const QPoint& point) const {
 
 void LogView::scrollTo(const QModelIndex& index, ScrollHint) {
     const int last = index.row() - visibleRows() + 1;
-    verticalScrollBar()->setValue(std::max(last, std::min(top(), index.row())));
+    bar_.setValue(std::max(last, std::min(top(), index.row())));
 }
 
 QModelIndex LogView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
@@ -116,15 +127,12 @@ void LogView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlag
 QRegion LogView::visualRegionForSelection(const QItemSelection& selection) const {
     QRegion region;
     for (const QItemSelectionRange& range : selection) {
-        region += visualRect(range.topLeft()).united(visualRect(range.bottomRight()));
+        region += placeOf(range.top(), range.bottom());
     }
     return region & viewport()->rect();
 }
 
-void LogView::rowsInserted(const QModelIndex&, int start, int end) {
-    updateGeometries();
-    viewport()->update(visualRect(model_.index(start)).united(visualRect(model_.index(end))));
-}
+void LogView::rowsInserted(const QModelIndex&, int, int) { updateGeometries(); }
 
 void LogView::currentChanged(const QModelIndex& current, const QModelIndex& before) {
     QAbstractItemView::currentChanged(current, before);
@@ -182,7 +190,8 @@ void LogView::drawRow(QPainter& painter, int row) const {
     painter.setPen(isEnabled() ? toQt(looks().text) : toQt(looks().text).darker(160));
     const int margin = qRound(kMargin * zoom());
     const QRect line = place.adjusted(margin, 0, -margin, 0);
-    const QString text = index.data().toString();
+    // No more of a long line than there is room for, as a character takes a pixel or more.
+    const QString text = model_.textOf(row, std::size_t(line.width()) + 1);
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(text, Qt::ElideRight, line.width()));
 }

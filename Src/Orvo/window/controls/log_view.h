@@ -4,6 +4,7 @@
 
 #include "Orvo/window/controls/control.h"
 #include "Orvo/window/controls/log_model.h"
+#include "Orvo/window/controls/log_scroll_bar.h"
 
 namespace Orvo::Window {
 
@@ -12,7 +13,6 @@ namespace Orvo::Window {
 class LogView final : public QAbstractItemView, public Control {
 public:
     LogView(Runtime::Store& store, WidgetId id, QWidget* parent);
-    ~LogView() override;
     void layOut(const Scale& scale) override;
     void refresh() override;
 
@@ -31,7 +31,7 @@ protected:
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
     [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& selection) const override;
     void updateGeometries() override;
-    void scrollContentsBy(int dx, int dy) override;
+    void scrollContentsBy(int columns, int rows) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -39,10 +39,12 @@ private:
     [[nodiscard]] int visibleRows() const;
     [[nodiscard]] int top() const;
     [[nodiscard]] int rowCount() const { return model_.rowCount({}); }
+    [[nodiscard]] QRect placeOf(int first, int last) const;
     void copy() const;
     void drawRow(QPainter& painter, int row) const;
 
-    LogModel model_;
+    LogScrollBar& bar_ = *new LogScrollBar(this);
+    LogModel& model_;  // a child, which Qt lets go of after the view
     int rowHeight_ = 1;
 };
 

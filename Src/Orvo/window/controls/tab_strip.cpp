@@ -33,6 +33,10 @@ TabStrip::TabStrip(Runtime::Store& store, QWidget* parent)
 }
 
 void TabStrip::layOut(const Scale& scale) {
+    const QFont font = toQt(looks().font, scale.zoom());
+    for (std::size_t tab = 0; tab < widths_.size(); ++tab) {
+        widths_[tab] = qCeil(widthOf(tabText(int(tab)), font)) + qRound(28 * scale.zoom());
+    }
     Control::layOut(scale);
     const auto& place = description().place;
     setGeometry(0, 0, scale.panelSize().width(), scale.pixels(place.top + Layout::kTabStripHeight));
@@ -60,9 +64,7 @@ void TabStrip::step(int direction) {
     }
 }
 
-QSize TabStrip::tabSizeHint(int index) const {
-    return {qCeil(widthOf(tabText(index), font())) + qRound(28 * zoom()), height()};
-}
+QSize TabStrip::tabSizeHint(int index) const { return {widths_[std::size_t(index)], height()}; }
 
 void TabStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);

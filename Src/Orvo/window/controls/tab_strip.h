@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include <QTabBar>
 
 #include "Orvo/window/controls/control.h"
@@ -25,6 +27,8 @@ protected:
 private:
     void select(int tab);
     void drawTab(QPainter& painter, int tab) const;
+
+    std::array<int, Layout::kTabCaptions.size()> widths_{};  // Qt asks for them again and again
 };
 
 }  // namespace Orvo::Window

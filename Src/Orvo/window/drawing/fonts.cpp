@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include <QFontDatabase>
+#include <QStringList>
 
 // A static library's resources are its user's to register; this does it for them. The macro
 // doesn't work within a namespace.
@@ -30,21 +31,24 @@ const Brought& broughtFor(Layout::Face face) {
     return face == Layout::Face::serif ? kSerif : kArial;
 }
 
-}  // namespace
-
-QStringList familiesOf(Layout::Face face) {
-    const Brought& brought = broughtFor(face);
-    return {brought.named, brought.family};
-}
-
-void provideFonts() {
+QStringList installWhatIsMissing() {
     registerFiles();
-    const QStringList installed = QFontDatabase::families();
+    QStringList installed = QFontDatabase::families();
     for (const Brought* brought : {&kArial, &kSerif, &kMicrogramma}) {
         if (installed.contains(brought->named) || installed.contains(brought->family)) continue;
         for (const char* file : brought->files)
             QFontDatabase::addApplicationFont(QString(":/orvo/fonts/%1.ttf").arg(file));
     }
+    return installed;
+}
+
+}  // namespace
+
+// To ask for a face that isn't there costs more than all else about a window.
+QString familyOf(Layout::Face face) {
+    static const QStringList installed = installWhatIsMissing();
+    const Brought& brought = broughtFor(face);
+    return installed.contains(brought.named) ? brought.named : brought.family;
 }
 
 }  // namespace Orvo::Window

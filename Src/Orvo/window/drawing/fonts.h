@@ -1,17 +1,13 @@
 #pragma once
 
-#include <QStringList>
+#include <QString>
 
 #include "Orvo/layout/style.h"
 
 namespace Orvo::Window {
 
-/// The families to show a face in: the layout's own, then the nearest one that the library brings
-/// along.
-QStringList familiesOf(Layout::Face face);
-
-/// Loads what the library brings along for faces that are not installed. The application has to
-/// exist; to call it again does nothing.
-void provideFonts();
+/// The family to show a face in: the layout's own, else the nearest one that the library brings
+/// along. The application has to exist; what is installed is looked at once.
+QString familyOf(Layout::Face face);
 
 }  // namespace Orvo::Window

@@ -22,7 +22,7 @@ String fromQt(const QString& text) {
 QFont toQt(const Layout::Font& font, double zoom) {
     constexpr double kPixelsPerPoint = 96.0 / 72.0;
     QFont result;
-    result.setFamilies(familiesOf(font.face));
+    result.setFamily(familyOf(font.face));
     result.setPixelSize(qMax(1, qRound(font.points * kPixelsPerPoint * zoom)));
     result.setBold(font.isBold);
     result.setItalic(font.isItalic);

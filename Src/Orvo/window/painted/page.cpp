@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "Orvo/window/drawing/kept_picture.h"
 #include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
 #include "Orvo/window/painted/painted_kinds.h"
@@ -17,8 +18,14 @@
 
 namespace Orvo::Window {
 
-Page::Page(const Runtime::Store& store, int tab, QWidget* parent)
-    : QWidget(parent), store_(store), tab_(tab) {
+namespace {
+
+bool isForGround(const Painted& painted) { return painted.isAsLaidOut() && painted.isShown(); }
+
+}  // namespace
+
+Page::Page(const Runtime::Store& store, int tab, std::function<void()> fill, QWidget* parent)
+    : QWidget(parent), store_(store), tab_(tab), fill_(std::move(fill)) {
     setAccessibleName(toQt(StringView(Layout::kTabCaptions[std::size_t(tab)])));
     setAttribute(Qt::WA_OpaquePaintEvent);
     for (WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
@@ -28,18 +35,19 @@ Page::Page(const Runtime::Store& store, int tab, QWidget* parent)
             [&]<class Shown>(std::type_identity<Shown> /*kind*/) -> std::unique_ptr<Painted> {
                 return std::make_unique<Shown>(store, id);
             });
-        if (!painted) continue;
-        layers_.push_back({id, std::move(painted), {}});
-        if (!nameOf(id).isEmpty()) speakers_.push_back(id);
+        if (painted) layers_.push_back({id, std::move(painted)});
     }
 }
 
 void Page::layOut(const Scale& scale) {
+    scale_ = scale;
     resize(scale.panelSize());
     for (Layer& layer : layers_) {
         layer.painted->layOut(scale);
-        layer.bounds = layer.painted->bounds();
+        layer.ink = {};
+        layer.isOnGround = true;
     }
+    ground_ = {};
     update();
 }
 
@@ -50,13 +58,54 @@ std::size_t Page::layerOf(WidgetId id) const {
     return std::size_t(layer - layers_.begin());
 }
 
-bool Page::repaintWidget(WidgetId id) {
+void Page::noteChange(WidgetId id) {
     const std::size_t at = layerOf(id);
-    if (at == layers_.size()) return false;
+    if (at == layers_.size() || layers_[at].ink.isNull()) return;
     Layer& layer = layers_[at];
-    const QRect before = std::exchange(layer.bounds, layer.painted->bounds());
-    update(QRegion(before).united(layer.bounds));
-    return true;
+    const QRect before = std::exchange(layer.ink, layer.painted->ink());
+    note(before);
+    if (layer.isOnGround && !isForGround(*layer.painted)) ground_ = {};
+    if (layer.ink == before) return;
+    note(layer.ink);
+    if (isUnderGround(at)) ground_ = {};
+}
+
+// The digits of a readout are one place: each more makes all that painting does with them dearer.
+void Page::note(const QRect& place) {
+    if (!changed_.empty()) {
+        QRect& last = changed_.back();
+        const bool isInLine = last.top() == place.top() && last.bottom() == place.bottom();
+        if (isInLine && last.right() + 1 >= place.left() && last.left() <= place.left()) {
+            last = last.united(place);
+            return;
+        }
+    }
+    changed_.push_back(place);
+}
+
+void Page::repaintChanges() {
+    QRegion region;
+    for (const QRect& place : std::exchange(changed_, {})) region += place;
+    update(region);
+}
+
+bool Page::isUnderGround(std::size_t layer) const {
+    return std::any_of(
+        layers_.begin() + std::ptrdiff_t(layer) + 1, layers_.end(), [&](const Layer& above) {
+            return above.isOnGround && layers_[layer].ink.intersects(above.painted->core());
+        });
+}
+
+std::vector<WidgetId> Page::speakers() const {
+    std::vector<WidgetId> all;
+    for (const Layer& layer : layers_) {
+        if (!nameOf(layer.id).isEmpty()) all.push_back(layer.id);
+    }
+    return all;
+}
+
+bool Page::isSpeaker(WidgetId id) const {
+    return layerOf(id) != layers_.size() && !nameOf(id).isEmpty();
 }
 
 QRect Page::placeOf(WidgetId speaker) const {
@@ -76,22 +125,46 @@ bool Page::event(QEvent* event) {
 }
 
 void Page::showTip(const QHelpEvent& event) {
-    for (const WidgetId id : speakers_) {
+    for (const WidgetId id : speakers()) {
         if (!store_.isShown(id) || !placeOf(id).contains(event.pos())) continue;
         return QToolTip::showText(event.globalPos(), sentenceOf(store_, id), this, placeOf(id));
     }
     QToolTip::hideText();
 }
 
+// Part by part: to copy within a clip of many rectangles is slow.
 void Page::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.fillRect(event->rect(), Palette::kPage);
-    for (const Layer& layer : layers_) {
-        if (!event->region().intersects(layer.bounds) || !layer.painted->isShown()) continue;
-        painter.save();
-        layer.painted->paint(painter);
-        painter.restore();
+    for (const QRect& part : event->region()) {
+        painter.setClipRect(part);
+        paint(painter, part);
     }
+}
+
+void Page::paint(QPainter& painter, const QRect& part) {
+    const auto drawGround = [this](QPainter& onto) {
+        for (const Layer& layer : layers_) {
+            if (layer.isOnGround) layer.painted->paint(onto);
+        }
+    };
+    ground_.paint(painter, rect(), {[this] { return settleGround(); }, drawGround, Palette::kPage});
+    for (const Layer& layer : layers_) {
+        if (layer.isOnGround || !part.intersects(layer.ink)) continue;
+        if (layer.painted->isShown()) layer.painted->paint(painter);
+    }
+}
+
+// What lies over something that isn't on the ground isn't either.
+QString Page::settleGround() {
+    QRegion above;
+    QString key = QString("page %1 %2 ").arg(tab_).arg(scale_.zoom());
+    for (Layer& layer : layers_) {
+        if (layer.ink.isNull()) layer.ink = layer.painted->ink();
+        layer.isOnGround &= isForGround(*layer.painted) && !above.intersects(layer.painted->core());
+        if (!layer.isOnGround) above += layer.ink;
+        key += QChar(layer.isOnGround ? '+' : '-');
+    }
+    return key;
 }
 
 }  // namespace Orvo::Window

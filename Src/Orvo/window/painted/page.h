@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include <QWidget>
 
+#include "Orvo/window/drawing/kept_picture.h"
 #include "Orvo/window/painted/painted.h"
 
 class QHelpEvent;
@@ -14,20 +16,28 @@ namespace Orvo::Window {
 /// One tab of the panel: the surface on which everything that takes no input is painted, layered in
 /// the layout's order, and the parent of the controls. It is as large as the panel, so that its
 /// pixels are the panel's; the tab strip covers its top.
+///
+/// What has always looked as it is laid out is its ground: one picture, which all panels share.
 class Page final : public QWidget {
 public:
-    Page(const Runtime::Store& store, int tab, QWidget* parent);
+    /// `fill` makes its controls, if there are none yet.
+    Page(const Runtime::Store& store, int tab, std::function<void()> fill, QWidget* parent);
 
     void layOut(const Scale& scale);
-    /// Has the widget painted again, where it was and where it is. False when it isn't one of its
-    /// own painted ones.
-    bool repaintWidget(WidgetId id);
+    /// Takes note that one of its painted widgets is to be painted again, where it was and where it
+    /// is.
+    void noteChange(WidgetId id);
+    /// Has what has been noted painted.
+    void repaintChanges();
+    /// Has the controls made that stand on it: nobody has yet looked at a page without.
+    void fill() { fill_(); }
 
     [[nodiscard]] int tab() const { return tab_; }
     [[nodiscard]] const Runtime::Store& store() const { return store_; }
     /// The painted widgets that have something to say, in the layout's order; a readout's first
     /// digit stands for all of them.
-    [[nodiscard]] const std::vector<WidgetId>& speakers() const { return speakers_; }
+    [[nodiscard]] std::vector<WidgetId> speakers() const;
+    [[nodiscard]] bool isSpeaker(WidgetId id) const;
     /// Where one of them is, in pixels of the page.
     [[nodiscard]] QRect placeOf(WidgetId speaker) const;
 
@@ -39,7 +49,8 @@ private:
     struct Layer {
         WidgetId id;
         std::unique_ptr<Painted> painted;
-        QRect bounds;  // as last asked for
+        QRect ink{};  // as last asked for; null while all of the page is to be painted
+        bool isOnGround = true;
     };
 
     /// The number of layers when the widget isn't one.
@@ -47,10 +58,19 @@ private:
     [[nodiscard]] QRect boundsOf(WidgetId id) const;
     void showTip(const QHelpEvent& event);
 
+    void note(const QRect& place);
+    [[nodiscard]] bool isUnderGround(std::size_t layer) const;
+    /// Decides what is on the ground, and says what that is.
+    QString settleGround();
+    void paint(QPainter& painter, const QRect& part);
+
     const Runtime::Store& store_;
     const int tab_;
+    const std::function<void()> fill_;
+    Scale scale_{1};
     std::vector<Layer> layers_;
-    std::vector<WidgetId> speakers_;
+    std::vector<QRect> changed_;
+    KeptPicture ground_;
 };
 
 }  // namespace Orvo::Window

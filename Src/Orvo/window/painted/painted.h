@@ -19,9 +19,16 @@ public:
     Painted(const Painted&) = delete;
     Painted& operator=(const Painted&) = delete;
 
-    /// Everything that `paint` may touch as the widget is now, in pixels of the page.
+    /// Where it is for a person who points at it, in pixels of the page.
     [[nodiscard]] virtual QRect bounds() const { return place(); }
+    /// Everything that `paint` may touch as the widget is now.
+    [[nodiscard]] virtual QRect ink() const { return bounds(); }
+    /// The same without what is faint at its edges.
+    [[nodiscard]] virtual QRect core() const { return ink(); }
+    /// Sets what it needs of the painter, and leaves its clip and coordinates as they were.
     virtual void paint(QPainter& painter) const = 0;
+    /// Whether it looks as the layout has it, and may well stay so: it can be kept in a picture.
+    [[nodiscard]] virtual bool isAsLaidOut() const { return false; }
     /// Called before anything else, and for each change of the zoom.
     virtual void layOut(const Scale& scale) { scale_ = scale; }
 

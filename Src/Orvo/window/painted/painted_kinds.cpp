@@ -3,6 +3,8 @@
 #include <QPainter>
 
 #include "Artwork/Drawings/drawings.h"
+#include "Orvo/window/drawing/kept_picture.h"
+#include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
 
 namespace Orvo::Window {
@@ -19,6 +21,10 @@ QRect PaintedLine::bounds() const {
     return ends.adjusted(-thickness(), -thickness(), thickness(), thickness());
 }
 
+bool PaintedLine::isAsLaidOut() const {
+    return stored<Runtime::StoredLine>().colour == looks().text;
+}
+
 void PaintedLine::paint(QPainter& painter) const {
     const QColor colour = toQt(stored<Runtime::StoredLine>().colour);
     painter.setRenderHint(QPainter::Antialiasing, line().dx() != 0 && line().dy() != 0);
@@ -28,33 +34,36 @@ void PaintedLine::paint(QPainter& painter) const {
 
 void PaintedFrame::paint(QPainter& painter) const { painter.fillRect(place(), toQt(looks().back)); }
 
-void PaintedDigit::layOut(const Scale& scale) {
-    Painted::layOut(scale);
+int PaintedDigit::state() const {
+    return int(stored<Runtime::StoredDigit>().digit.value_or(-1)) + 1;
+}
+
+QRect PaintedDigit::ink() const {
+    return {place().topLeft(), QSize(qCeil(scale().measure(kSegmentCell.width())),
+                                     qCeil(scale().measure(kSegmentCell.height())))};
+}
+
+QPainterPath PaintedDigit::segment(int number) const {
     QTransform cell;
     cell.translate(place().left(), place().top());
-    cell.scale(scale.zoom(), scale.zoom());
-    for (int segment = 0; segment < kSegmentCount; ++segment) {
-        QPainterPath outline;
-        outline.addPolygon(segmentOutline(segment));
-        outline.closeSubpath();
-        segments_[std::size_t(segment)] = cell.map(outline);
-    }
+    cell.scale(scale().zoom(), scale().zoom());
+    QPainterPath outline;
+    outline.addPolygon(segmentOutline(number));
+    outline.closeSubpath();
+    return cell.map(outline);
 }
 
 // The unlit ones first, so that the light falls on them.
-void PaintedDigit::paint(QPainter& painter) const {
-    const auto digit = stored<Runtime::StoredDigit>().digit;
-    painter.setRenderHint(QPainter::Antialiasing);
+void PaintedDigit::draw(QPainter& painter, int state) const {
     for (const bool lit : {false, true}) {
-        for (int segment = 0; segment < kSegmentCount; ++segment) {
-            if ((digit && isLit(*digit, segment)) != lit) continue;
-            const QPainterPath& outline = segments_[std::size_t(segment)];
-            lit ? paintLit(painter, outline) : paintUnlit(painter, outline);
+        for (int number = 0; number < kSegmentCount; ++number) {
+            if ((state > 0 && isLit(state - 1, number)) != lit) continue;
+            lit ? drawLit(painter, segment(number)) : drawUnlit(painter, segment(number));
         }
     }
 }
 
-void PaintedDigit::paintLit(QPainter& painter, const QPainterPath& segment) const {
+void PaintedDigit::drawLit(QPainter& painter, const QPainterPath& segment) const {
     constexpr double kGlow = 1.5;  // pixels, half of it within the segment
     QColor glow = toQt(looks().text);
     glow.setAlpha(60);
@@ -63,7 +72,7 @@ void PaintedDigit::paintLit(QPainter& painter, const QPainterPath& segment) cons
 }
 
 // Some are as grey as the frame they are on: it is their engraved edge that shows.
-void PaintedDigit::paintUnlit(QPainter& painter, const QPainterPath& segment) const {
+void PaintedDigit::drawUnlit(QPainter& painter, const QPainterPath& segment) const {
     constexpr double kEdge = 0.6;  // pixels
     painter.fillPath(segment, toQt(looks().back));
     painter.strokePath(segment, QPen(toQt(looks().back).darker(125), scale().measure(kEdge)));
@@ -83,13 +92,14 @@ void PaintedScopeHeader::paint(QPainter& painter) const {
     const int margin = header.height() / 2;
     const int width = qCeil(widthOf(text, font)) + 2 * margin;
     const QRect tab(header.topLeft(), QSize(width, header.height()));
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setClipRect(tab);
+    painter.setClipRect(tab, Qt::IntersectClip);
     painter.setPen(Qt::NoPen);
     painter.setBrush(toQt(looks().back));
     const double radius = header.height() / 4.0;
     painter.drawRoundedRect(QRectF(tab).adjusted(0, 0, 0, radius), radius, radius);
-    painter.setClipping(false);
+    painter.restore();
     painter.setFont(font);
     painter.setPen(toQt(looks().text));
     // In the middle, and where the stems of small letters stand on whole pixels.
@@ -97,24 +107,19 @@ void PaintedScopeHeader::paint(QPainter& painter) const {
                      Qt::AlignVCenter | Qt::TextDontClip, text);
 }
 
-void PaintedImage::layOut(const Scale& scale) {
-    Painted::layOut(scale);
-    artwork_ = {};
-}
-
+// On whole pixels of the device, for its fine lines. Nobody holds it but the ground it is part of.
 void PaintedImage::paint(QPainter& painter) const {
-    const double ratio = painter.device()->devicePixelRatioF();
-    if (artwork_.isNull() || artwork_.devicePixelRatio() != ratio) draw(ratio);
-    painter.drawPixmap(place().topLeft(), artwork_);
-}
-
-void PaintedImage::draw(double devicePixelRatio) const {
-    artwork_ = QPixmap(place().size() * devicePixelRatio);
-    artwork_.setDevicePixelRatio(devicePixelRatio);
-    QPainter painter(&artwork_);
     const bool isCommon = looks().image == Layout::Image::commonTab;
-    Artwork::paint(painter, isCommon ? Artwork::kCommonTab : Artwork::kPairTab,
-                   QRectF(QPointF(), QSizeF(place().size())));
+    const auto draw = [&](QPainter& onto) {
+        Artwork::paint(onto, isCommon ? Artwork::kCommonTab : Artwork::kPairTab, place());
+    };
+    const auto key = [&] { return QString(isCommon ? "common" : "pair"); };
+    const QPointF corner = painter.deviceTransform().map(QPointF(place().topLeft()));
+    const QPointF off =
+        (QPointF(corner.toPoint()) - corner) / painter.device()->devicePixelRatioF();
+    painter.translate(off);
+    KeptPicture().paint(painter, place(), {key, draw, Palette::kPage});
+    painter.translate(-off);
 }
 
 }  // namespace Orvo::Window

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <array>
+#include <optional>
 
 #include <QFont>
 #include <QLine>
 #include <QPainterPath>
-#include <QPixmap>
 
 #include "Orvo/widgets/kind_table.h"
 #include "Orvo/window/painted/painted.h"
+#include "Orvo/window/painted/painted_states.h"
 #include "Orvo/window/painted/segments.h"
 
 namespace Orvo::Window {
@@ -22,36 +22,52 @@ class PaintedLabel final : public Painted {
 public:
     using Painted::Painted;
     void layOut(const Scale& scale) override;
+    [[nodiscard]] bool isAsLaidOut() const override;
     [[nodiscard]] QRect bounds() const override;
+    [[nodiscard]] QRect ink() const override;
+    [[nodiscard]] QRect core() const override;
     void paint(QPainter& painter) const override;
 
 private:
     [[nodiscard]] QString text() const;
-    [[nodiscard]] QFont fontOfFirst() const;
-    [[nodiscard]] QFont font() const;
+    [[nodiscard]] bool hasFirstText() const;
+    [[nodiscard]] QFont fontOfFirst(const QFont& font) const;
+    [[nodiscard]] const QFont& font() const;
     [[nodiscard]] QRect textPlace() const;
     [[nodiscard]] int baseline() const;
     void paintEdge(QPainter& painter, QColor colour) const;
     void paintText(QPainter& painter) const;
 
-    int edge_ = 1;  // pixels
-    QFont font_;
-    QFont firstFont_;
+    [[nodiscard]] QRect withEdge(const QRect& text) const;
+    [[nodiscard]] int edge() const { return scale().thickness(1); }
+
+    struct Fonts {
+        QFont ofFirst;
+        QFont ofOthers;
+    };
+    mutable std::optional<Fonts> fonts_;
 };
 
 /// A lamp, a dot or an outline.
-class PaintedShape final : public Painted {
+class PaintedShape final : public PaintedStates {
 public:
-    using Painted::Painted;
+    using PaintedStates::PaintedStates;
+    [[nodiscard]] bool isAsLaidOut() const override { return !isLamp(); }
     [[nodiscard]] QRect bounds() const override;
-    void paint(QPainter& painter) const override;
+    [[nodiscard]] QRect ink() const override;
+    [[nodiscard]] QRect core() const override { return isLamp() ? ink() : place(); }
+
+protected:
+    [[nodiscard]] int states() const override { return isLamp() ? 2 : 1; }
+    [[nodiscard]] int state() const override;
+    void draw(QPainter& painter, int state) const override;
 
 private:
     [[nodiscard]] bool isLamp() const;
     [[nodiscard]] QRectF circle() const;
-    void paintOutline(QPainter& painter) const;
-    void paintLamp(QPainter& painter) const;
-    void paintGlow(QPainter& painter) const;
+    void drawOutline(QPainter& painter) const;
+    void drawLamp(QPainter& painter, bool isLit) const;
+    void drawGlow(QPainter& painter) const;
     [[nodiscard]] double pen() const { return scale().measure(1); }
     [[nodiscard]] double glow() const;
 };
@@ -59,6 +75,7 @@ private:
 class PaintedLine final : public Painted {
 public:
     using Painted::Painted;
+    [[nodiscard]] bool isAsLaidOut() const override;
     [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
 
@@ -70,42 +87,43 @@ private:
 class PaintedFrame final : public Painted {
 public:
     using Painted::Painted;
+    [[nodiscard]] bool isAsLaidOut() const override { return true; }
     void paint(QPainter& painter) const override;
 };
 
 /// Seven segments.
-class PaintedDigit final : public Painted {
+class PaintedDigit final : public PaintedStates {
 public:
-    using Painted::Painted;
-    void layOut(const Scale& scale) override;
-    void paint(QPainter& painter) const override;
+    using PaintedStates::PaintedStates;
+    [[nodiscard]] QRect ink() const override;
+
+protected:
+    // Dark, then each digit.
+    [[nodiscard]] int states() const override { return 1 + int(kLitSegments.size()); }
+    [[nodiscard]] int state() const override;
+    void draw(QPainter& painter, int state) const override;
 
 private:
-    void paintLit(QPainter& painter, const QPainterPath& segment) const;
-    void paintUnlit(QPainter& painter, const QPainterPath& segment) const;
-
-    std::array<QPainterPath, kSegmentCount> segments_;
+    [[nodiscard]] QPainterPath segment(int number) const;
+    void drawLit(QPainter& painter, const QPainterPath& segment) const;
+    void drawUnlit(QPainter& painter, const QPainterPath& segment) const;
 };
 
 /// The header with the one tab above a scope; the scope's surface is a control of its own.
 class PaintedScopeHeader final : public Painted {
 public:
     using Painted::Painted;
+    [[nodiscard]] bool isAsLaidOut() const override { return true; }
     [[nodiscard]] QRect bounds() const override;
     void paint(QPainter& painter) const override;
 };
 
-/// The artwork behind everything, drawn once for each zoom and kept.
+/// The artwork behind everything.
 class PaintedImage final : public Painted {
 public:
     using Painted::Painted;
-    void layOut(const Scale& scale) override;
+    [[nodiscard]] bool isAsLaidOut() const override { return true; }
     void paint(QPainter& painter) const override;
-
-private:
-    void draw(double devicePixelRatio) const;
-
-    mutable QPixmap artwork_;
 };
 
 // clang-format off

@@ -14,24 +14,35 @@ bool isPale(QColor colour) { return qGray(colour.rgb()) > 160; }
 
 void PaintedLabel::layOut(const Scale& scale) {
     Painted::layOut(scale);
-    edge_ = scale.thickness(1);
-    font_ = toQt(looks().font, scale.zoom());
-    firstFont_ = fontOfFirst();
+    fonts_.reset();
+}
+
+bool PaintedLabel::hasFirstText() const {
+    return stored<Runtime::StoredLabel>().caption == description().caption;
+}
+
+bool PaintedLabel::isAsLaidOut() const {
+    return hasFirstText() && stored<Runtime::StoredLabel>().colour == looks().text;
 }
 
 // The places of the extended face are as wide as its texts, and it is seldom installed.
-QFont PaintedLabel::fontOfFirst() const {
+QFont PaintedLabel::fontOfFirst(const QFont& font) const {
     const QString first = toQt(description().caption).trimmed();
-    if (looks().flow == Layout::TextFlow::wrapped) return font_;
+    if (looks().flow == Layout::TextFlow::wrapped) return font;
     const bool isExtended = looks().font.face == Layout::Face::microgramma;
     const int width = place().width();
-    return isExtended ? fitted(font_, first, width) : narrowed(font_, first, width);
+    return isExtended ? fitted(font, first, width) : narrowed(font, first, width);
 }
 
 QString PaintedLabel::text() const { return toQt(stored<Runtime::StoredLabel>().caption); }
 
-QFont PaintedLabel::font() const {
-    return stored<Runtime::StoredLabel>().caption == description().caption ? firstFont_ : font_;
+// Only now that they are needed: to load a font is what takes longest about a window.
+const QFont& PaintedLabel::font() const {
+    if (!fonts_) {
+        const QFont plain = toQt(looks().font, scale().zoom());
+        fonts_ = {fontOfFirst(plain), plain};
+    }
+    return hasFirstText() ? fonts_->ofFirst : fonts_->ofOthers;
 }
 
 // Capitals in the middle: some faces have much more room above them than below.
@@ -44,16 +55,24 @@ QRect PaintedLabel::textPlace() const {
     return place().adjusted(0, 0, qCeil(widthOf(text(), font())), 0);
 }
 
-QRect PaintedLabel::bounds() const {
-    // A pixel more for what italics and antialiasing put outside.
-    const int more = edge_ + 1;
-    return place().united(textPlace()).adjusted(-more, -more, more, more);
+QRect PaintedLabel::bounds() const { return withEdge(place().united(textPlace())); }
+
+// The text that the layout gives keeps to its place.
+QRect PaintedLabel::ink() const { return isAsLaidOut() ? withEdge(place()) : bounds(); }
+
+QRect PaintedLabel::core() const { return isAsLaidOut() ? place() : bounds(); }
+
+// A pixel more for what italics and antialiasing put outside.
+QRect PaintedLabel::withEdge(const QRect& text) const {
+    const int more = edge() + 1;
+    return text.adjusted(-more, -more, more, more);
 }
 
 // What is laid out dark has a light ground: a pale text would be lost on it without a dark edge.
 void PaintedLabel::paint(QPainter& painter) const {
     const QColor colour = toQt(stored<Runtime::StoredLabel>().colour);
     const QColor laidOut = toQt(looks().text);
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setFont(font());
     if (isPale(colour) && !isPale(laidOut)) paintEdge(painter, laidOut);
     painter.setPen(colour);
@@ -62,8 +81,8 @@ void PaintedLabel::paint(QPainter& painter) const {
 
 void PaintedLabel::paintEdge(QPainter& painter, QColor colour) const {
     painter.setPen(colour);
-    for (const int x : {-edge_, 0, edge_}) {
-        for (const int y : {-edge_, 0, edge_}) {
+    for (const int x : {-edge(), 0, edge()}) {
+        for (const int y : {-edge(), 0, edge()}) {
             painter.translate(x, y);
             paintText(painter);
             painter.translate(-x, -y);

@@ -36,27 +36,34 @@ QRect PaintedShape::bounds() const {
     return place().adjusted(-margin, -margin, margin, margin);
 }
 
-void PaintedShape::paint(QPainter& painter) const {
-    if (looks().outline == Layout::Outline::rectangle) return paintOutline(painter);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (isLamp()) return paintLamp(painter);
+QRect PaintedShape::ink() const {
+    if (looks().outline == Layout::Outline::rectangle) return bounds();
+    const double margin = glow() + 1;
+    return circle().adjusted(-margin, -margin, margin, margin).toAlignedRect();
+}
+
+int PaintedShape::state() const { return int(isLamp() && stored<Runtime::StoredShape>().isLit()); }
+
+void PaintedShape::draw(QPainter& painter, int state) const {
+    if (looks().outline == Layout::Outline::rectangle) return drawOutline(painter);
+    if (isLamp()) return drawLamp(painter, state == 1);
     painter.setPen(Qt::NoPen);
     painter.setBrush(toQt(looks().border));
     painter.drawEllipse(circle());
 }
 
-void PaintedShape::paintOutline(QPainter& painter) const {
+void PaintedShape::drawOutline(QPainter& painter) const {
+    painter.setRenderHint(QPainter::Antialiasing, false);
     const double half = pen() / 2;
     painter.setPen(QPen(withAlpha(toQt(looks().border), 150), pen()));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(place()).adjusted(half, half, -half, -half));
 }
 
-void PaintedShape::paintLamp(QPainter& painter) const {
-    const bool isLit = stored<Runtime::StoredShape>().isLit();
+void PaintedShape::drawLamp(QPainter& painter, bool isLit) const {
     const QColor colour = toQt(isLit ? looks().fill : looks().back);
     const QRectF lamp = circle().adjusted(pen() / 2, pen() / 2, -pen() / 2, -pen() / 2);
-    if (isLit) paintGlow(painter);
+    if (isLit) drawGlow(painter);
 
     painter.setPen(QPen(Palette::kLampRim, pen()));
     painter.setBrush(Qt::NoBrush);
@@ -72,7 +79,7 @@ void PaintedShape::paintLamp(QPainter& painter) const {
     painter.drawEllipse(lamp);
 }
 
-void PaintedShape::paintGlow(QPainter& painter) const {
+void PaintedShape::drawGlow(QPainter& painter) const {
     const QRectF lamp = circle();
     const double outer = lamp.width() / 2 + glow();
     QRadialGradient halo(lamp.center(), outer);

@@ -18,7 +18,9 @@ constexpr bool isLit(int digit, int segment) {
     return (kLitSegments[static_cast<std::size_t>(digit)] >> segment & 1) != 0;
 }
 
-/// The outline of a segment, in a cell 12 wide and 15 high.
+constexpr QSizeF kSegmentCell(12, 15);
+
+/// The outline of a segment, in such a cell.
 QPolygonF segmentOutline(int segment);
 
 }  // namespace Orvo::Window
