@@ -138,7 +138,4 @@ private:
     std::function<Milliseconds()> sinceCatchUp_;
 };
 
-inline bool StoredWidget::isObserved() const { return store_.isObserved(); }
-inline void StoredWidget::changed() { store_.changed(id_); }
-
 }  // namespace Orvo::Runtime

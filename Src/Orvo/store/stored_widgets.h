@@ -266,5 +266,7 @@ static_assert(Widgets::Interfaces::kHasBasesOf<StoredKinds>);
 inline void Store::changed(WidgetId widget) {
     if (screen_ != nullptr) screen_->changed(widget);
 }
+inline bool StoredWidget::isObserved() const { return store_.isObserved(); }
+inline void StoredWidget::changed() { store_.changed(id_); }
 
 }  // namespace Orvo::Runtime

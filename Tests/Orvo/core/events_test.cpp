@@ -79,10 +79,11 @@ TEST_F(Events, LetASinkReleaseThePanelFromWithinAnEventInsideAnother) {
     Lines heard;
     const auto one = bench->panel().connect([&](Long id, std::span<Value> arguments) {
         heard.push_back(lineOf(id, arguments));
-        id == 1 ? store.input().click(channel(1).muteButton) : bench->release();
+        if (id != 1) return bench->release();
+        store.perform(Deed::click(channel(1).muteButton));
     });
     const auto two = bench->panel().connect([&](Long, std::span<Value>) { heard.emplace_back(); });
-    store.input().click(kCommon.powerButton);
+    store.perform(Deed::click(kCommon.powerButton));
     EXPECT_EQ(heard, (Lines{"OnOff", "Mute 1"}));
 }
 
@@ -95,7 +96,7 @@ TEST_F(Events, LetGoOfWhatASinkHoldsOnceItIsDisconnected) {
     EXPECT_EQ(held.use_count(), 1) << "at once";
     const auto other = panel_.connect([&](Long, std::span<Value>) { holding.disconnect(); });
     connect();
-    person_.click(kCommon.powerButton);
+    store_.perform(Deed::click(kCommon.powerButton));
     EXPECT_EQ(held.use_count(), 1) << "after an event in which another sink disconnected it";
     auto bench = makeBench();
     holding = bench->panel().connect([held](Long, std::span<Value>) {});

@@ -218,22 +218,6 @@ TEST(AccessibilityOfAPanelTest, AFreshPanelIsKnownAfresh) {
     EXPECT_EQ(known(), before);
 }
 
-<<<<<<< HEAD
-TEST(AccessibilityOfAPanelTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
-    QWidget host;
-    QVBoxLayout layout(&host);
-    PanelWidget panel;
-    QPushButton neighbour;
-    layout.addWidget(&panel);
-    layout.addWidget(&neighbour);
-    host.show();
-    host.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&host));
-    panel.control(kCommon.powerButton)->setFocus();
-    panel.store().perform(Runtime::Deed::tab(0, 1));
-    panel.flush();
-    EXPECT_TRUE(panel.control(kTabs)->hasFocus());
-=======
 /// A panel that isn't alone in its window.
 class PanelWithNeighbourTest : public testing::Test {
 protected:
@@ -253,18 +237,17 @@ protected:
 
 TEST_F(PanelWithNeighbourTest, TheFocusStaysOnThePanelWhenItsPageGoes) {
     panel_.control(kCommon.powerButton)->setFocus();
-    panel_.store().input().selectTab(0, 1);
+    panel_.store().perform(Runtime::Deed::tab(0, 1));
     panel_.flush();
     EXPECT_TRUE(panel_.control(kTabs)->hasFocus());
 }
 
 TEST_F(PanelWithNeighbourTest, TheTabKeyComesToTheNeighbourAfterAllControlsOfALaterTab) {
-    panel_.store().input().selectTab(0, 1);
+    panel_.store().perform(Runtime::Deed::tab(0, 1));
     panel_.flush();
     neighbour_.setFocus();
     QTest::keyClick(&neighbour_, Qt::Key_Backtab);
     EXPECT_EQ(QApplication::focusWidget(), panel_.control(channel(2).muteButton));
->>>>>>> paint
 }
 
 }  // namespace
