@@ -19,20 +19,25 @@ struct Name {
     std::array<char, kSize> text{};
 };
 
+// Numbers by value, so that `call` needn't keep them in memory for `callAloud`.
+template <class Argument>
+using Passed =
+    std::conditional_t<std::is_trivially_copyable_v<Argument>, Argument, const Argument&>;
+
 // Carries a call out and tells the listeners of it. Apart from `call`, which it would slow down by
 // half with all that it keeps at hand.
-template <class Act, class... Arguments>
-[[gnu::noinline]] auto callAloud(Panel& panel, const Member& member, const Act& act,
-                                 const Arguments&... arguments) {
+template <class... Arguments, class Act>
+[[gnu::noinline]] auto callAloud(Panel& panel, const Member& member, Act act,
+                                 Arguments... arguments) {
     const std::array<Value, sizeof...(Arguments)> values{arguments...};
     auto& listeners = panel.callListeners;
     listeners.tell([&](CallListener* listener) { listener->called(member, values); });
     try {
-        if constexpr (std::is_void_v<decltype(act())>) {
-            act();
+        if constexpr (std::is_void_v<decltype(act(panel, arguments...))>) {
+            act(panel, arguments...);
             listeners.tell([&](CallListener* listener) { listener->returned(member, {}); });
         } else {
-            auto result = act();
+            auto result = act(panel, arguments...);
             listeners.tell([&](CallListener* listener) { listener->returned(member, result); });
             return result;
         }
@@ -51,10 +56,11 @@ auto call(const std::unique_ptr<Panel>& called, const Arguments&... arguments) {
     Panel& panel = *called;
     panel.checkThread();
     const UnderWay underWay(panel);
-    const auto act = [&] {
-        return std::invoke(kFunction, panel.*kSubject, kFirst..., arguments...);
+    const auto act = [](Panel& subjects, const Arguments&... own) {
+        return std::invoke(kFunction, subjects.*kSubject, kFirst..., own...);
     };
-    return panel.callListeners.isEmpty() ? act() : callAloud(panel, kMember, act, arguments...);
+    if (panel.callListeners.isEmpty()) return act(panel, arguments...);
+    return callAloud<Passed<Arguments>...>(panel, kMember, act, arguments...);
 }
 
 String trimmed(const PortDiscovery& /*discovery*/, const String& text) {
