@@ -54,6 +54,7 @@ TEST_F(ProgramTest, WithoutADisplayItLeavesAPictureOfEachTab) {
 }
 
 TEST_F(ProgramTest, ARecordedDemonstrationIsRepeatedAlike) {
+    directory_.add({"build/"});
     ASSERT_EQ(run({"--record", "session.txt", "--zoom", "50"}).status, 0);
     const Outcome outcome = run({"--script", "session.txt"});
     EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
