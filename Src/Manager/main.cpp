@@ -1,5 +1,6 @@
+#include <csignal>
 #include <cstdio>
-#include <system_error>
+#include <stdexcept>
 
 #include <QApplication>
 
@@ -24,9 +25,11 @@ int showWindow(const Options& options) {
         ManagerWindow window(options);
         options.link ? window.connectLink(*options.link) : window.session().connectSimulator();
         window.open();
-        return QApplication::exec();
-    } catch (const std::system_error& failure) {
-        return end({kWrongUsage, QString("marvane-manager: ") + failure.what()});
+        const int status = QApplication::exec();
+        if (const auto reason = window.session().endRecording()) throw std::runtime_error(*reason);
+        return status;
+    } catch (const std::runtime_error& failure) {
+        return complain(failure);
     }
 }
 
@@ -35,6 +38,8 @@ int showWindow(const Options& options) {
 
 int main(int argc, char** argv) {
     using namespace Orvo::Manager;
+    // What can't be written is told; it doesn't end the program unsaid.
+    for (const int number : {SIGPIPE, SIGXFSZ}) std::signal(number, SIG_IGN);
     choosePlatform();
     const QApplication application(argc, argv);
     QApplication::setApplicationName("marvane-manager");

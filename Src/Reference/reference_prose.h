@@ -15,7 +15,7 @@ in front of it.
 - `orvo-console [FILE]` runs it on the in-memory runtime: no window, and a clock that only `wait`
   moves. Without FILE it reads standard input; at a terminal it asks for commands, edits and
   completes them, and knows `help` and `help NAME` besides.
-- `marvane-manager --script FILE` runs it on the window.
+- `marvane-manager --script FILE` runs it on the window. With `--overwrite`, `shot` may replace files.
 
 Both give the same answers, byte for byte, for every command that both know. A script ends at the
 first answer with `?`, with status 1 and the place on standard error; with `--keep-going` it goes
@@ -97,6 +97,17 @@ answer cancel
 key List1 18
 ```
 
+A recording is written as things happen, the action first. It therefore begins with `chronological`,
+which turns that round for a script: a command waits until all that is queued below it is queued, so
+it is answered after that. A last line without a line break was cut off then, and is passed over.
+
+```
+chronological
+key List1 18
+meanwhile let IdDevice 7
+answer "530284"
+```
+
 )";
 
 constexpr std::string_view kLookingIntroduction = R"(## Looking
@@ -143,6 +154,12 @@ let VNPower 1 -5
 show LED3
 = digit visible=true value=0
 ```
+
+## In a replay
+
+A session that the window replays takes its time, and the window answers meanwhile. It may not use
+`shot`, also where it stands in an `on`. A line above 2080 KiB ends it, and so does a handler or a
+prompt in whose midst more is done than the window has time for.
 
 ## Over a link
 

@@ -101,7 +101,17 @@ const Command* findCommand(std::string_view name) {
 
 bool isAllowed(const Command& command, const Grammar& grammar) {
     if (grammar.speaker == Grammar::Speaker::device && command.side != Side::host) return false;
+    if (grammar.speaker == Grammar::Speaker::recording && command.target == Target::files) {
+        return false;
+    }
     return command.place == Place::anywhere || command.place == grammar.place;
+}
+
+bool isForTheMidst(std::string_view line) {
+    const std::string_view name = firstWord(line);
+    if (name.empty() || name.starts_with('#')) return true;
+    const Command* command = findCommand(name);
+    return command != nullptr && command->target == Target::queue;
 }
 
 ParsedCommand parse(std::span<const Word> words, const Grammar& grammar) {

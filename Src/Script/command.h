@@ -27,11 +27,15 @@ enum class Side : std::uint8_t { host, person, looking };
 /// Which programs know a command.
 enum class Place : std::uint8_t { anywhere, inMemory, inWindow };
 
+/// What a command is carried out on, or that it is queued for the midst of another.
+enum class Target : std::uint8_t { panel, queue, files };
+
 /// What may be said where a line comes from.
 struct Grammar {
     enum class Speaker : std::uint8_t {
         anyone,
-        device,  ///< at the other end of a link: the host's side only
+        device,     ///< at the other end of a link: the host's side only
+        recording,  ///< of a session; it may not write files
     };
     Speaker speaker = Speaker::anyone;
     Place place = Place::inMemory;
@@ -89,6 +93,7 @@ struct Command {
     std::string_view help;
     ParsedCommand (*parse)(Arguments& arguments) = nullptr;
     Place place = Place::anywhere;
+    Target target = Target::panel;
 
     // Of a command that is a deed.
     std::optional<Runtime::Deed::Verb> verb{};
@@ -102,6 +107,9 @@ std::span<const Command> allCommands();
 const Command* findCommand(std::string_view name);
 
 bool isAllowed(const Command& command, const Grammar& grammar);
+
+/// Whether the line only queues something, or is passed over.
+bool isForTheMidst(std::string_view line);
 
 /// Takes all words. Throws Misunderstood.
 ParsedCommand parse(std::span<const Word> words, const Grammar& grammar);

@@ -47,9 +47,15 @@ ParsedCommand parseCommand([[maybe_unused]] Arguments& arguments) {
 
 template <auto kFunction, const auto&... kArguments>
 consteval Command command(std::string_view name, Side side, std::string_view help,
-                          Place place = Place::anywhere) {
-    return {name, side, kWords<kArguments...>, help, &parseCommand<kFunction, kArguments...>,
-            place};
+                          Place place = Place::anywhere, Target target = Target::panel) {
+    return {name,  side,  kWords<kArguments...>, help, &parseCommand<kFunction, kArguments...>,
+            place, target};
+}
+
+template <auto kFunction, const auto&... kArguments>
+consteval Command queueing(std::string_view name, std::string_view help) {
+    return command<kFunction, kArguments...>(name, Side::person, help, Place::anywhere,
+                                             Target::queue);
 }
 
 // Which part of a deed an argument is, by its type.
@@ -140,11 +146,13 @@ consteval auto commandTable() {
         deed<Do::hold, kSlider>              ("hold",               "The slider's button is pressed and kept pressed."),
         deed<Do::drop, kSlider>              ("drop",               "The slider's button is let go."),
         deed<Do::tab, kTab>                  ("tab",                "This tab of the panel, counted from 0, is selected."),
-        command<&Session::queueAnswer, kAnswer>
-                                             ("answer",    person,  "What is typed at the next input prompt that has no answer yet, or that it is cancelled."),
-        command<&Session::queueCommand, kNested>
-                                             ("meanwhile", person,  "Queues a command for the midst of another: it is carried out when the panel next raises an event or opens a prompt, before that is done with."),
-        command<&Session::queueResumption>   ("resume",    person,  "Ends what is queued for one event; what is queued behind it is for the next one, or for a prompt."),
+        queueing<&Session::queueAnswer, kAnswer>
+                                             ("answer",             "What is typed at the next input prompt that has no answer yet, or that it is cancelled."),
+        queueing<&Session::queueCommand, kNested>
+                                             ("meanwhile",          "Queues a command for the midst of another: it is carried out when the panel next raises an event or opens a prompt, before that is done with."),
+        queueing<&Session::queueResumption>  ("resume",             "Ends what is queued for one event; what is queued behind it is for the next one, or for a prompt."),
+        command<&Session::becomeChronological>
+                                             ("chronological", person, "From now on `answer`, `meanwhile` and `resume` are for the command above them, which a script carries out when all of them are queued. A recording begins so."),
         command<&Person::wait, kMilliseconds>("wait",      person,  "Time passes; timers that come due tick, in order."),
 
         command<L::show, kWidgetOrScreen>    ("show",      looking, "What a widget, or the screen, shows."),
@@ -156,7 +164,7 @@ consteval auto commandTable() {
         command<L::pointer, kPointer>        ("pointer",   looking, "Sets the screen's pointer, as a host does that takes the panel's hourglass away."),
         command<&Person::connectPorts, kPorts>
                                              ("spooler",   looking, "The ports that the print spooler has from now on, for `GetAvailablePorts`; without a name it has none, and its enumeration fails.", Place::inMemory),
-        command<&Person::shoot, kFile>       ("shot",      looking, "Writes a PNG picture of the panel as it stands on the screen.", Place::inWindow),
+        command<&Person::shoot, kFile>       ("shot",      looking, "Writes a PNG picture of the panel as it stands on the screen; error 58 when the file exists already, unless the program was started with `--overwrite`.", Place::inWindow, Target::files),
         command<&Session::quit>              ("quit",      looking, "Ends the program."),
     });
     // clang-format on

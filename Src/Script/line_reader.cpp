@@ -14,8 +14,8 @@ constexpr std::size_t kChunk = 65536;
 
 }  // namespace
 
-LineReader::LineReader(int descriptor, std::function<void()> beforeWaiting)
-    : descriptor_(descriptor), beforeWaiting_(std::move(beforeWaiting)) {}
+LineReader::LineReader(int descriptor, std::string name, std::function<void()> beforeWaiting)
+    : descriptor_(descriptor), name_(std::move(name)), beforeWaiting_(std::move(beforeWaiting)) {}
 
 std::optional<std::string_view> LineReader::next() {
     std::size_t searched = start_;
@@ -26,6 +26,7 @@ std::optional<std::string_view> LineReader::next() {
         if (!fill()) break;
     }
     if (start_ == buffer_.size()) return std::nullopt;
+    isCutOff_ = true;
     return take(buffer_.size() - start_);
 }
 
@@ -45,8 +46,7 @@ bool LineReader::fill() {
         count = ::read(descriptor_, buffer_.data() + kept, kChunk);
     } while (count < 0 && errno == EINTR);
     buffer_.resize(kept + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    if (count < 0)
-        throw std::system_error(errno, std::generic_category(), "the script can't be read");
+    if (count < 0) throw std::system_error(errno, std::generic_category(), name_);
     return count > 0;
 }
 

@@ -12,20 +12,24 @@ namespace Orvo::Script {
 class LineReader {
 public:
     /// `beforeWaiting` is called before every read, which may wait for whoever writes.
-    LineReader(int descriptor, std::function<void()> beforeWaiting);
+    LineReader(int descriptor, std::string name, std::function<void()> beforeWaiting);
 
     /// The next line without its line break; none at the end. It is valid until the next call.
-    /// Throws std::system_error.
+    /// Throws std::system_error with the name.
     std::optional<std::string_view> next();
+    /// Whether that line, the last, came without a line break.
+    [[nodiscard]] bool isCutOff() const { return isCutOff_; }
 
 private:
     bool fill();
     std::string_view take(std::size_t length);
 
     int descriptor_;
+    std::string name_;
     std::function<void()> beforeWaiting_;
     std::string buffer_;
     std::size_t start_ = 0;
+    bool isCutOff_ = false;
 };
 
 }  // namespace Orvo::Script

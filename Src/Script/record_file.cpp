@@ -1,79 +1,85 @@
 #include "Script/record_file.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
-#include <cstddef>
-#include <cstdio>
+#include <stdexcept>
 #include <system_error>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace Orvo::Script {
 namespace {
 
-// It may hold passwords.
-constexpr mode_t kForTheOwner = 0600;
+constexpr std::size_t kPiece = 65536;
 
 }  // namespace
 
-RecordFile::RecordFile(const std::string& path)
-    : path_(path),
-      descriptor_(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kForTheOwner)) {
-    if (descriptor_ < 0) throw std::system_error(errno, std::generic_category(), path);
-    // A file that was there already keeps its mode otherwise; a device's is the system's.
+RecordFile::RecordFile(const std::string& path, Existing existing)
+    : path_(path), file_(NewFile(path, existing, Readers::owner).keep()) {}
+
+void RecordFile::append(std::string_view lines) {
+    unwritten_ += lines;
+    if (!failure_) return flush();
+    if (unwritten_.size() <= kMostUnwritten) return;
+    isWhole_ = false;
+    unwritten_ = {};
+}
+
+void RecordFile::flush() {
+    if (writeTo(file_, unwritten_) != unwritten_.size()) {
+        return giveUp(std::generic_category().message(errno));
+    }
+    size_ += unwritten_.size();
+    unwritten_.clear();
+}
+
+// A line that is cut off would be taken for another.
+void RecordFile::giveUp(const std::string& reason) {
+    failure_ = path_ + ": " + reason;
+    static_cast<void>(::ftruncate(file_.get(), static_cast<off_t>(size_)));
+}
+
+const std::optional<std::string>& RecordFile::failure() {
+    if (isRemoved() && !failure_) failure_ = path_ + ": The file was removed";
+    return failure_;
+}
+
+bool RecordFile::isRemoved() const {
     struct stat status {};
-    if (::fstat(descriptor_, &status) == 0 && S_ISREG(status.st_mode)) {
-        static_cast<void>(::fchmod(descriptor_, kForTheOwner));
+    return ::fstat(file_.get(), &status) == 0 && status.st_nlink == 0;
+}
+
+void RecordFile::moveTo(const std::string& path, Existing existing) {
+    if (!isWhole_) throw std::runtime_error(path + ": Too much has happened since");
+    if (path == path_ && !isRemoved()) return tryAgain();
+    NewFile file(path, existing, Readers::owner);
+    copyTo(file);
+    file.write(unwritten_);
+    file_ = file.keep();
+    path_ = path;
+    size_ += unwritten_.size();
+    unwritten_ = {};
+    failure_.reset();
+}
+
+void RecordFile::tryAgain() {
+    failure_.reset();
+    flush();
+    if (failure_) throw std::runtime_error(*failure_);
+}
+
+void RecordFile::copyTo(NewFile& file) const {
+    std::array<char, kPiece> piece{};
+    for (std::size_t at = 0; at < size_;) {
+        const ssize_t count = ::pread(file_.get(), piece.data(), std::min(kPiece, size_ - at),
+                                      static_cast<off_t>(at));
+        if (count <= 0)
+            throw std::system_error(count < 0 ? errno : EIO, std::generic_category(), path_);
+        file.write({piece.data(), static_cast<std::size_t>(count)});
+        at += static_cast<std::size_t>(count);
     }
-    isSeekable_ = ::lseek(descriptor_, 0, SEEK_CUR) >= 0;
-}
-
-RecordFile::~RecordFile() {
-    begin({});
-    if (descriptor_ >= 0) ::close(descriptor_);
-}
-
-void RecordFile::begin(std::string_view lines) {
-    settle(entry_);
-    entry_ = lines;
-    if (isSeekable_) write(entry_, settled_);
-}
-
-void RecordFile::putBefore(std::string_view lines) {
-    // Both in one go: the file is never without the entry.
-    if (isSeekable_) write(std::string(lines) + entry_, settled_);
-    settle(lines);
-}
-
-void RecordFile::putBehind(std::string_view lines) {
-    if (isSeekable_) write(lines, settled_ + std::int64_t(entry_.size()));
-    entry_ += lines;
-}
-
-void RecordFile::settle(std::string_view lines) {
-    if (!isSeekable_) write(lines, settled_);
-    settled_ += std::int64_t(lines.size());
-}
-
-void RecordFile::write(std::string_view lines, std::int64_t place) {
-    while (descriptor_ >= 0 && !lines.empty()) {
-        const ssize_t count = isSeekable_ ? ::pwrite(descriptor_, lines.data(), lines.size(), place)
-                                          : ::write(descriptor_, lines.data(), lines.size());
-        if (count >= 0) {
-            lines.remove_prefix(static_cast<std::size_t>(count));
-            place += count;
-        } else if (errno != EINTR) {
-            giveUp();
-        }
-    }
-}
-
-void RecordFile::giveUp() {
-    const std::string reason = std::generic_category().message(errno);
-    std::fprintf(stderr, "%s: %s: the recording ends here\n", path_.c_str(), reason.c_str());
-    ::close(descriptor_);
-    descriptor_ = -1;
 }
 
 }  // namespace Orvo::Script

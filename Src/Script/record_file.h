@@ -1,41 +1,50 @@
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "Script/files.h"
+
 namespace Orvo::Script {
 
-/// A text file that is complete up to its last full line whatever becomes of the program. Its last
-/// entry can still get lines before and behind it. What can't be written twice, such as a pipe,
-/// gets an entry when the next one begins.
+/// A text file that only ever grows, by whole lines: what stood in it up to its last full line
+/// stays there, whatever becomes of the program.
 ///
-/// All take whole lines with their line breaks. A file that takes no more, for instance because the
-/// disk is full, is complained of once on standard error; what else is written to it is lost.
+/// A file that takes no more, for instance because the disk is full, is left with its full lines,
+/// and the lines that come then are kept for another file, as many as `kMostUnwritten` bytes hold.
 class RecordFile {
 public:
-    /// What was in the file is gone. Throws std::system_error when it can't be opened.
-    explicit RecordFile(const std::string& path);
-    ~RecordFile();
-    RecordFile(const RecordFile&) = delete;
-    RecordFile& operator=(const RecordFile&) = delete;
+    static constexpr std::size_t kMostUnwritten = std::size_t{64} << 20U;
 
-    /// The entry so far is final; the next begins with these lines.
-    void begin(std::string_view lines);
-    void putBefore(std::string_view lines);
-    void putBehind(std::string_view lines);
+    /// For its owner's eyes alone: it may hold passwords. Throws std::runtime_error.
+    RecordFile(const std::string& path, Existing existing);
+
+    /// Whole lines with their line breaks.
+    void append(std::string_view lines);
+
+    /// Why the file takes no more, if so: "FILE: REASON". One that is removed takes no more, which
+    /// shows only when it is looked at here.
+    const std::optional<std::string>& failure();
+
+    /// Everything from the beginning on, and what comes next, is in another file from now on, or in
+    /// the same again, if it can be; else std::runtime_error tells why, and nothing has changed.
+    void moveTo(const std::string& path, Existing existing);
 
 private:
-    void settle(std::string_view lines);
-    void write(std::string_view lines, std::int64_t place);
-    void giveUp();
+    void flush();
+    void giveUp(const std::string& reason);
+    void copyTo(NewFile& file) const;
+    void tryAgain();
+    [[nodiscard]] bool isRemoved() const;
 
     std::string path_;
-    int descriptor_;
-    bool isSeekable_ = true;
-    // Where the entry begins, and its lines.
-    std::int64_t settled_ = 0;
-    std::string entry_;
+    FileDescriptor file_;
+    std::size_t size_ = 0;   // of the full lines
+    std::string unwritten_;  // lines
+    bool isWhole_ = true;
+    std::optional<std::string> failure_;
 };
 
 }  // namespace Orvo::Script

@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "Orvo/layout/roles.h"
 #include "Orvo/store/stored_widgets.h"
 #include "Orvo/store/user_input.h"
 #include "Script/command.h"
@@ -13,7 +14,8 @@
 namespace Orvo::Script {
 namespace {
 
-constexpr std::string_view kHeading = "# A recorded session: panel script that repeats it.\n";
+constexpr std::string_view kHeading =
+    "# A recorded session: panel script that repeats it.\nchronological\n";
 // The longest that the language waits in one go.
 constexpr std::chrono::milliseconds kLongestWait{std::numeric_limits<Long>::max()};
 
@@ -22,12 +24,12 @@ bool isText(const Value& value) { return std::holds_alternative<String>(value); 
 
 }  // namespace
 
-Recorder::Recorder(const std::string& file, PanelOwner& owner, Answers answers)
+Recorder::Recorder(RecordFile file, PanelOwner& owner, Answers answers)
     : owner_(owner),
-      file_(file),
+      file_(std::move(file)),
       answers_(answers),
       renewals_(owner.onRenewed([this] { hear(); }, [this] { panelEnds(); })) {
-    file_.begin(kHeading);
+    file_.append(kHeading);
     hear();
 }
 
@@ -65,7 +67,7 @@ void Recorder::called(const Member& member, std::span<const Value> arguments) {
 void Recorder::returned(const Member& /*member*/, const Value& /*result*/) { end(); }
 
 void Recorder::failed(const Member& /*member*/, const Error& error) {
-    file_.putBehind("# ! " + textOf(error) + '\n');
+    file_.append("# ! " + textOf(error) + '\n');
     end();
 }
 
@@ -83,15 +85,24 @@ void Recorder::did() {
     if (slider && store().get<Runtime::StoredSlider>(*slider).state().isHeld) {
         write(commandText({.verb = Runtime::Deed::Verb::hold, .widget = *slider}));
     }
-    const bool isBusy = store().pointer() == Widgets::Pointer::hourglass;
-    if (deed.state == State::over && isBusy) pointerIsSet();
+    if (deed.state == State::over) writeWhatASecretLeft();
+}
+
+// Who knows the password has the hourglass at the end, and the button that starts it all enabled,
+// even if only watching has begun meanwhile. The replay, which knows no answer, has neither.
+void Recorder::writeWhatASecretLeft() {
+    if (store().pointer() == Widgets::Pointer::hourglass) pointerIsSet();
+    const auto button = Layout::kCommon.resetLogButton;
+    const std::string_view name = Layout::describe(button).name;
+    const std::string_view isEnabled = textOf(store().widget(button).isEnabled());
+    write(std::string("set ").append(name).append(" enabled ").append(isEnabled));
 }
 
 void Recorder::answered(const std::optional<String>& answer) {
     if (ongoing_.empty() || ongoing_.back().state == State::over) return;
     const bool isTold = answer && answers_ == Answers::inFull;
     writeWait();
-    file_.putBefore("answer " + (isTold ? textOf(StringView(*answer)) : "cancel") + '\n');
+    file_.append("answer " + (isTold ? textOf(StringView(*answer)) : "cancel") + '\n');
     // No event takes what stands behind an answer that it hasn't got.
     resumptions_ = 0;
     ongoing_.back().state = answer && !isTold ? State::over : State::running;
@@ -102,7 +113,7 @@ void Recorder::raised(const Event& event, std::span<const Value> arguments) {
     const bool isSecret =
         answers_ == Answers::asCancelled && std::any_of(arguments.begin(), arguments.end(), isText);
     const auto told = isSecret ? std::span<const Value>() : arguments;
-    file_.putBehind("# " + eventText(event, told) + (isSecret ? " …\n" : "\n"));
+    file_.append("# " + eventText(event, told) + (isSecret ? " …\n" : "\n"));
 }
 
 void Recorder::begin(std::string_view command, std::optional<Widgets::WidgetId> movedSlider) {
@@ -131,14 +142,13 @@ bool Recorder::isInTheMidst() const {
 }
 
 void Recorder::write(std::string_view command) {
-    const std::string line = std::string(command) + '\n';
-    if (!isInTheMidst()) {
-        resumptions_ = 0;
-        return file_.begin(line);
+    std::string lines;
+    if (isInTheMidst()) {
+        for (; resumptions_ > 0; --resumptions_) lines += "resume\n";
+        lines += "meanwhile ";
     }
-    std::string queued;
-    for (; resumptions_ > 0; --resumptions_) queued += "resume\n";
-    file_.putBefore(queued + "meanwhile " + line);
+    resumptions_ = 0;
+    file_.append(lines.append(command) += '\n');
 }
 
 void Recorder::writeWait() {

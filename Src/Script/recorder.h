@@ -18,23 +18,28 @@ namespace Orvo::Script {
 /// Whether a recording holds what is typed at prompts, and the events that carry it.
 enum class Answers : std::uint8_t { asCancelled, inFull };
 
-/// Writes down what host and person do to a panel, as panel script that does the same to a fresh
-/// panel. The events are there as comments. What is done in the midst of an action, because it
-/// raises an event or opens a prompt, stands before it and is said to be done meanwhile. Only what
-/// comes of an answer that it doesn't hold is not repeated.
+/// Writes down what host and person do to a panel, as it happens, as panel script that does the
+/// same to a fresh panel. The events are there as comments. What is done in the midst of an action,
+/// because it raises an event or opens a prompt, stands below it and is said to be done meanwhile.
+/// Only what comes of an answer that it doesn't hold is not repeated.
 ///
 /// The store's clock must be run by hand: each timer then ticks in the replay as it ticked here.
 class Recorder final : private CallListener, private Runtime::InputObserver {
 public:
     /// Begins with the panel fresh, and goes on with later ones. It must be the first that hears
-    /// the panel's events. Throws std::system_error when the file can't be opened.
-    Recorder(const std::string& file, PanelOwner& owner, Answers answers);
+    /// the panel's events.
+    Recorder(RecordFile file, PanelOwner& owner, Answers answers);
     ~Recorder() override;
     Recorder(const Recorder&) = delete;
     Recorder& operator=(const Recorder&) = delete;
 
     /// The host has set the screen's pointer.
     void pointerIsSet();
+    /// Writes down the time that has passed since.
+    void writeWait();
+
+    /// What is recorded; it may fail, and another one may take its place.
+    [[nodiscard]] RecordFile& file() { return file_; }
 
 private:
     /// Where something stands in the script.
@@ -74,7 +79,7 @@ private:
 
     [[nodiscard]] bool isInTheMidst() const;
     void write(std::string_view command);
-    void writeWait();
+    void writeWhatASecretLeft();
 
     PanelOwner& owner_;
     RecordFile file_;

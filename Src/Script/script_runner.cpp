@@ -4,11 +4,13 @@
 #include <cerrno>
 #include <cstdio>
 #include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
 
 #include "Script/buffered_output.h"
+#include "Script/file_descriptor.h"
 #include "Script/line_reader.h"
 
 namespace Orvo::Script {
@@ -24,46 +26,114 @@ std::ptrdiff_t columnAt(std::string_view line, std::size_t offset) {
            });
 }
 
-int open(const std::string& file) {
-    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0) throw std::system_error(errno, std::generic_category(), file);
+// Anything that can be read, a pipe for instance.
+FileDescriptor open(const std::string& file) {
+    FileDescriptor descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    if (descriptor.get() < 0) throw std::system_error(errno, std::generic_category(), file);
     return descriptor;
 }
+
+struct Source {
+    int descriptor;
+    std::string name;
+};
+
+class ScriptRun {
+public:
+    ScriptRun(PanelOwner& owner, Person& person, const Grammar& grammar, const Source& source,
+              const std::function<void(int)>& beforeWaiting)
+        : session_(owner, person, grammar, [this](std::string_view line) { output_.line(line); }),
+          script_(session_, source.name),
+          reader_(source.descriptor, source.name,
+                  [this, &beforeWaiting, descriptor = source.descriptor] {
+                      output_.flush();
+                      beforeWaiting(descriptor);
+                  }) {}
+
+    Status run(AtComplaint atComplaint) {
+        atComplaint_ = atComplaint;
+        while (goesOn()) {
+            const auto line = nextLine();
+            if (!line) break;
+            tell(script_.run(*line));
+        }
+        if (goesOn()) tell(script_.runRest());
+        output_.flush();
+        return status_;
+    }
+
+private:
+    [[nodiscard]] bool goesOn() const {
+        return !session_.hasQuit() && (status_ == done || atComplaint_ == AtComplaint::goOn);
+    }
+
+    // The last line may do without its line break, unless it is one that a recording was cut off
+    // in.
+    std::optional<std::string_view> nextLine() {
+        const auto line = reader_.next();
+        return reader_.isCutOff() && session_.isChronological() ? std::nullopt : line;
+    }
+
+    void tell(const std::optional<std::string>& complaint) {
+        if (!complaint) return;
+        status_ = notUnderstood;
+        output_.flush();
+        std::fprintf(stderr, "%s\n", complaint->c_str());
+    }
+
+    BufferedOutput output_;
+    Session session_;
+    ScriptLines script_;
+    LineReader reader_;
+    AtComplaint atComplaint_ = AtComplaint::stop;
+    Status status_ = done;
+};
 
 }  // namespace
 
 std::optional<std::string> ScriptLines::run(std::string_view line) {
     const bool isMarked = ++lineNumber_ == 1 && line.starts_with(kByteOrderMark);
     if (isMarked) line.remove_prefix(kByteOrderMark.size());
+    const bool waits = session_.isChronological() && !isForTheMidst(line);
+    if (!waits) return run(line, lineNumber_);
+    auto complaint = runRest();
+    rest_ = line;
+    restNumber_ = lineNumber_;
+    return complaint;
+}
+
+std::string ScriptLines::refuse(std::string_view reason) {
+    ++lineNumber_;
+    return placed(reason);
+}
+
+std::string ScriptLines::placed(std::string_view text) const {
+    return placed(text, lineNumber_, 1);
+}
+
+std::string ScriptLines::placed(std::string_view text, std::size_t line,
+                                std::ptrdiff_t column) const {
+    return (name_ + ':' + std::to_string(line) + ':' + std::to_string(column) + ": ").append(text);
+}
+
+std::optional<std::string> ScriptLines::runRest() {
+    return run(std::exchange(rest_, {}), restNumber_);
+}
+
+std::optional<std::string> ScriptLines::run(std::string_view line, std::size_t number) {
     const auto complaint = session_.run(line);
     if (!complaint) return std::nullopt;
-    return name_ + ':' + std::to_string(lineNumber_) + ':' +
-           std::to_string(columnAt(line, complaint->offset)) + ": " + complaint->text;
+    return placed(complaint->text, number, columnAt(line, complaint->offset));
 }
 
 Status runScript(PanelOwner& owner, Person& person, const Grammar& grammar, const std::string& file,
                  AtComplaint atComplaint, const std::function<void(int)>& beforeWaiting) {
-    const bool isInput = file == "-";
-    const int descriptor = isInput ? STDIN_FILENO : open(file);
-    BufferedOutput output;
-    Session session(owner, person, grammar, [&](std::string_view line) { output.line(line); });
-    ScriptLines script(session, isInput ? "<stdin>" : file);
-    LineReader reader(descriptor, [&] {
-        output.flush();
-        beforeWaiting(descriptor);
-    });
-    Status status = done;
-    while (!session.hasQuit() && (status == done || atComplaint == AtComplaint::goOn)) {
-        const auto line = reader.next();
-        if (!line) break;
-        const auto complaint = script.run(*line);
-        if (!complaint) continue;
-        status = notUnderstood;
-        output.flush();
-        std::fprintf(stderr, "%s\n", complaint->c_str());
+    if (file == "-") {
+        return ScriptRun(owner, person, grammar, {STDIN_FILENO, "<stdin>"}, beforeWaiting)
+            .run(atComplaint);
     }
-    output.flush();
-    return status;
+    const FileDescriptor opened = open(file);
+    return ScriptRun(owner, person, grammar, {opened.get(), file}, beforeWaiting).run(atComplaint);
 }
 
 }  // namespace Orvo::Script

@@ -142,7 +142,7 @@ void Session::raised(const Event& event, std::span<const Value> arguments) {
 
 void Session::handle(const Handlers& handlers) {
     for (const auto& handler : handlers) {
-        if (!handler->isForgotten && !isExhausted_) perform(handler->command);
+        if (!handler->isForgotten && !isExhausted_ && hasTime()) perform(handler->command);
     }
 }
 
@@ -155,7 +155,11 @@ std::optional<What> Session::takeQueued() {
 }
 
 void Session::performQueued() {
-    while (const auto command = takeQueued<ParsedCommand>()) perform(*command);
+    while (hasTime()) {
+        const auto command = takeQueued<ParsedCommand>();
+        if (!command) return;
+        perform(*command);
+    }
 }
 
 void Session::failed(const Error& error) {

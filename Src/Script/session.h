@@ -63,6 +63,9 @@ public:
     /// prompt; and where that ends for an event.
     void queueCommand(ParsedCommand command) { queue_.emplace_back(std::move(command)); }
     void queueResumption() { queue_.emplace_back(Resumption{}); }
+    /// What is queued is for the command above it; whoever hands out the lines sees to that.
+    void becomeChronological() { isChronological_ = true; }
+    [[nodiscard]] bool isChronological() const { return isChronological_; }
     /// What the person does. Throws Misunderstood when it is for an item that isn't in the list.
     void perform(const Runtime::Deed& deed) const;
     void renew();
@@ -93,6 +96,7 @@ private:
     std::optional<String> ask(const Widgets::Question& question) override;
 
     void handle(const Handlers& handlers);
+    bool hasTime() { return person_ == nullptr || person_->hasTime(); }
     void performQueued();
     std::optional<String> queuedAnswer();
     template <class What>
@@ -115,6 +119,7 @@ private:
     Frame* frame_ = nullptr;
     std::size_t depth_ = 0;
     bool isExhausted_ = false;
+    bool isChronological_ = false;
     bool hasQuit_ = false;
     std::optional<Misunderstood> firstComplaint_;
     Connection renewals_;

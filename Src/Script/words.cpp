@@ -140,6 +140,11 @@ private:
 
 }  // namespace
 
+std::string_view firstWord(std::string_view line) {
+    line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
+    return line.substr(0, line.find_first_of(" \t\r"));
+}
+
 std::vector<Word> split(std::string_view line) {
     const std::size_t start = line.find_first_not_of(kBlanks);
     if (start == std::string_view::npos || line[start] == '#') return {};

@@ -38,4 +38,7 @@ struct Word {
 /// Misunderstood.
 std::vector<Word> split(std::string_view line);
 
+/// What a line begins with, up to the first blank.
+std::string_view firstWord(std::string_view line);
+
 }  // namespace Orvo::Script

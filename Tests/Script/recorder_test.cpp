@@ -19,10 +19,11 @@ class RecorderTest : public OwnedPanel {
 protected:
     /// What is in the file after `act`, but for the heading, the recording still going on.
     std::string recorded(Answers answers, const std::function<void()>& act) {
-        const Recorder recorder(file_, owner_, answers);
+        const Recorder recorder(RecordFile(file_, Existing::overwritten), owner_, answers);
+        const std::string heading = textIn(file_);
         act();
-        const std::string text = textIn(file_);
-        return text.substr(text.find('\n') + 1);
+        EXPECT_TRUE(heading.ends_with("\nchronological\n")) << heading;
+        return textIn(file_).substr(heading.size());
     }
 
     void enterInformation() { store().perform(Deed::key(kCommon.log, 18)); }
@@ -31,13 +32,15 @@ protected:
     std::string file_ = directory_.path() / "record.txt";
 };
 
-TEST_F(RecorderTest, WhatIsTypedAtPromptsStandsBeforeTheirCauseOrIsKeptSecret) {
+TEST_F(RecorderTest, WhatIsTypedAtPromptsStandsBelowTheirCauseOrIsKeptSecret) {
     const std::pair<Answers, const char*> rows[] = {
         {Answers::inFull,
-         "answer \"530284\"\nanswer \"A 1\"\nanswer \"B 2\"\nanswer \"Näytös\"\n"
-         "key List1 18\n# event GeneralInformations 1 \"Näytös\" \"A 1\" \"B 2\"\n"},
+         "key List1 18\n"
+         "answer \"530284\"\nanswer \"A 1\"\nanswer \"B 2\"\nanswer \"Näytös\"\n# event "
+         "GeneralInformations 1 \"Näytös\" \"A 1\" \"B 2\"\n"},
         {Answers::asCancelled,
-         "answer cancel\nkey List1 18\n# event GeneralInformations …\npointer 11\n"},
+         "key List1 18\nanswer cancel\n# event GeneralInformations …\npointer 11\n"
+         "set Command1 enabled true\n"},
     };
     for (const auto& [answers, text] : rows) {
         Typist typist;
@@ -88,20 +91,8 @@ TEST_F(RecorderTest, CallsOfAHandlerAreMadeMeanwhile) {
         click(channel(1).muteButton);
     });
     EXPECT_EQ(text,
-              "meanwhile let Mute 1 -1\nmeanwhile let VNPower 1 -5\n"
-              "click Command12\n# event Mute 1\n# ! 13 Type mismatch\n");
-}
-
-TEST_F(RecorderTest, AFullDiskIsComplainedOfOnceAndStopsNobodyElse) {
-    testing::internal::CaptureStderr();
-    {
-        const Recorder recorder("/dev/full", owner_, Answers::inFull);
-        for (int i = 0; i < 3; ++i) click(channel(1).muteButton);
-        panel().Mute(1, true);
-    }
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "/dev/full: No space left on device: the recording ends here\n");
-    EXPECT_EQ(panel().Mute(1), kTrue);
+              "click Command12\n# event Mute 1\n"
+              "meanwhile let Mute 1 -1\nmeanwhile let VNPower 1 -5\n# ! 13 Type mismatch\n");
 }
 
 /// A host with handlers of its own, whose session is recorded and then replayed.
@@ -111,10 +102,11 @@ protected:
     /// same, but for the event that carries answers.
     void expectSameReplay(const std::function<void()>& handler, const std::function<void()>& act,
                           Answers answered = Answers::inFull) {
-        const std::string script = recorded(answered, [&] {
-            const auto host = panel().connect([&](Long, std::span<Value>) { handler(); });
-            act();
-        });
+        const std::string script =
+            "chronological\n" + recorded(answered, [&] {
+                const auto host = panel().connect([&](Long, std::span<Value>) { handler(); });
+                act();
+            });
         StorePanel fresh;
         const std::string answers = answersOn(fresh, script);
         EXPECT_EQ(answers.find("\n? "), std::string::npos) << answers;
@@ -206,7 +198,7 @@ TEST_F(RecorderTest, TheFileIsCompleteWhileAPromptIsOpen) {
     });
     store().promptWith(&typist);
     recorded(Answers::inFull, [this] { enterInformation(); });
-    EXPECT_NE(begun.find("meanwhile wait 5\nanswer \"530284\"\nkey List1 18\n---"),
+    EXPECT_NE(begun.find("key List1 18\nmeanwhile wait 5\nanswer \"530284\"\n---"),
               std::string::npos)
         << begun;
 }

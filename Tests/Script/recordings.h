@@ -7,7 +7,7 @@
 
 #include "Orvo/layout/layout.h"
 #include "Script/person.h"
-#include "Script/session.h"
+#include "Script/script_runner.h"
 #include "Support/approved.h"
 
 // What tests of recorded sessions compare.
@@ -19,8 +19,10 @@ std::string answersOn(Panel& panel, const std::string& script) {
     std::string answers;
     Script::Session session(panel, panel, {},
                             [&](std::string_view line) { answers.append(line).append("\n"); });
+    Script::ScriptLines runner(session, "script");
     std::istringstream lines(script);
-    for (std::string line; std::getline(lines, line);) session.run(line);
+    for (std::string line; std::getline(lines, line);) runner.run(line);
+    runner.runRest();
     return answers;
 }
 

@@ -23,12 +23,16 @@ public:
         bool isTooLong = false;
     };
 
+    LineSplitter() = default;
+    explicit LineSplitter(std::size_t longest) : longest_(longest) {}
+
     /// To be called when there is no next line any more, so that not more than a piece and the
     /// beginning of a line are ever kept.
     void add(std::string_view bytes) { buffer_ += bytes; }
     std::optional<Line> next();
 
 private:
+    std::size_t longest_ = kLongestLine;  // bytes
     std::string buffer_;
     bool isTooLong_ = false;
 };

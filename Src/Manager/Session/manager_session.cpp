@@ -1,10 +1,8 @@
 #include "Manager/Session/manager_session.h"
 
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <optional>
-#include <system_error>
+#include <stdexcept>
 #include <utility>
 
 #include "Manager/Link/link_device.h"
@@ -16,12 +14,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Why a file can't be opened this way, if it can't.
-std::optional<std::string> obstacle(const std::string& file, std::ios::openmode mode) {
-    std::fstream stream(file, mode);
-    const bool isUsable = stream.is_open() && (stream.peek(), !stream.bad());
-    if (isUsable) return std::nullopt;
-    return file + ": " + std::generic_category().message(errno);
+std::string nameOf(const std::string& file) {
+    return std::filesystem::path(file).filename().string();
 }
 
 }  // namespace
@@ -32,9 +26,11 @@ ManagerSession::ManagerSession(Script::PanelOwner& owner, Script::Person& person
       person_(person),
       settings_(std::move(settings)),
       observer_(observer),
-      recorder_(settings_.record.empty() ? nullptr
-                                         : std::make_unique<Script::Recorder>(
-                                               settings_.record, owner, settings_.answers)),
+      recorder_(settings_.record.empty()
+                    ? nullptr
+                    : std::make_unique<Script::Recorder>(
+                          Script::RecordFile(settings_.record, settings_.existing), owner,
+                          settings_.answers)),
       station_(owner) {
     serveFreshPanels();
     listenToErrors();
@@ -65,6 +61,7 @@ void ManagerSession::letPass(std::chrono::milliseconds time) {
     station_.advance(time);
     endHourglass(time);
     endReplayThatIsOver();
+    watchRecording();
 }
 
 // The panel leaves it to its host to take the hourglass away again: when the amplifier has spoken
@@ -103,31 +100,70 @@ SimulatedHost* ManagerSession::simulator() const {
 
 // Where nothing can be recorded, nothing is given up.
 void ManagerSession::startRecording(const std::string& file) {
-    if (const auto reason = obstacle(file, std::ios::app)) {
-        return observer_.warn({"Not recorded", "The session can't be recorded.", *reason});
+    std::optional<Script::RecordFile> made;
+    try {
+        made.emplace(file, Script::Existing::overwritten);
+    } catch (const std::runtime_error& failure) {
+        return observer_.warn({"Not recorded", "The session can't be recorded.", failure.what()});
     }
     stopReplay();
     stopRecording();
     const bool wasReadOnly = isReadOnly();
     const auto tab = owner_.store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current;
-    recorder_ = std::make_unique<Script::Recorder>(file, owner_, settings_.answers);
+    recorder_ = std::make_unique<Script::Recorder>(std::move(*made), owner_, settings_.answers);
     serveFreshPanels();
     station_.startAnew();
     if (wasReadOnly && !isReadOnly()) setReadOnly(true);
     owner_.store().perform(Runtime::Deed::tab(Layout::kTabs.id, tab));
-    observer_.say("Recording from a fresh start to " +
-                  std::filesystem::path(file).filename().string());
+    observer_.say("Recording from a fresh start to " + nameOf(file));
 }
 
 void ManagerSession::stopRecording() {
-    if (!isRecording()) return;
+    const bool wasRecording = isRecording();
+    const auto reason = endRecording();
+    if (!wasRecording) return;
+    if (!reason) return observer_.say("The session is recorded");
+    observer_.warn({"Not all is recorded", "The end of the session is not recorded.", *reason});
+}
+
+std::optional<std::string> ManagerSession::endRecording() {
+    if (recorder_ == nullptr) return std::nullopt;
+    recorder_->writeWait();
+    auto reason = recorder_->file().failure();
     recorder_.reset();
-    observer_.say("The session is recorded");
+    hasStopped_ = false;
+    return reason;
+}
+
+void ManagerSession::watchRecording() {
+    if (!isRecording()) return;
+    const auto reason = recorder_->file().failure();
+    if (!reason) return;
+    hasStopped_ = true;
+    observer_.say("The recording stopped: " + *reason);
+    observer_.recordingStopped({"The recording stopped",
+                                "What happens from now on is kept until there is another file for "
+                                "the recording.",
+                                *reason});
+}
+
+void ManagerSession::continueRecording(const std::string& file) {
+    if (!hasRecordingStopped()) return;
+    try {
+        recorder_->file().moveTo(file, Script::Existing::overwritten);
+    } catch (const std::runtime_error& failure) {
+        return observer_.recordingStopped(
+            {"Not recorded", "The recording can't go on there.", failure.what()});
+    }
+    hasStopped_ = false;
+    observer_.say("The recording goes on in " + nameOf(file));
 }
 
 void ManagerSession::startReplay(const std::string& file) {
-    if (const auto reason = obstacle(file, std::ios::in)) {
-        return observer_.warn({"Not replayed", "The session can't be read.", *reason});
+    try {
+        Script::openRegular(file);
+    } catch (const std::runtime_error& failure) {
+        return observer_.warn({"Not replayed", "The session can't be read.", failure.what()});
     }
     stopRecording();
     station_.connect([this, file] { return std::make_unique<Replay>(owner_, person_, file); });

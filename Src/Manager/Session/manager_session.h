@@ -17,6 +17,7 @@ struct SessionSettings {
     std::uint32_t seed = 1;   ///< the simulator's
     bool isReadOnly = false;  ///< fresh panels too, but for a replay's
     std::string record{};     ///< a file; empty: none
+    Script::Existing existing = Script::Existing::refused;  ///< what has the file's name already
     Script::Answers answers = Script::Answers::asCancelled;
 };
 
@@ -33,6 +34,8 @@ public:
     virtual ~SessionObserver() = default;
     virtual void say(const std::string& message) = 0;
     virtual void warn(const Failure& failure) = 0;
+    /// A recording has stopped, and could go on in another file.
+    virtual void recordingStopped(const Failure& failure) = 0;
 };
 
 /// What a person works with while the program runs: the panel, what plays its host, and what is
@@ -40,8 +43,8 @@ public:
 /// ends a recording.
 class ManagerSession final {
 public:
-    /// All must live as long. Throws std::system_error when the session is to be recorded in a file
-    /// that can't be opened.
+    /// All must live as long. Throws std::runtime_error when the session is to be recorded in a
+    /// file that can't be made.
     ManagerSession(Script::PanelOwner& owner, Script::Person& person, SessionSettings settings,
                    SessionObserver& observer);
     ~ManagerSession();
@@ -59,9 +62,17 @@ public:
     [[nodiscard]] SimulatedHost* simulator() const;
 
     /// From a fresh panel on, to which what is connected is connected anew; the tab in front stays.
+    /// A file that is there already is overwritten.
     void startRecording(const std::string& file);
     void stopRecording();
-    [[nodiscard]] bool isRecording() const { return recorder_ != nullptr; }
+    /// Why the recording isn't whole, if so.
+    std::optional<std::string> endRecording();
+    [[nodiscard]] bool isRecording() const { return recorder_ != nullptr && !hasStopped_; }
+
+    /// The recording takes no more, because of its file. It waits for another one, until it is
+    /// stopped, and goes on there with nothing left out.
+    [[nodiscard]] bool hasRecordingStopped() const { return hasStopped_; }
+    void continueRecording(const std::string& file);
 
     /// On a fresh panel, with nothing else connected.
     void startReplay(const std::string& file);
@@ -80,12 +91,14 @@ private:
     [[nodiscard]] const Replay* replay() const;
     void endHourglass(std::chrono::milliseconds time);
     void endReplayThatIsOver();
+    void watchRecording();
 
     Script::PanelOwner& owner_;
     Script::Person& person_;
     const SessionSettings settings_;
     SessionObserver& observer_;
     std::unique_ptr<Script::Recorder> recorder_;  // null when nothing is recorded
+    bool hasStopped_ = false;
     Station station_;
     Connection renewals_;
     std::chrono::milliseconds hourglass_{0};  // how long it has been there

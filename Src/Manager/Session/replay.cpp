@@ -1,53 +1,100 @@
 #include "Manager/Session/replay.h"
 
 #include <algorithm>
+#include <array>
+#include <stdexcept>
+#include <utility>
+
+#include "Script/files.h"
 
 namespace Orvo::Manager {
 namespace {
 
 using namespace std::chrono_literals;
-using SteadyClock = std::chrono::steady_clock;
 
-// A script that never waits must not hold up the window.
+// A script that never waits must not hold up the window. What is begun may take a little longer.
 constexpr auto kLongestMoment = 15ms;
+constexpr auto kPatience = 30ms;
+// What a handler waits takes no time, but the timers that tick meanwhile do.
+constexpr auto kLongestStep = 1000ms;
+constexpr std::size_t kPiece = 16384;  // bytes
+
+Script::FileDescriptor opened(const std::filesystem::path& script) {
+    try {
+        return Script::openRegular(script);
+    } catch (const std::runtime_error&) {
+        return Script::FileDescriptor();
+    }
+}
 
 }  // namespace
 
 Replay::Replay(Script::PanelOwner& owner, Script::Person& person,
-               const std::filesystem::path& script)
-    : lines_(script),
+               const std::filesystem::path& script, Clock clock)
+    : clock_(std::move(clock)),
+      file_(opened(script)),
       person_(person),
       session_(
-          owner, *this, {.place = Script::Place::inWindow}, [](std::string_view) {},
-          Script::UnawaitedErrors::areTheOwners),
+          owner, *this,
+          {.speaker = Script::Grammar::Speaker::recording, .place = Script::Place::inWindow},
+          [](std::string_view) {}, Script::UnawaitedErrors::areTheOwners),
       script_(session_, script.filename().string()) {}
 
 void Replay::advance(std::chrono::milliseconds elapsed) {
     silence_ += elapsed;
-    const auto end = SteadyClock::now() + kLongestMoment;
-    while (!isOver_ && SteadyClock::now() < end) {
+    const auto now = clock_();
+    endOfPatience_ = now + kPatience;
+    while (!isOver_ && clock_() < now + kLongestMoment) {
         const auto step = std::min(elapsed, left_);
         person_.wait(step);
         elapsed -= step;
         left_ -= step;
-        if (left_ > 0ms) return;
-        runLine();
+        if (left_ > 0ms) break;
+        goOn();
+        isOver_ = isOver_ || complaint_ || session_.hasQuit();
     }
+    if (!isOutOfTime_) return;
+    isOver_ = true;
+    complaint_ = script_.placed("more is done in the midst of a command than there is time for");
 }
 
 // A handler's wait is over when the handler goes on; the script's own takes its time.
 void Replay::wait(std::chrono::milliseconds time) {
-    if (session_.isInTheMidst()) return person_.wait(time);
-    left_ += time;
+    if (!session_.isInTheMidst()) {
+        left_ += time;
+        return;
+    }
+    while (time > 0ms && hasTime()) {
+        const auto step = std::min<std::chrono::milliseconds>(time, kLongestStep);
+        person_.wait(step);
+        time -= step;
+    }
 }
 
-void Replay::runLine() {
-    std::string line;
-    isOver_ = !std::getline(lines_, line);
-    if (isOver_) return;
+bool Replay::hasTime() {
+    isOutOfTime_ = isOutOfTime_ || clock_() >= endOfPatience_;
+    return !isOutOfTime_;
+}
+
+void Replay::goOn() {
+    if (const auto line = lines_.next()) return run(*line);
+    if (!isRead_) return read();
+    isOver_ = !script_.hasRest();
+    complaint_ = script_.runRest();
+}
+
+// The last line may do without its line break, unless it is one that a recording was cut off in.
+void Replay::read() {
+    std::array<char, kPiece> bytes{};
+    const std::size_t count = Script::readFrom(file_, bytes);
+    lines_.add({bytes.data(), count});
+    isRead_ = count == 0;
+    if (isRead_ && !session_.isChronological()) lines_.add("\n");
+}
+
+void Replay::run(const LineSplitter::Line& line) {
     silence_ = 0ms;
-    complaint_ = script_.run(line);
-    isOver_ = complaint_ || session_.hasQuit();
+    complaint_ = line.isTooLong ? script_.refuse("the line is too long") : script_.run(line.text);
 }
 
 }  // namespace Orvo::Manager

@@ -10,7 +10,9 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QTemporaryDir>
 
+#include "Manager/Window/files.h"
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/pictures.h"
 #include "Orvo/core/marvane_assistant.h"
@@ -33,13 +35,15 @@ void say(const QString& line) {
     std::fflush(stdout);
 }
 
-// Where whoever built the program finds them, else where nobody has to clean up.
+// Where whoever built the program finds them, else where nobody has to clean up, in a directory
+// that nobody else has made.
 QDir pictureDirectory() {
-    QDir directory("build");
+    const QDir directory("build");
     if (directory.exists()) return directory;
-    directory = QDir(QDir::tempPath() + "/marvane-manager");
-    directory.mkpath(".");
-    return directory;
+    QTemporaryDir fresh(QDir::tempPath() + "/marvane-manager-XXXXXX");
+    fresh.setAutoRemove(false);
+    if (!fresh.isValid()) throw std::runtime_error(fresh.errorString().toStdString());
+    return {fresh.path()};
 }
 
 class Demonstration {
@@ -73,6 +77,7 @@ void Demonstration::run() {
     if (isOperated) play();
     letPass(kPlays);
     savePictures();
+    if (const auto reason = window_.session().endRecording()) throw std::runtime_error(*reason);
 }
 
 void Demonstration::comeUp() {
@@ -101,8 +106,7 @@ void Demonstration::savePictures() {
     for (std::size_t tab = 0; tab < kPictures.size(); ++tab) {
         window_.selectTab(int(tab) + 1);
         const QString path = directory.absoluteFilePath(kPictures[tab]);
-        const QString error = write(path, toPng(pictureOf(window_.panelWidget())));
-        if (!error.isEmpty()) throw std::runtime_error((path + ": " + error).toStdString());
+        write(path, toPng(pictureOf(window_.panelWidget())), Script::Existing::overwritten);
         say(path);
     }
 }
@@ -133,8 +137,7 @@ int demonstrate(const Options& options) {
         Demonstration(options).run();
         return 0;
     } catch (const std::runtime_error& error) {
-        std::fprintf(stderr, "marvane-manager: %s\n", error.what());
-        return 1;
+        return complain(error);
     }
 }
 

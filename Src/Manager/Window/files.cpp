@@ -2,13 +2,14 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace Orvo::Manager {
 
 void askForFile(QWidget& window, const FileQuestion& question,
-                const std::function<void(const QString& path)>& use) {
+                const std::function<void(const QString& path)>& use,
+                const std::function<void()>& otherwise) {
     auto* dialog = new QFileDialog(&window, question.title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(question.mode);
@@ -19,14 +20,16 @@ void askForFile(QWidget& window, const FileQuestion& question,
     dialog->setDirectory(question.directory.isEmpty() ? QDir::homePath() : question.directory);
     dialog->selectFile(question.name);
     QObject::connect(dialog, &QFileDialog::fileSelected, &window, use);
+    QObject::connect(dialog, &QFileDialog::rejected, &window, otherwise);
     dialog->open();
 }
 
-QString write(const QString& path, const QByteArray& content) {
-    QSaveFile file(path);
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
-    return isWritten ? QString() : file.errorString();
+std::string nativeName(const QString& file) { return QFile::encodeName(file).toStdString(); }
+
+void write(const QString& path, const QByteArray& content, Script::Existing existing) {
+    Script::NewFile file(nativeName(path), existing, Script::Readers::usual);
+    file.write({content.data(), std::size_t(content.size())});
+    file.keep();
 }
 
 QString dated(const QString& name) {

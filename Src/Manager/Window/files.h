@@ -6,6 +6,8 @@
 #include <QFileDialog>
 #include <QString>
 
+#include "Script/files.h"
+
 namespace Orvo::Manager {
 
 /// What a person wants to keep.
@@ -26,12 +28,17 @@ struct FileQuestion {
     QString name{};       ///< suggested
 };
 
-/// Whatever the person does meanwhile goes on.
-void askForFile(QWidget& window, const FileQuestion& question,
-                const std::function<void(const QString& path)>& use);
+/// Whatever the person does meanwhile goes on. The dialog asks whether a file may be overwritten.
+void askForFile(
+    QWidget& window, const FileQuestion& question,
+    const std::function<void(const QString& path)>& use,
+    const std::function<void()>& otherwise = [] {});
 
-/// Writes the file as a whole or not at all; empty when done, else why it failed.
-QString write(const QString& path, const QByteArray& content);
+/// As the system has it.
+std::string nativeName(const QString& file);
+
+/// Writes the file as a whole or not at all. Throws std::runtime_error, "FILE: REASON".
+void write(const QString& path, const QByteArray& content, Script::Existing existing);
 
 /// "marvane-panel.png" becomes "marvane-panel-20260314-150926.png".
 QString dated(const QString& name);

@@ -46,9 +46,17 @@ void ManagerWindow::say(const std::string& message) {
     statusLine_->say(QString::fromStdString(message));
 }
 
-void ManagerWindow::warn(const Failure& failure) {
-    showWarning(*this, QString::fromStdString(failure.title), QString::fromStdString(failure.text),
-                QString::fromStdString(failure.details));
+void ManagerWindow::warn(const Failure& failure) { showFailure(failure); }
+
+QDialog& ManagerWindow::showFailure(const Failure& failure) {
+    return showWarning(*this, QString::fromStdString(failure.title),
+                       QString::fromStdString(failure.text),
+                       QString::fromStdString(failure.details));
+}
+
+void ManagerWindow::recordingStopped(const Failure& failure) {
+    refresh();
+    connect(&showFailure(failure), &QDialog::finished, this, &ManagerWindow::askToGoOnRecording);
 }
 
 void ManagerWindow::layOut() {
@@ -94,14 +102,20 @@ void ManagerWindow::showSituation() {
     // A status bar doesn't hand on by itself what a line in it needs.
     statusBar()->setMinimumWidth(statusLine_->minimumSizeHint().width());
     const QString title = QString::fromStdString(text.connection) + " - Marvane Manager";
-    const QString recording = session_.isRecording() ? "Recording: " : "";
-    setWindowTitle((text.isStale ? "Old values: " : "") + recording + title);
+    const QString recording = recordingText();
+    setWindowTitle((text.isStale ? "Old values: " : "") + recording +
+                   (recording.isEmpty() ? "" : ": ") + title);
+}
+
+QString ManagerWindow::recordingText() const {
+    if (session_.hasRecordingStopped()) return "Recording stopped";
+    return session_.isRecording() ? "Recording" : "";
 }
 
 void ManagerWindow::showModes() {
     QStringList modes;
     if (session_.isReadOnly()) modes += "Read-only";
-    if (session_.isRecording()) modes += "Recording";
+    if (!recordingText().isEmpty()) modes += recordingText();
     statusLine_->showMode(modes.join(", "));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
@@ -21,7 +23,7 @@ class ManagerWindow final : public QMainWindow, private SessionObserver {
     Q_OBJECT
 
 public:
-    /// Throws std::system_error when the session is to be recorded in a file that can't be opened.
+    /// Throws std::runtime_error when the session is to be recorded in a file that can't be made.
     explicit ManagerWindow(const Options& options = {});
 
     /// Shows the window, as the options say.
@@ -74,6 +76,7 @@ private:
 
     void say(const std::string& message) override;
     void warn(const Failure& failure) override;
+    void recordingStopped(const Failure& failure) override;
 
     void layOut();
     void startClock();
@@ -81,12 +84,16 @@ private:
     void adaptSize();
     void showSituation();
     void showModes();
+    [[nodiscard]] QString recordingText() const;
+    QDialog& showFailure(const Failure& failure);
     [[nodiscard]] QString messageLog() const;
     /// Asks where to.
     void save(const SavedFile& file);
     void write(const SavedFile& file, const QString& path);
     using UseOfSession = void (ManagerSession::*)(const std::string& file);
-    void askForSession(FileQuestion question, UseOfSession use);
+    void askForSession(
+        FileQuestion question, UseOfSession use, const std::function<void()>& otherwise = [] {});
+    void askToGoOnRecording();
 
     const Options options_;
     Window::PanelWidget* const panel_;

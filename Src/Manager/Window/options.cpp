@@ -1,12 +1,14 @@
 #include "Manager/Window/options.h"
 
+#include <cstdio>
 #include <limits>
+#include <system_error>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QFile>
 #include <QRegularExpression>
 
+#include "Manager/Window/files.h"
 #include "Manager/Window/zoom_area.h"
 #include "Orvo/layout/common_tab.h"
 
@@ -25,7 +27,7 @@ public:
             "Shows the front panel of a four-channel power amplifier, and a simulated amplifier "
             "behind it.");
         parser_.addOptions({help_, version_, simulate_, zoom_, tab_, readOnly_, fullScreen_});
-        parser_.addOptions({script_, keepGoing_, record_, recordAnswers_, link_});
+        parser_.addOptions({script_, keepGoing_, record_, recordAnswers_, overwrite_, link_});
     }
 
     std::variant<Options, Ending> parse(const QStringList& words);
@@ -60,7 +62,7 @@ private:
     const QCommandLineOption script_{
         "script",
         "Runs panel script from the file, \"-\" being standard input, and ends with it. The script "
-        "plays the amplifier too: only --zoom and --keep-going go with it.",
+        "plays the amplifier too: only --zoom, --keep-going and --overwrite go with it.",
         "FILE"};
     const QCommandLineOption keepGoing_{
         "keep-going", "Goes on after a command of the script that was not understood."};
@@ -73,6 +75,10 @@ private:
         "record-answers",
         "Records what is typed at the panel's prompts, passwords included; else all of them are "
         "recorded as cancelled."};
+    const QCommandLineOption overwrite_{"overwrite",
+                                        "Overwrites files that are there already, with --record "
+                                        "and where a script takes a picture; "
+                                        "else they are refused."};
     const QCommandLineOption link_{
         "link",
         "Connects what is at the other end of a serial device, a pseudo-terminal, a pipe or a "
@@ -134,7 +140,9 @@ SessionSettings CommandLine::sessionSettings() const {
     return {
         .seed = numberOf<std::uint32_t>(simulate_, 0, std::numeric_limits<std::uint32_t>::max()),
         .isReadOnly = parser_.isSet(readOnly_),
-        .record = QFile::encodeName(fileOf(record_)).toStdString(),
+        .record = nativeName(fileOf(record_)),
+        .existing =
+            parser_.isSet(overwrite_) ? Script::Existing::overwritten : Script::Existing::refused,
         .answers =
             parser_.isSet(recordAnswers_) ? Script::Answers::inFull : Script::Answers::asCancelled};
 }
@@ -160,7 +168,7 @@ void CommandLine::refuseBoth(const QCommandLineOption& one, const QCommandLineOp
 
 std::optional<LinkAddress> CommandLine::linkAddress() const {
     if (!parser_.isSet(link_)) return std::nullopt;
-    auto address = LinkAddress::read(QFile::encodeName(parser_.value(link_)).toStdString());
+    auto address = LinkAddress::read(nativeName(parser_.value(link_)));
     if (address) return address;
     throw Refused{QString("--link takes ") + kLinkAddressRule + ", not \"" + parser_.value(link_) +
                   "\"."};
@@ -181,6 +189,14 @@ QString CommandLine::helpText() const {
 }
 
 }  // namespace
+
+int complain(const std::exception& failure) {
+    const auto* reason = dynamic_cast<const std::system_error*>(&failure);
+    const bool isThere = reason != nullptr && reason->code() == std::errc::file_exists;
+    std::fprintf(stderr, "marvane-manager: %s%s\n", failure.what(),
+                 isThere ? " (--overwrite replaces it)" : "");
+    return kWrongUsage;
+}
 
 std::variant<Options, Ending> parseCommandLine(const QStringList& words) {
     return CommandLine().parse(words);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <optional>
 #include <variant>
 
@@ -32,6 +33,9 @@ constexpr int kWrongUsage = 2;
 
 /// What LinkAddress takes, in words.
 constexpr auto kLinkAddressRule = "a path, or a path and a speed that serial devices have";
+
+/// Says in one line on standard error what ends the program, and returns the status for that.
+int complain(const std::exception& failure);
 
 /// The command line, the program's name being its first word. Needs the application object.
 std::variant<Options, Ending> parseCommandLine(const QStringList& words);

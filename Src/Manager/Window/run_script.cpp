@@ -1,15 +1,14 @@
 #include "Manager/Window/run_script.h"
 
-#include <cstdio>
 #include <exception>
 
 #include <poll.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include "Manager/Window/files.h"
 #include "Manager/Window/window_panel.h"
 #include "Script/script_runner.h"
 
@@ -48,18 +47,17 @@ int runScript(const Options& options) {
     try {
         Window::PanelWidget window(Platform{}, nullptr, Window::Clock::byHand);
         window.setZoom(options.zoom / 100.0);
-        WindowPanel panel(window);
+        WindowPanel panel(window, options.session.existing);
         window.show();
         const auto atComplaint =
             options.keepsGoing ? Script::AtComplaint::goOn : Script::AtComplaint::stop;
         return Script::runScript(panel, panel, {.place = Script::Place::inWindow},
-                                 QFile::encodeName(options.script).toStdString(), atComplaint,
+                                 nativeName(options.script), atComplaint,
                                  [&window](int descriptor) { live(window, descriptor); });
     } catch (const WindowClosed&) {
         return Script::done;
     } catch (const std::exception& failure) {
-        std::fprintf(stderr, "marvane-manager: %s\n", failure.what());
-        return Script::cannotRun;
+        return complain(failure);
     }
 }
 

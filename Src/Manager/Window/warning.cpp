@@ -10,14 +10,15 @@ constexpr auto kReadable = "#qt_msgbox_informativelabel { min-width: 22em; }";
 
 }  // namespace
 
-void showWarning(QWidget& window, const QString& title, const QString& text,
-                 const QString& details) {
+QDialog& showWarning(QWidget& window, const QString& title, const QString& text,
+                     const QString& details) {
     auto* box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &window);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(details);
     box->setStyleSheet(kReadable);
     box->open();
+    return *box;
 }
 
 }  // namespace Orvo::Manager

@@ -1,6 +1,9 @@
+#include <stdexcept>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -34,14 +37,15 @@ void ManagerWindow::save(const SavedFile& file) {
 }
 
 void ManagerWindow::write(const SavedFile& file, const QString& path) {
-    const QString error = Manager::write(path, file.content);
-    const QString place = QDir::toNativeSeparators(path);
-    if (!error.isEmpty()) {
-        return showWarning(*this, "Not saved", "The " + file.what + " could not be saved.",
-                           place + ": " + error);
+    try {
+        Manager::write(path, file.content, Script::Existing::overwritten);
+    } catch (const std::runtime_error& failure) {
+        showWarning(*this, "Not saved", "The " + file.what + " could not be saved.",
+                    QFile::decodeName(failure.what()));
+        return;
     }
     savedDirectory_ = QFileInfo(path).absolutePath();
-    statusLine_->say("Saved " + place);
+    statusLine_->say("Saved " + QDir::toNativeSeparators(path));
 }
 
 void ManagerWindow::savePicture() {

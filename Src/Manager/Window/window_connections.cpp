@@ -12,8 +12,6 @@ namespace {
 
 constexpr int kDialogWidth = 420;
 
-std::string nativeName(const QString& file) { return QFile::encodeName(file).toStdString(); }
-
 }  // namespace
 
 void ManagerWindow::connectLink(const LinkAddress& address) {
@@ -46,20 +44,28 @@ void ManagerWindow::askForLink() {
     dialog->open();
 }
 
-void ManagerWindow::askForSession(FileQuestion question, UseOfSession use) {
+void ManagerWindow::askForSession(FileQuestion question, UseOfSession use,
+                                  const std::function<void()>& otherwise) {
     question.kind = "Sessions in panel script";
     question.ending = "txt";
     question.directory = sessionDirectory_;
-    askForFile(*this, question, [this, use](const QString& file) {
+    const auto useFile = [this, use](const QString& file) {
         sessionDirectory_ = QFileInfo(file).absolutePath();
         (session_.*use)(nativeName(file));
         refresh();
-    });
+    };
+    askForFile(*this, question, useFile, otherwise);
 }
 
 void ManagerWindow::askForRecording() {
     askForSession({.title = "Record the session", .name = dated("marvane-session.txt")},
                   &ManagerSession::startRecording);
+}
+
+void ManagerWindow::askToGoOnRecording() {
+    if (!session_.hasRecordingStopped()) return;
+    askForSession({.title = "Go on recording", .name = dated("marvane-session.txt")},
+                  &ManagerSession::continueRecording, [this] { session_.stopRecording(); });
 }
 
 void ManagerWindow::askForReplay() {

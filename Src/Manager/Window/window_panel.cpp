@@ -1,5 +1,8 @@
 #include "Manager/Window/window_panel.h"
 
+#include <stdexcept>
+#include <system_error>
+
 #include <QAbstractButton>
 
 #include "Manager/Window/files.h"
@@ -33,8 +36,14 @@ bool isTyped(const Runtime::Deed& deed) { return deed.verb == Verb::key && deed.
 }  // namespace
 
 void WindowPanel::shoot(const String& file) {
-    const QString error = write(Window::toQt(file), toPng(pictureOf(window_)));
-    if (!error.isEmpty()) throw Error(75, "Path/File access error");
+    try {
+        write(Window::toQt(file), toPng(pictureOf(window_)), existing_);
+    } catch (const std::system_error& failure) {
+        if (failure.code() == std::errc::file_exists) throw Error(58, "File already exists");
+        throw Error(75, "Path/File access error");
+    } catch (const std::runtime_error&) {
+        throw Error(75, "Path/File access error");
+    }
 }
 
 void WindowPanel::perform(const Runtime::Deed& deed) {

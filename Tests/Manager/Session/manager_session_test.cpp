@@ -18,8 +18,9 @@ protected:
         session_.emplace(owner_, owner_, settings, *this);
     }
 
-    void say(const std::string&) override {}
+    void say(const std::string& message) override { said_ = message; }
     void warn(const Failure& failure) override { warnings_.push_back(failure.details); }
+    void recordingStopped(const Failure& failure) override { warn(failure); }
 
     void replay(const std::string& script) {
         std::ofstream(file_) << script;
@@ -39,6 +40,7 @@ protected:
     TemporaryDirectory directory_;
     std::string file_ = directory_.path() / "session.txt";
     std::vector<std::string> warnings_;
+    std::string said_;
     std::optional<ManagerSession> session_{std::in_place, owner_, owner_, SessionSettings{}, *this};
 };
 
@@ -149,6 +151,56 @@ TEST_F(SessionTest, WhatCannotBeRecordedOrReplayedIsToldAndChangesNothing) {
     EXPECT_NE(session_->simulator(), nullptr);
     EXPECT_EQ(&store(), before);
     EXPECT_THROW(begin({.record = "/no/such/place"}), std::system_error);
+    directory_.add({"session.txt = kept"});
+    EXPECT_THROW(begin({.record = file_}), std::system_error);
+    EXPECT_EQ(textIn(file_), "kept");
+}
+
+TEST_F(SessionTest, ARecordingWhoseFileIsGoneIsToldOnceAndGoesOnInAnother) {
+    session_->startRecording(file_);
+    session_->letPass(1s);
+    std::filesystem::remove(file_);
+    for (int i = 0; i < 3; ++i) session_->letPass(1s);
+    EXPECT_EQ(warnings_, std::vector<std::string>{file_ + ": The file was removed"});
+    EXPECT_TRUE(session_->hasRecordingStopped());
+    EXPECT_FALSE(session_->isRecording());
+    click(channel(1).muteButton);
+    session_->continueRecording(directory_.path());
+    EXPECT_EQ(warnings_.back(), directory_.path().string() + ": Is a directory");
+    session_->continueRecording(file_);
+    EXPECT_TRUE(session_->isRecording());
+    session_->letPass(1s);
+    session_->stopRecording();
+    EXPECT_EQ(said_, "The session is recorded");
+    EXPECT_TRUE(textIn(file_).ends_with("wait 4000\nclick Command12\n# event Mute 1\nwait 1000\n"));
+}
+
+TEST_F(SessionTest, WhatIsNotRecordedIsNotSaidToBe) {
+    session_->startRecording(file_);
+    std::filesystem::remove(file_);
+    said_.clear();
+    session_->stopRecording();
+    EXPECT_EQ(said_, "");
+    EXPECT_EQ(warnings_, std::vector<std::string>{file_ + ": The file was removed"});
+}
+
+TEST_F(SessionTest, WhatCannotBeReplayedInTimeOrWithoutHarmEndsAReplay) {
+    const std::string picture = directory_.path() / "picture.png";
+    const std::pair<std::string, const char*> rows[] = {
+        {"shot \"" + picture + "\"\n", "session.txt:1:1: shot is not for here"},
+        {"on Mute shot \"" + picture + "\"\n", "session.txt:1:9: shot is not for here"},
+        {'#' + std::string(3'000'000, 'x') + "\nclick Command12\n",
+         "session.txt:1:1: the line is too long"},
+        {"let TimerVirtualTemp12 true\nmeanwhile wait 2147483647\nclick Command12\n", ""},
+    };
+    for (const auto& [script, complaint] : rows) {
+        warnings_.clear();
+        replay(script);
+        letReplayEnd();
+        ASSERT_EQ(warnings_.size(), 1U) << complaint;
+        EXPECT_TRUE(warnings_[0].starts_with(complaint)) << warnings_[0];
+    }
+    EXPECT_FALSE(std::filesystem::exists(picture));
 }
 
 TEST_F(SessionTest, ARecordingStaysReadOnlyAndOnItsTab) {

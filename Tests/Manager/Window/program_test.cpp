@@ -4,6 +4,7 @@
 #include <QProcess>
 
 #include "Orvo/store/store.h"
+#include "Support/approved.h"
 #include "Support/temporary_directory.h"
 
 namespace Orvo::Manager {
@@ -53,6 +54,7 @@ TEST_F(ProgramTest, WithoutADisplayItLeavesAPictureOfEachTab) {
 }
 
 TEST_F(ProgramTest, ARecordedDemonstrationIsRepeatedAlike) {
+    directory_.add({"build/"});
     ASSERT_EQ(run({"--record", "session.txt", "--zoom", "50"}).status, 0);
     const Outcome outcome = run({"--script", "session.txt"});
     EXPECT_EQ(outcome.status, 0) << outcome.error.toStdString();
@@ -74,6 +76,23 @@ TEST_F(ProgramTest, WhatCannotBeUnderstoodReadOrWrittenEndsIt) {
     const Outcome record = run({"--record", "no/such/directory"});
     EXPECT_NE(record.status, 0);
     EXPECT_TRUE(record.error.contains("no/such/directory"));
+    EXPECT_EQ(run({"--script", "."}).error, "marvane-manager: .: Is a directory\n");
+}
+
+TEST_F(ProgramTest, OverwritesNoFileUnasked) {
+    directory_.add({"there.png = kept", "script = shot there.png\n", "target = kept",
+                    "build/marvane-common.png -> target"});
+    const auto kept = [this](const char* file) {
+        return Tests::textIn(directory_.path() / file) == "kept";
+    };
+    EXPECT_EQ(run({"--record", "there.png"}).error,
+              "marvane-manager: there.png: File exists (--overwrite replaces it)\n");
+    EXPECT_EQ(run({"--script", "script"}).out, "! 58 File already exists\n");
+    EXPECT_TRUE(kept("there.png"));
+    EXPECT_EQ(run({"--script", "script", "--overwrite"}).out, "ok\n");
+    EXPECT_FALSE(kept("there.png"));
+    EXPECT_TRUE(run({}).error.contains("marvane-common.png: Symbolic links are not followed"));
+    EXPECT_TRUE(kept("target"));
 }
 
 TEST_F(ProgramTest, AComplaintEndsAScriptWithItsPlace) {

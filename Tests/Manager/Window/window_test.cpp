@@ -3,7 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
-#include <QFile>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenuBar>
@@ -13,7 +13,6 @@
 #include <QScrollBar>
 #include <QTimer>
 
-#include "Manager/Window/files.h"
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/pictures.h"
 #include "Manager/Window/shortcuts.h"
@@ -131,6 +130,19 @@ TEST_F(WindowTest, TellsOfARecordingOnAFreshPanelAndOfOneThatCannotBe) {
     EXPECT_TRUE(window_.windowTitle().contains("Recording: "));
     EXPECT_EQ(label("Message"), "Recording from a fresh start to session.txt");
     EXPECT_TRUE(window_.panelWidget().control(Layout::kTabs)->isVisible());
+    std::filesystem::remove(directory.path() / "session.txt");
+    window_.session().letPass(1s);
+    EXPECT_TRUE(window_.windowTitle().startsWith("Recording stopped: "));
+    EXPECT_TRUE(label("Message").contains("The file was removed"));
+    auto* box = window_.findChild<QMessageBox*>();
+    EXPECT_TRUE(box->informativeText().contains("The file was removed"));
+    box->accept();
+    auto* dialog = window_.findChild<QFileDialog*>();
+    ASSERT_NE(dialog, nullptr) << "another file is offered";
+    dialog->reject();
+    window_.refresh();
+    EXPECT_FALSE(window_.windowTitle().contains("Recording"));
+    delete box;
     window_.session().startRecording("/no/such/place");
     EXPECT_TRUE(window_.findChild<QMessageBox*>()->informativeText().contains("/no/such/place"));
 }
@@ -238,16 +250,6 @@ TEST_F(WindowTest, ClosingEndsEveryDialog) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_FALSE(dialog && dialog->isVisible()) << name;
     }
-}
-
-TEST(Files, WritesTheWholeFileOrSaysWhyNot) {
-    const Tests::TemporaryDirectory directory;
-    const QString path = QString::fromStdString(directory.path() / "trace.csv");
-    EXPECT_EQ(write(path, "1,2\n"), "");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), "1,2\n");
-    EXPECT_NE(write(path + "/below-a-file", "1"), "");
 }
 
 }  // namespace
