@@ -36,16 +36,18 @@ TEST(QueueListing, ReadsWhatIsOfUse) {
         std::string answer;
         Lines ports;
     };
-    std::string depth;
+    const std::string kMemberName = attribute('\x4a', "", "printer-name");
+    const std::string kCollection = attribute('\x34', "", "");
+    std::string depth = '\4' + kName + attribute('\x34', "a", "");
     for (int i = 0; i < 50'000; ++i) {
-        depth += attribute('\x4a', "", "printer-name") + attribute('\x34', "", "");
+        depth.append(kMemberName).append(kCollection);
     }
+    std::string elsewhere = '\2' + kName;
+    elsewhere.append("\5").append(kName);
     for (const auto& [label, answer, ports] :
          {Case{"two queues", kTwoQueues, {kBench, "label, , , 1"}},
-          Case{"collections in collections",
-               answer(0, '\4' + kName + attribute('\x34', "a", "") + depth),
-               {"bench, , , 1"}},
-          Case{"other groups", answer(0, '\2' + kName + '\5' + kName), {}},
+          Case{"collections in collections", answer(0, depth), {"bench, , , 1"}},
+          Case{"other groups", answer(0, elsewhere), {}},
           Case{"groups of nothing", answer(0, std::string(50'000, '\4')), {}},
           Case{"no queues", answer(0x0406, '\4' + kName), {}}}) {
         const auto queues = Runtime::queuesIn(answer);
