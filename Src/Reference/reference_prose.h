@@ -74,7 +74,7 @@ String or an array as they are; a 16-bit number for a Boolean is passed on uncha
 
 A command that `on` is given has to be understood at that time. A handler that `off` or `new`
 forgets while its event is being raised doesn't run any more; one that is added then runs from the
-next event on. An event has 100 handlers at most; error 7, Out of memory, beyond.
+next event on. All handlers have 16 MiB of memory; error 7, Out of memory, beyond.
 
 )";
 
@@ -167,11 +167,9 @@ A device or a program at the other end of a link may send only the commands of t
 others are answered with `?`, also where they stand in an `on`: whoever drives the panel from outside
 can neither press its buttons nor answer its prompts.
 
-`new` gives a fresh panel there too, in the same window; a program that was started to be watched
-only keeps it so. What `on` has said is forgotten then, and when the link breaks. A line above
-260 KiB, which the longest trace stays below, is answered with one `?` and dropped as a whole;
-whoever leaves more than 1 MiB of answers and events unread is cut off. A pipe carries commands
-only.
+`new` gives a fresh panel there too, in the same window. What `on` has said is forgotten then, and
+when the link breaks. A pipe carries commands only. [One table](link.md) has all that a device may do
+and may not.
 )";
 
 constexpr std::string_view kInterfaceIntroduction = R"(# The panel's interface

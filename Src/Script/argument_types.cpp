@@ -43,10 +43,13 @@ Value lateBound(const Word& word, const Member* member, std::size_t position) {
     return naturalLiteral(word);
 }
 
+// Of arguments that are more than any member takes, one too many says all.
 std::vector<Value> takeNatural(Arguments& arguments, const Member* member) {
+    constexpr std::size_t kMost = std::tuple_size_v<decltype(Member::parameterSlots)> + 1;
     std::vector<Value> values;
     while (!arguments.isAtEnd()) {
-        values.push_back(lateBound(arguments.take(kArgument), member, values.size()));
+        Value value = lateBound(arguments.take(kArgument), member, values.size());
+        if (values.size() < kMost) values.push_back(std::move(value));
     }
     return values;
 }

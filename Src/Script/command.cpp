@@ -13,6 +13,11 @@ using Verb = Runtime::Deed::Verb;
 // Commands that stand in one another: "on EVENT on EVENT …".
 constexpr std::size_t kDeepestNesting = 64;
 
+// Of what is kept of a command: two bytes for a character of its text, and what goes with the
+// least.
+constexpr std::size_t kBytesPerCharacter = 2;
+constexpr std::size_t kLeastKept = 1024;
+
 std::vector<std::string_view> commandNames(const Grammar& grammar) {
     std::vector<std::string_view> names;
     for (const Command& command : kCommands) {
@@ -87,8 +92,11 @@ ParsedCommand Arguments::takeCommand() {
     }
     Arguments rest(words_, grammar_, depth_ + 1);
     rest.end_ = end_;
+    const std::size_t length = words_.empty() ? 0 : end_ - words_.front().offset;
     words_ = {};
-    return parseRest(rest);
+    ParsedCommand command = parseRest(rest);
+    command.size = kLeastKept + kBytesPerCharacter * length;
+    return command;
 }
 
 std::span<const Command> allCommands() { return kCommands; }

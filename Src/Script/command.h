@@ -17,9 +17,13 @@ namespace Orvo::Script {
 
 class Session;
 
-/// A command with its arguments, to be carried out now or when an event is raised: its closing
-/// line. Throws Error for "!", and Misunderstood for "?".
-using ParsedCommand = std::function<std::string(Session&)>;
+/// A command with its arguments, to be carried out now or when an event is raised.
+struct ParsedCommand {
+    /// Its closing line. Throws Error for "!", and Misunderstood for "?".
+    std::function<std::string(Session&)> carryOut;
+    /// What it takes to keep it, in bytes; only of a command within a command.
+    std::size_t size = 0;
+};
 
 /// Whose commands these are.
 enum class Side : std::uint8_t { host, person, looking };

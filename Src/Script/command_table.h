@@ -39,10 +39,10 @@ std::string carryOut(Session& session, const Values&... values) {
 // Braces, so that the values are taken from left to right.
 template <auto kFunction, const auto&... kArguments>
 ParsedCommand parseCommand([[maybe_unused]] Arguments& arguments) {
-    return [values = std::tuple{kArguments.take(arguments)...}](Session& session) {
+    return {[values = std::tuple{kArguments.take(arguments)...}](Session& session) {
         return std::apply(
             [&](const auto&... value) { return carryOut<kFunction>(session, value...); }, values);
-    };
+    }};
 }
 
 template <auto kFunction, const auto&... kArguments>
@@ -80,10 +80,10 @@ template <Runtime::Deed::Verb kVerb, const auto&... kArguments>
 ParsedCommand parseDeed(Arguments& arguments) {
     Runtime::Deed deed{.verb = kVerb, .widget = Layout::kTabs.id};
     (take(deed, kArguments, arguments), ...);
-    return [deed = std::move(deed)](Session& session) {
+    return {[deed = std::move(deed)](Session& session) {
         session.perform(deed);
         return ok();
-    };
+    }};
 }
 
 inline std::string wordOf(WidgetId widget) {

@@ -6,6 +6,7 @@
 namespace Orvo::Script::HostSide {
 
 std::string call(Session& session, const Call& call) {
+    session.permit(call);
     const InvokeResult result =
         session.owner().panel().invoke(call.dispatchId, call.kind, call.arguments);
     if (result.error) throw Error(*result.error);

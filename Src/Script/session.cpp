@@ -11,9 +11,6 @@ namespace {
 // How deep handlers may start one another before the script runs out of stack space.
 constexpr std::size_t kDeepest = 64;
 
-// For each event: a link that never ends must not fill the memory.
-constexpr std::size_t kMostHandlers = 100;
-
 Error outOfStackSpace() { return {28, "Out of stack space"}; }
 
 std::string failure(const Error& error) { return "! " + textOf(error); }
@@ -45,7 +42,7 @@ private:
 class Session::Midst {
 public:
     explicit Midst(Session& session) : session_(session) {
-        if (session_.depth_++ == 0) session_.isExhausted_ = false;
+        if (session_.depth_++ == 0) session_.startAnswer();
     }
     ~Midst() { --session_.depth_; }
     Midst(const Midst&) = delete;
@@ -55,10 +52,11 @@ private:
     Session& session_;
 };
 
-Session::Session(PanelOwner& owner, Person* person, const Grammar& grammar, Output output,
-                 UnawaitedErrors errors)
+Session::Session(PanelOwner& owner, Person* person, Supervisor* supervisor, const Grammar& grammar,
+                 Output output, UnawaitedErrors errors)
     : owner_(owner),
       person_(person),
+      supervisor_(supervisor),
       grammar_(grammar),
       output_(std::move(output)),
       errors_(errors),
@@ -68,10 +66,11 @@ Session::Session(PanelOwner& owner, Person* person, const Grammar& grammar, Outp
 
 Session::Session(PanelOwner& owner, Person& person, const Grammar& grammar, Output output,
                  UnawaitedErrors errors)
-    : Session(owner, &person, grammar, std::move(output), errors) {}
+    : Session(owner, &person, nullptr, grammar, std::move(output), errors) {}
 
-Session::Session(PanelOwner& owner, const Grammar& grammar, Output output)
-    : Session(owner, nullptr, grammar, std::move(output), UnawaitedErrors::areTheOwners) {}
+Session::Session(PanelOwner& owner, Supervisor& supervisor, const Grammar& grammar, Output output)
+    : Session(owner, nullptr, &supervisor, grammar, std::move(output),
+              UnawaitedErrors::areTheOwners) {}
 
 Session::~Session() {
     if (person_ != nullptr) person_->store().promptWith(prompterBefore_);
@@ -105,13 +104,27 @@ std::optional<Misunderstood> Session::run(std::string_view text) {
 
 void Session::row(std::string_view text) { line("- " + std::string(text)); }
 
+void Session::permit(const Call& call) const {
+    if (supervisor_ != nullptr) supervisor_->permit(call);
+}
+
+void Session::expectRoomFor(std::size_t bytes) const {
+    const std::size_t elsewhere = supervisor_ != nullptr ? supervisor_->keptElsewhere() : 0;
+    if (kept_ + elsewhere + bytes > kMostKept) throw Errors::outOfMemory();
+}
+
 void Session::remember(const Event& event, ParsedCommand command) {
-    if (handlersOf(event).size() == kMostHandlers) throw Errors::outOfMemory();
+    const std::size_t size = command.size;
+    expectRoomFor(size);
     handlersOf(event).push_back(std::make_shared<Handler>(Handler{std::move(command)}));
+    kept_ += size;
 }
 
 void Session::forget(const Event& event) {
-    for (const auto& handler : handlersOf(event)) handler->isForgotten = true;
+    for (const auto& handler : handlersOf(event)) {
+        handler->isForgotten = true;
+        kept_ -= handler->command.size;
+    }
     handlersOf(event).clear();
 }
 
@@ -130,6 +143,11 @@ void Session::renew() {
     forgetHandlers();
     queue_.clear();
     owner_.renew();
+}
+
+void Session::startAnswer() {
+    isExhausted_ = false;
+    if (supervisor_ != nullptr) end_ = supervisor_->now() + kLongestAnswer;
 }
 
 void Session::raised(const Event& event, std::span<const Value> arguments) {
@@ -184,18 +202,22 @@ std::optional<String> Session::queuedAnswer() {
     return answer ? answer->text : std::nullopt;
 }
 
+std::optional<Error> Session::exhaustion() const {
+    if (depth_ > kDeepest) return outOfStackSpace();
+    const bool isLate = depth_ > 0 && supervisor_ != nullptr && supervisor_->now() > end_;
+    return isLate ? std::optional(Errors::interrupted()) : std::nullopt;
+}
+
 void Session::perform(const ParsedCommand& command) {
-    if (depth_ > kDeepest) {
-        isExhausted_ = true;
-        return line(failure(outOfStackSpace()));
-    }
-    line(closingLine(command));
+    const auto error = exhaustion();
+    isExhausted_ = isExhausted_ || error;
+    line(error ? failure(*error) : closingLine(command));
 }
 
 std::string Session::closingLine(const ParsedCommand& command) {
     Frame frame(*this);
     try {
-        std::string closing = command(*this);
+        std::string closing = command.carryOut(*this);
         return frame.error ? failure(*frame.error) : closing;
     } catch (const Error& error) {
         return failure(error);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -17,6 +18,7 @@
 #include "Script/command.h"
 #include "Script/panel_owner.h"
 #include "Script/person.h"
+#include "Script/supervisor.h"
 
 namespace Orvo::Script {
 
@@ -27,6 +29,12 @@ enum class UnawaitedErrors : std::uint8_t { closeTheCommand, areTheOwners };
 /// answers as they arise, without line breaks.
 class Session final : private Runtime::Prompter {
 public:
+    /// What handlers may take in all, in bytes; under supervision with all else that is kept.
+    static constexpr std::size_t kMostKept = 1 << 24;
+    /// For how long handlers may answer one event, under supervision; what is left of them then
+    /// closes with error 18.
+    static constexpr std::chrono::milliseconds kLongestAnswer{25};
+
     using Output = std::function<void(std::string_view line)>;
 
     /// Plays both sides of the panel for as long as it lives: prompts are its own to answer.
@@ -34,7 +42,7 @@ public:
             UnawaitedErrors errors = UnawaitedErrors::closeTheCommand);
     /// Plays the host alone, with a grammar that knows no other side. Prompts and errors stay with
     /// the panel's owner.
-    Session(PanelOwner& owner, const Grammar& grammar, Output output);
+    Session(PanelOwner& owner, Supervisor& supervisor, const Grammar& grammar, Output output);
     ~Session() override;
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -51,6 +59,9 @@ public:
     [[nodiscard]] Person& person() const { return *person_; }
     /// One row of a listing.
     void row(std::string_view text);
+    void permit(const Call& call) const;
+    /// Throws error 7 when there is no room to keep so many bytes more.
+    void expectRoomFor(std::size_t bytes) const;
     void remember(const Event& event, ParsedCommand command);
     void forget(const Event& event);
     /// Of all events.
@@ -88,9 +99,10 @@ private:
     struct Resumption {};
     using Queued = std::variant<Answer, ParsedCommand, Resumption>;
 
-    Session(PanelOwner& owner, Person* person, const Grammar& grammar, Output output,
-            UnawaitedErrors errors);
+    Session(PanelOwner& owner, Person* person, Supervisor* supervisor, const Grammar& grammar,
+            Output output, UnawaitedErrors errors);
     void connect();
+    void startAnswer();
     void raised(const Event& event, std::span<const Value> arguments);
     void failed(const Error& error);
     std::optional<String> ask(const Widgets::Question& question) override;
@@ -102,6 +114,7 @@ private:
     template <class What>
     std::optional<What> takeQueued();
 
+    [[nodiscard]] std::optional<Error> exhaustion() const;
     void perform(const ParsedCommand& command);
     std::string closingLine(const ParsedCommand& command);
     std::string complaint(const Misunderstood& misunderstood);
@@ -109,16 +122,20 @@ private:
     Handlers& handlersOf(const Event& event);
 
     PanelOwner& owner_;
+    // One of the two.
     Person* const person_;
+    Supervisor* const supervisor_;
     const Grammar grammar_;
     const Output output_;
     const UnawaitedErrors errors_;
     Runtime::Prompter* prompterBefore_ = nullptr;
     std::array<Handlers, kEvents.size()> handlers_;
+    std::size_t kept_ = 0;  // bytes of handlers
     std::deque<Queued> queue_;
     Frame* frame_ = nullptr;
     std::size_t depth_ = 0;
     bool isExhausted_ = false;
+    std::chrono::steady_clock::time_point end_;  // of the answer to an event
     bool isChronological_ = false;
     bool hasQuit_ = false;
     std::optional<Misunderstood> firstComplaint_;

@@ -56,7 +56,7 @@ private:
             case 1:
                 return store().advance(std::chrono::milliseconds(below(4000)));
             case 2:
-                store().input().type(Layout::kCommon.log, 18);
+                store().perform(Runtime::Deed::key(Layout::kCommon.log, 18));
                 return;
             default:
                 return doSomething();

@@ -13,13 +13,20 @@ using namespace Orvo::Script;
 
 using Lines = std::vector<std::string>;
 
+struct Unbounded final : Supervisor {
+    void permit(const Call&) override {}
+    std::size_t keptElsewhere() const override { return 0; }
+    std::chrono::steady_clock::time_point now() override { return {}; }
+};
+
 struct SessionTest : testing::Test {
     Lines answersTo(std::string_view line, Grammar::Speaker speaker = Grammar::Speaker::anyone) {
         Lines answers;
         const auto keep = [&](std::string_view answer) { answers.emplace_back(answer); };
         const Grammar grammar{.speaker = speaker};
         if (speaker == Grammar::Speaker::device) {
-            Session(panel, grammar, keep).run(line);
+            Unbounded supervisor;
+            Session(panel, supervisor, grammar, keep).run(line);
         } else {
             Session(panel, panel, grammar, keep).run(line);
         }

@@ -30,6 +30,8 @@ public:
     /// beginning of a line are ever kept.
     void add(std::string_view bytes) { buffer_ += bytes; }
     std::optional<Line> next();
+    /// Of what has not become a line yet, in bytes.
+    [[nodiscard]] std::size_t size() const { return buffer_.size(); }
 
 private:
     std::size_t longest_ = kLongestLine;  // bytes

@@ -5,6 +5,8 @@
 #include <system_error>
 #include <utility>
 
+#include "Orvo/layout/roles.h"
+
 namespace Orvo::Manager {
 namespace {
 
@@ -17,6 +19,14 @@ constexpr std::size_t kPiece = 16384;  // bytes
 // Whoever is behind with reading is not asked what else there is to answer.
 constexpr std::size_t kMuchUnread = 65536;  // bytes
 
+constexpr const Member& kReadOnlyLet = memberNamed<Boolean>("ReadOnly");
+constexpr const Member& kAddToLog = memberNamed<String>("AggiugiTesto");
+
+template <class Type>
+Type argument(const Script::Call& call, const Member& member) {
+    return std::get<Type>(convertArguments(member, call.arguments).front());
+}
+
 std::string troubleOf(std::error_code reason) {
     if (reason == std::errc::no_such_file_or_directory) return "not there";
     const bool isOfAnotherKind = reason == std::errc::inappropriate_io_control_operation;
@@ -25,11 +35,13 @@ std::string troubleOf(std::error_code reason) {
 
 }  // namespace
 
-LinkDevice::LinkDevice(Script::PanelOwner& owner, LinkAddress address, Clock clock)
+LinkDevice::LinkDevice(Script::PanelOwner& owner, LinkAddress address, ReadOnlyLock isLocked,
+                       Clock clock)
     : owner_(owner),
       address_(std::move(address)),
+      isLocked_(std::move(isLocked)),
       clock_(std::move(clock)),
-      session_(owner, kGrammar, [this](std::string_view line) { say(line); }) {
+      session_(owner, *this, kGrammar, [this](std::string_view line) { say(line); }) {
     owner_.panel().Connected(false);
 }
 
@@ -49,6 +61,25 @@ void LinkDevice::advance(std::chrono::milliseconds elapsed) {
     listen();
     isListening_ = false;
     if (isBroken_) close();
+}
+
+// The arguments are what the panel makes of them, which has its own errors for others.
+void LinkDevice::permit(const Script::Call& call) {
+    const Member& member = findMember(call.dispatchId, call.kind);
+    if (&member == &kReadOnlyLet && isLocked_()) {
+        const bool isKept = argument<Boolean>(call, member) == Boolean(true);
+        if (!isKept) throw Errors::permissionDenied();
+    }
+    if (&member == &kAddToLog) {
+        session_.expectRoomFor(sizeof(String) +
+                               sizeof(char16_t) * argument<String>(call, member).size());
+    }
+}
+
+std::size_t LinkDevice::keptElsewhere() const {
+    const auto& log = owner_.store().get<Runtime::StoredList>(Layout::kCommon.log).state();
+    return lines_.size() + unsent_.size() + log.items.size() * sizeof(String) +
+           log.text * sizeof(char16_t);
 }
 
 void LinkDevice::tryToOpen() {

@@ -18,10 +18,12 @@ namespace Orvo::Manager {
 /// and is answered in it. It says itself what the panel shows, `Connected` included; when the link
 /// breaks the panel shows that, what `on` has said is forgotten, and the link is tried again.
 ///
-/// Nothing that the other side does holds up the window: it is heard for a moment at a time, a line
-/// beyond LineSplitter::kLongestLine is refused as a whole, and whoever doesn't read the answers is
-/// cut off.
-class LinkDevice final : public Device {
+/// Nothing that the other side does holds up the window: it is heard for a moment at a time, what
+/// it answers an event with is ended, a line beyond LineSplitter::kLongestLine is refused as a
+/// whole, and whoever doesn't read the answers is cut off. All that is kept of what it said, the
+/// panel's message log included, has Session::kMostKept bytes; error 7 beyond. What the person in
+/// front has made read-only stays so: error 70.
+class LinkDevice final : public Device, private Script::Supervisor {
 public:
     static constexpr std::chrono::milliseconds kBetweenTries{1000};
     static constexpr std::size_t kMostUnread = 1 << 20;  // bytes
@@ -29,7 +31,10 @@ public:
     /// What the time is by which the other side is heard for a moment.
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
-    LinkDevice(Script::PanelOwner& owner, LinkAddress address,
+    /// Whether the panel is to stay read-only, whoever calls.
+    using ReadOnlyLock = std::function<bool()>;
+
+    LinkDevice(Script::PanelOwner& owner, LinkAddress address, ReadOnlyLock isLocked,
                Clock clock = std::chrono::steady_clock::now);
 
     [[nodiscard]] std::string name() const override;
@@ -39,6 +44,10 @@ public:
     }
 
 private:
+    void permit(const Script::Call& call) override;
+    [[nodiscard]] std::size_t keptElsewhere() const override;
+    [[nodiscard]] std::chrono::steady_clock::time_point now() override { return clock_(); }
+
     void tryToOpen();
     void close();
     void listen();
@@ -49,6 +58,7 @@ private:
 
     Script::PanelOwner& owner_;
     const LinkAddress address_;
+    const ReadOnlyLock isLocked_;
     const Clock clock_;
     // Hears the panel's events from the beginning, as every device does.
     Script::Session session_;

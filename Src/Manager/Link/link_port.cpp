@@ -23,63 +23,69 @@ int checked(int result, const LinkAddress& address) {
     return result;
 }
 
-int openFile(const LinkAddress& address, int mode) {
-    return checked(::open(address.path.c_str(), mode | O_NONBLOCK | O_NOCTTY | O_CLOEXEC), address);
+// What has come into the place of what was looked at is not what was meant.
+OpenFile openFile(const LinkAddress& address, const struct stat& meant, int mode) {
+    OpenFile file(
+        checked(::open(address.path.c_str(), mode | O_NONBLOCK | O_NOCTTY | O_CLOEXEC), address));
+    struct stat found {};
+    checked(::fstat(file.number(), &found), address);
+    if (found.st_mode != meant.st_mode || found.st_ino != meant.st_ino) fail(ENOTTY, address);
+    return file;
 }
 
-int connectTo(const LinkAddress& address) {
+OpenFile connectTo(const LinkAddress& address) {
     sockaddr_un name{};
     name.sun_family = AF_UNIX;
     if (address.path.size() >= sizeof name.sun_path) fail(ENAMETOOLONG, address);
     std::memcpy(name.sun_path, address.path.c_str(), address.path.size());
-    const int descriptor =
-        checked(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0), address);
+    OpenFile socket(
+        checked(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0), address));
     const auto* generic = reinterpret_cast<const sockaddr*>(&name);  // the interface's own way
-    if (::connect(descriptor, generic, sizeof name) == 0) return descriptor;
-    const int error = errno;
-    ::close(descriptor);
-    fail(error, address);
+    checked(::connect(socket.number(), generic, sizeof name), address);
+    return socket;
+}
+
+void setUpTerminal(int terminal, const LinkAddress& address) {
+    termios settings{};
+    checked(::tcgetattr(terminal, &settings), address);
+    ::cfmakeraw(&settings);
+    settings.c_cflag |= CLOCAL | CREAD;
+    if (address.speed) ::cfsetspeed(&settings, speedConstant(*address.speed).value());
+    checked(::tcsetattr(terminal, TCSANOW, &settings), address);
 }
 
 bool isPassing(int error) { return error == EAGAIN || error == EWOULDBLOCK || error == EINTR; }
 
 }  // namespace
 
+OpenFile::~OpenFile() {
+    if (number_ >= 0) ::close(number_);
+}
+
 LinkPort::LinkPort(const LinkAddress& address) {
     struct stat file {};
     checked(::stat(address.path.c_str(), &file), address);
     if (S_ISSOCK(file.st_mode)) {
         kind_ = Kind::socket;
-        descriptor_ = connectTo(address);
+        file_ = connectTo(address);
     } else if (S_ISFIFO(file.st_mode)) {
         kind_ = Kind::pipe;
-        descriptor_ = openFile(address, O_RDONLY);
+        file_ = openFile(address, file, O_RDONLY);
     } else if (S_ISCHR(file.st_mode)) {
-        descriptor_ = openFile(address, O_RDWR);
-        setUpTerminal(address);
+        file_ = openFile(address, file, O_RDWR);
+        setUpTerminal(file_.number(), address);
     } else {
         fail(ENOTTY, address);
     }
 }
 
-LinkPort::~LinkPort() { ::close(descriptor_); }
-
-// The destructor of what isn't made doesn't run.
-void LinkPort::setUpTerminal(const LinkAddress& address) const {
-    termios settings{};
-    bool isDone = ::tcgetattr(descriptor_, &settings) == 0;
-    ::cfmakeraw(&settings);
-    settings.c_cflag |= CLOCAL | CREAD;
-    if (address.speed) ::cfsetspeed(&settings, speedConstant(*address.speed).value());
-    isDone = isDone && ::tcsetattr(descriptor_, TCSANOW, &settings) == 0;
-    if (isDone) return;
-    const int error = errno;
-    ::close(descriptor_);
-    fail(error, address);
+// To close a serial device may wait for what it has not sent.
+LinkPort::~LinkPort() {
+    if (kind_ == Kind::terminal) ::tcflush(file_.number(), TCOFLUSH);
 }
 
 std::optional<std::size_t> LinkPort::read(std::span<char> bytes) {
-    const ssize_t count = ::read(descriptor_, bytes.data(), bytes.size());
+    const ssize_t count = ::read(file_.number(), bytes.data(), bytes.size());
     if (count > 0) {
         hasHeard_ = true;
         return static_cast<std::size_t>(count);
@@ -92,8 +98,8 @@ std::optional<std::size_t> LinkPort::read(std::span<char> bytes) {
 std::optional<std::size_t> LinkPort::write(std::string_view bytes) {
     if (kind_ == Kind::pipe) return bytes.size();
     const ssize_t count = kind_ == Kind::socket
-                              ? ::send(descriptor_, bytes.data(), bytes.size(), MSG_NOSIGNAL)
-                              : ::write(descriptor_, bytes.data(), bytes.size());
+                              ? ::send(file_.number(), bytes.data(), bytes.size(), MSG_NOSIGNAL)
+                              : ::write(file_.number(), bytes.data(), bytes.size());
     if (count >= 0) return static_cast<std::size_t>(count);
     if (isPassing(errno)) return 0;
     return std::nullopt;

@@ -46,7 +46,12 @@ void ManagerSession::serveFreshPanels() {
 
 void ManagerSession::takeFreshPanel() {
     listenToErrors();
-    if (settings_.isReadOnly && !isReplaying()) setReadOnly(true);
+    if (isKeptReadOnly_ && !isReplaying()) owner_.panel().ReadOnly(true);
+}
+
+void ManagerSession::setReadOnly(bool isReadOnly) {
+    isKeptReadOnly_ = isReadOnly;
+    owner_.panel().ReadOnly(isReadOnly);
 }
 
 void ManagerSession::listenToErrors() {
@@ -86,7 +91,9 @@ void ManagerSession::connectSimulator(Simulator::PowerAtStart power) {
 
 void ManagerSession::connectLink(const LinkAddress& address) {
     stopReplay();
-    station_.connect([this, address] { return std::make_unique<LinkDevice>(owner_, address); });
+    station_.connect([this, address] {
+        return std::make_unique<LinkDevice>(owner_, address, [this] { return isKeptReadOnly_; });
+    });
 }
 
 void ManagerSession::connectNothing() {
@@ -113,7 +120,7 @@ void ManagerSession::startRecording(const std::string& file) {
     recorder_ = std::make_unique<Script::Recorder>(std::move(*made), owner_, settings_.answers);
     serveFreshPanels();
     station_.startAnew();
-    if (wasReadOnly && !isReadOnly()) setReadOnly(true);
+    if (wasReadOnly && !isReadOnly()) owner_.panel().ReadOnly(true);
     owner_.store().perform(Runtime::Deed::tab(Layout::kTabs.id, tab));
     observer_.say("Recording from a fresh start to " + nameOf(file));
 }
@@ -173,7 +180,7 @@ void ManagerSession::startReplay(const std::string& file) {
 void ManagerSession::stopReplay() {
     if (!isReplaying()) return;
     station_.disconnect();
-    if (settings_.isReadOnly) setReadOnly(true);
+    if (isKeptReadOnly_) owner_.panel().ReadOnly(true);
     observer_.say("The replay is over");
 }
 

@@ -15,7 +15,7 @@ namespace Orvo::Manager {
 
 struct SessionSettings {
     std::uint32_t seed = 1;   ///< the simulator's
-    bool isReadOnly = false;  ///< fresh panels too, but for a replay's
+    bool isReadOnly = false;  ///< at first
     std::string record{};     ///< a file; empty: none
     Script::Existing existing = Script::Existing::refused;  ///< what has the file's name already
     Script::Answers answers = Script::Answers::asCancelled;
@@ -79,7 +79,9 @@ public:
     void stopReplay();
     [[nodiscard]] bool isReplaying() const { return replay() != nullptr; }
 
-    void setReadOnly(bool isReadOnly) { owner_.panel().ReadOnly(isReadOnly); }
+    /// As the person in front wants it: then no device ends it, nor does a fresh panel but for a
+    /// replay's.
+    void setReadOnly(bool isReadOnly);
     [[nodiscard]] bool isReadOnly() const;
 
     [[nodiscard]] Station& station() { return station_; }
@@ -101,6 +103,7 @@ private:
     bool hasStopped_ = false;
     Station station_;
     Connection renewals_;
+    bool isKeptReadOnly_ = false;             // as the person wants it
     std::chrono::milliseconds hourglass_{0};  // how long it has been there
 };
 

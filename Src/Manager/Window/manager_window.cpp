@@ -27,8 +27,10 @@ constexpr qint64 kLongestTick = 1000;
 
 ManagerWindow::ManagerWindow(const Options& options)
     : options_(options),
+      // Whoever plays the host here, a device or a session's file, may not make the window wait.
       // What is recorded must tick in the replay as it did here, and that can begin at any time.
-      panel_(new Window::PanelWidget(Runtime::machinePlatform(), this, Window::Clock::byHand)),
+      panel_(new Window::PanelWidget(Runtime::machinePlatform(Runtime::PrintServers::leftAlone),
+                                     this, Window::Clock::byHand)),
       zoomArea_(new ZoomArea(*panel_, this)),
       statusLine_(new StatusLine),
       owner_(*panel_),

@@ -1,16 +1,16 @@
 #include "Orvo/ports/print_server.h"
 
-#include <algorithm>
 #include <array>
 #include <future>
 #include <memory>
-#include <string_view>
+#include <mutex>
 #include <system_error>
 #include <thread>
 
 #include <cups/cups.h>
+#include <sys/socket.h>
 
-#include "Orvo/values/text.h"
+#include "Orvo/ports/queue_listing.h"
 
 namespace Orvo::Runtime {
 namespace {
@@ -22,17 +22,59 @@ struct Closing {
     void operator()(ipp_t* message) const { ippDelete(message); }
 };
 using Connection = std::unique_ptr<http_t, Closing>;
-using Response = std::unique_ptr<ipp_t, Closing>;
+using Request = std::unique_ptr<ipp_t, Closing>;
 
-constexpr auto kNetworkBackEnds = std::to_array<std::string_view>(
-    {"dnssd", "http", "https", "ipp", "ipps", "lpd", "smb", "socket"});
+// A conversation on a thread of its own, and how whoever waits for it ends it. The library counts
+// its time limits anew for each step, and a server that always has something to say never meets
+// one.
+class Inquiry {
+public:
+    std::optional<std::string> ask(const std::string& server, Milliseconds limit);
+    void end();
 
+private:
+    class Open;
+
+    std::mutex mutex_;
+    int socket_ = -1;
+    bool isOver_ = false;
+};
+
+// For as long as the connection's socket can be ended from outside: not once its number may be
+// another's.
+class Inquiry::Open {
+public:
+    Open(Inquiry& inquiry, http_t* connection) : inquiry_(inquiry) {
+        const std::lock_guard lock(inquiry_.mutex_);
+        if (!inquiry_.isOver_) inquiry_.socket_ = httpGetFd(connection);
+        isInTime = !inquiry_.isOver_;
+    }
+    ~Open() {
+        const std::lock_guard lock(inquiry_.mutex_);
+        inquiry_.socket_ = -1;
+    }
+    Open(const Open&) = delete;
+    Open& operator=(const Open&) = delete;
+
+    bool isInTime = false;  // NOLINT(*-non-private-member-variables-in-classes)
+
+private:
+    Inquiry& inquiry_;
+};
+
+void Inquiry::end() {
+    const std::lock_guard lock(mutex_);
+    isOver_ = true;
+    if (socket_ >= 0) ::shutdown(socket_, SHUT_RDWR);
+}
+
+bool mustEncrypt() { return cupsEncryption() == HTTP_ENCRYPTION_REQUIRED; }
+
+// Where encryption is asked for by a request, that comes once the connection can be ended.
 Connection connectTo(const std::string& host, int port, Milliseconds limit) {
-    const auto milliseconds = static_cast<int>(limit.count());
-    Connection connection(httpConnect2(host.c_str(), port, nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                       milliseconds, nullptr));
-    if (connection) httpSetTimeout(connection.get(), milliseconds / 1000.0, nullptr, nullptr);
-    return connection;
+    const auto encryption = mustEncrypt() ? HTTP_ENCRYPTION_IF_REQUESTED : cupsEncryption();
+    return Connection(httpConnect2(host.c_str(), port, nullptr, AF_UNSPEC, encryption, 1,
+                                   static_cast<int>(limit.count()), nullptr));
 }
 
 Connection connectTo(const std::string& server, Milliseconds limit) {
@@ -50,75 +92,70 @@ Connection connectTo(const std::string& server, Milliseconds limit) {
     return status == HTTP_URI_STATUS_OK ? connectTo(host.data(), port, limit) : Connection();
 }
 
-Response askForQueues(http_t* connection) {
+Request queueRequest() {
     static constexpr std::array kWanted{"printer-name", "device-uri", "printer-info"};
-    ipp_t* request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+    Request request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(kWanted.size()), nullptr, kWanted.data());
-    return Response(cupsDoRequest(connection, request, "/"));
+    return request;
 }
 
-void enter(PortRecord& port, std::string_view attribute, std::string_view value) {
-    if (attribute == "printer-name") {
-        port.PortName = fromUtf8(value);
-    } else if (attribute == "printer-info") {
-        port.Description = fromUtf8(value);
-    } else if (attribute == "device-uri") {
-        const std::string_view backEnd = value.substr(0, value.find(':'));
-        port.MonitorName = fromUtf8(backEnd);
-        if (std::ranges::find(kNetworkBackEnds, backEnd) != kNetworkBackEnds.end()) {
-            port.PortType |= PortSpooler::netAttached;
-        }
+// Step by step: all at once, the library connects anew as it sees fit, to where it isn't ended.
+bool send(http_t* connection, ipp_t* request) {
+    if (mustEncrypt() && httpEncryption(connection, HTTP_ENCRYPTION_REQUIRED) != 0) return false;
+    httpClearFields(connection);
+    httpSetField(connection, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+    httpSetLength(connection, ippLength(request));
+    return httpPost(connection, "/") == 0 && ippWrite(connection, request) == IPP_STATE_DATA;
+}
+
+// A server that wants a password, or to be asked another way or elsewhere, is one that refuses.
+bool isAnswered(http_t* connection) {
+    http_status_t status = HTTP_STATUS_CONTINUE;
+    while (status == HTTP_STATUS_CONTINUE) status = httpUpdate(connection);
+    return status == HTTP_STATUS_OK;
+}
+
+std::optional<std::string> body(http_t* connection) {
+    std::string bytes;
+    std::array<char, 4096> piece{};
+    ssize_t count = 0;
+    while ((count = httpRead2(connection, piece.data(), piece.size())) > 0) {
+        bytes.append(piece.data(), static_cast<std::size_t>(count));
+        if (bytes.size() > kLongestQueueAnswer) return std::nullopt;
     }
+    return count == 0 ? std::optional(bytes) : std::nullopt;
 }
 
-// Each printer is a group of attributes, with an attribute of no group between two of them.
-Ports portsIn(ipp_t* response) {
-    Ports ports;
-    bool isWithin = false;
-    for (auto* attribute = ippFirstAttribute(response); attribute != nullptr;
-         attribute = ippNextAttribute(response)) {
-        const bool wasWithin = isWithin;
-        isWithin = ippGetGroupTag(attribute) == IPP_TAG_PRINTER;
-        if (!isWithin) continue;
-        if (!wasWithin) ports.push_back({{}, {}, {}, PortSpooler::write});
-        const char* name = ippGetName(attribute);
-        const char* value = ippGetString(attribute, 0, nullptr);
-        if (name != nullptr && value != nullptr) enter(ports.back(), name, value);
-    }
-    return ports;
-}
-
-std::optional<Ports> lookUp(const std::string& server, Milliseconds limit) {
-    // A server that wants a password is one that refuses: the library would ask on the terminal.
-    cupsSetPasswordCB2([](const char*, http_t*, const char*, const char*,
-                          void*) -> const char* { return nullptr; },
-                       nullptr);
+std::optional<std::string> Inquiry::ask(const std::string& server, Milliseconds limit) {
     const Connection connection = connectTo(server, limit);
     if (!connection) return std::nullopt;
-    const Response response = askForQueues(connection.get());
-    if (!response) return std::nullopt;
-    const ipp_status_t status = ippGetStatusCode(response.get());
-    if (status == IPP_STATUS_ERROR_NOT_FOUND) return Ports();  // it has no queues
-    if (status >= IPP_STATUS_REDIRECTION_OTHER_SITE) return std::nullopt;
-    return portsIn(response.get());
+    const Open open(*this, connection.get());
+    const bool isAsked = open.isInTime && send(connection.get(), queueRequest().get());
+    if (!isAsked || !isAnswered(connection.get())) return std::nullopt;
+    return body(connection.get());
 }
 
 }  // namespace
 
-// The limits of the library count anew for each step, and the look-up of a host's name knows none.
-// A thread is its own world to the library besides, so that a host's own use of it is not touched.
+// The library's look-up of a host's name knows no limit. A thread is its own world to the library
+// besides, so that a host's own use of it is not touched.
 std::optional<Ports> printQueues(const std::string& server, Milliseconds limit) {
-    std::packaged_task<std::optional<Ports>()> task(
-        [server, limit] { return lookUp(server, limit); });
+    const auto inquiry = std::make_shared<Inquiry>();
+    std::packaged_task<std::optional<std::string>()> task(
+        [inquiry, server, limit] { return inquiry->ask(server, limit); });
     auto answer = task.get_future();
     try {
         std::thread(std::move(task)).detach();
     } catch (const std::system_error&) {
         return std::nullopt;
     }
-    if (answer.wait_for(limit) != std::future_status::ready) return std::nullopt;
-    return answer.get();
+    if (answer.wait_for(limit) != std::future_status::ready) {
+        inquiry->end();
+        return std::nullopt;
+    }
+    const auto bytes = answer.get();
+    return bytes ? queuesIn(*bytes) : std::nullopt;
 }
 
 }  // namespace Orvo::Runtime

@@ -29,6 +29,8 @@ inline Error overflow() { return {6, "Overflow"}; }
 inline Error outOfMemory() { return {7, "Out of memory"}; }
 inline Error subscriptOutOfRange() { return {9, "Subscript out of range"}; }
 inline Error typeMismatch() { return {13, "Type mismatch"}; }
+inline Error interrupted() { return {18, "User interrupt occurred"}; }
+inline Error permissionDenied() { return {70, "Permission denied"}; }
 inline Error setNotSupported() { return {383, "Set not supported (read-only property)"}; }
 inline Error getNotSupported() { return {394, "Get not supported (write-only property)"}; }
 inline Error noSuchMember() { return {438, "Object doesn't support this property or method"}; }

@@ -222,6 +222,15 @@ TEST_F(SessionTest, AFreshPanelIsReadOnlyWhenTheSettingsSaySoButForAReplays) {
     EXPECT_TRUE(session_->isReadOnly());
 }
 
+TEST_F(SessionTest, AFreshPanelIsReadOnlyAsThePersonWantsItWhateverTheHostSaid) {
+    for (const bool isWanted : {true, false}) {
+        session_->setReadOnly(isWanted);
+        panel().ReadOnly(!isWanted);
+        owner_.renew();
+        EXPECT_EQ(session_->isReadOnly(), isWanted);
+    }
+}
+
 TEST_F(SessionTest, AnErrorThatNoCallerWaitsForIsAmongTheEvents) {
     struct Saboteur final : Runtime::OperationObserver {
         void before(const Runtime::Operation&) override { throw Error(7, "Gone"); }

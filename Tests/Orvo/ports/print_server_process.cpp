@@ -55,19 +55,6 @@ bool hasEnded(pid_t process) {
 
 }  // namespace
 
-LoopbackPort::LoopbackPort() : socket_(newSocket()) {
-    sockaddr_in address = loopback(0);
-    socklen_t size = sizeof address;
-    auto* const generic = reinterpret_cast<sockaddr*>(&address);
-    if (bind(socket_, generic, size) == 0 && getsockname(socket_, generic, &size) == 0) {
-        number_ = ntohs(address.sin_port);
-    }
-}
-
-LoopbackPort::~LoopbackPort() { close(socket_); }
-
-void LoopbackPort::listen() const { ::listen(socket_, 8); }
-
 std::optional<std::filesystem::path> PrintServerProcess::program() {
     for (const char* path : {"/usr/sbin/cupsd", "/usr/local/sbin/cupsd"}) {
         if (std::filesystem::exists(path)) return path;

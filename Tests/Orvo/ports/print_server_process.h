@@ -6,26 +6,10 @@
 
 #include <sys/types.h>
 
+#include "Support/loopback_port.h"
 #include "Support/temporary_directory.h"
 
 namespace Orvo::Tests {
-
-/// A TCP port of the loopback, taken for as long as this is there. Connections are let in, and then
-/// never answered, once it listens; before, they are refused.
-class LoopbackPort {
-public:
-    LoopbackPort();
-    ~LoopbackPort();
-    LoopbackPort(const LoopbackPort&) = delete;
-    LoopbackPort& operator=(const LoopbackPort&) = delete;
-
-    void listen() const;
-    [[nodiscard]] int number() const { return number_; }
-
-private:
-    int socket_;
-    int number_ = 0;
-};
 
 /// CUPS' print server on the loopback, with a configuration of its own, from its start until the
 /// end of this.

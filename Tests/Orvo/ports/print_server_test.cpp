@@ -1,5 +1,7 @@
 #include "Orvo/ports/print_server.h"
 
+#include <sstream>
+
 #include "Orvo/ports/machine_platform.h"
 #include "Orvo/ports/print_server_process.h"
 #include "Orvo/service/port_discovery.h"
@@ -29,28 +31,71 @@ Accepting Yes
 constexpr const char* kEverybody = "Order allow,deny\nAllow all";
 constexpr const char* kNobodyWithoutPassword = "AuthType Basic\nRequire valid-user";
 
-TEST(PrintServer, FailsWhenItDoesNotAnswer) {
+std::string chunk(std::size_t size) {
+    std::ostringstream text;
+    text << std::hex << size << "\r\n" << std::string(size, '\4') << "\r\n";
+    return text.str();
+}
+
+TEST(PrintServer, MayNotBeThere) {
     const LoopbackPort refusing;
-    const LoopbackPort silent;
-    silent.listen();
-    for (const std::string& server :
-         {"127.0.0.1:" + std::to_string(refusing.number()),
-          "127.0.0.1:" + std::to_string(silent.number()), std::string("no server:at all"),
-          std::string("[::1"), std::string("name.invalid")}) {
+    for (const std::string& server : {refusing.address(), std::string("no server:at all"),
+                                      std::string("[::1"), std::string("name.invalid")}) {
         EXPECT_FALSE(Runtime::printQueues(server, 100ms)) << server;
     }
 }
 
-// The rest needs a server, and a library that can talk to it.
-class PrintServerTest : public testing::Test {
+TEST(PrintServer, IsNotConnectedToWhenLeftAlone) {
+    const LoopbackPort server;
+    server.listen();
+    PortDiscovery discovery(Runtime::machinePlatform(Runtime::PrintServers::leftAlone));
+    EXPECT_EQ(discovery.discover(fromUtf8(server.address())), 0);
+    EXPECT_LT(server.accept(0ms), 0);
+}
+
+// Needs a library that can talk to a server.
+class ConversationTest : public testing::Test {
 protected:
     void SetUp() override {
 #ifndef ORVO_PORTS_USE_CUPS
         GTEST_SKIP() << "built without CUPS (libcups2-dev)";
 #endif
+    }
+};
+
+// Needs a server, too.
+class PrintServerTest : public ConversationTest {
+protected:
+    void SetUp() override {
+        ConversationTest::SetUp();
+        if (IsSkipped()) return;
         if (!PrintServerProcess::program()) GTEST_SKIP() << "no cupsd here (package cups-daemon)";
     }
 };
+
+// Those whose time has not run out are ended for what they say.
+TEST_F(ConversationTest, EndsInTimeWhateverIsSaid) {
+    struct Case {
+        const char* label;
+        Speech speech;
+        std::chrono::milliseconds limit;
+    };
+    const std::string head = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+    for (const auto& [label, speech, limit] :
+         {Case{"nothing", {}, 50ms},
+          Case{"no end of headers", {"HTTP/1.1 200 OK\r\n", "A: b\r\n"}, 50ms},
+          Case{"no end of a header", {"HTTP/1.1 200 OK\r\nA: ", "b", 1ms}, 50ms},
+          Case{"never yet", {"", "HTTP/1.1 100 Continue\r\n\r\n"}, 50ms},
+          Case{"byte by byte", {head, chunk(1), 1ms}, 50ms},
+          Case{"too much", {head, chunk(65536)}, 1h},
+          Case{"too large a piece", {head + "ffffffffffff\r\n", "xxxx"}, 1h},
+          Case{"no listing", {head + chunk(7) + chunk(0), ""}, 1h},
+          Case{"a refusal", {"HTTP/1.1 401 Unauthorized\r\n\r\n", ""}, 1h}}) {
+        SpeakingServer server(speech);
+        EXPECT_FALSE(Runtime::printQueues(server.address(), limit)) << label;
+        EXPECT_TRUE(server.isHungUpOn()) << label;
+    }
+}
 
 TEST_F(PrintServerTest, ListsItsQueues) {
     const PrintServerProcess server(kQueues, kEverybody);
