@@ -93,7 +93,7 @@ private:
                                 : static_cast<Widgets::WidgetId>(below(Layout::kWidgetCount));
         // Nobody can touch it.
         if (Layout::kindOf(widget) == Layout::Kind::timer) return;
-        store().input().perform({.verb = verb, .widget = widget, .number = below(60)});
+        store().perform({.verb = verb, .widget = widget, .number = below(60)});
     }
 
     StorePanel& owner_;

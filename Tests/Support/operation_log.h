@@ -3,7 +3,6 @@
 #include <array>
 #include <cstddef>
 #include <optional>
-#include <source_location>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -20,7 +19,7 @@ using Operations = std::vector<std::string>;
 /// A verb's name as its declaration has it: what the compiler writes behind "Verb::".
 template <Runtime::Verb kVerb>
 constexpr std::string_view nameOfVerb() {
-    std::string_view name = std::source_location::current().function_name();
+    std::string_view name = __PRETTY_FUNCTION__;
     name.remove_prefix(name.find("Verb::") + std::string_view("Verb::").size());
     return name.substr(0, name.find_first_of(";]"));
 }

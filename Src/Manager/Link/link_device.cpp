@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "Orvo/layout/roles.h"
+#include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -22,9 +23,10 @@ constexpr std::size_t kMuchUnread = 65536;  // bytes
 constexpr const Member& kReadOnlyLet = memberNamed<Boolean>("ReadOnly");
 constexpr const Member& kAddToLog = memberNamed<String>("AggiugiTesto");
 
+// The only one, as the panel takes it.
 template <class Type>
 Type argument(const Script::Call& call, const Member& member) {
-    return std::get<Type>(convertArguments(member, call.arguments).front());
+    return std::get<Type>(convert(call.arguments.front(), member.parameters().front().type));
 }
 
 std::string troubleOf(std::error_code reason) {
@@ -63,9 +65,10 @@ void LinkDevice::advance(std::chrono::milliseconds elapsed) {
     if (isBroken_) close();
 }
 
-// The arguments are what the panel makes of them, which has its own errors for others.
+// What is no argument of the member is for the panel to refuse.
 void LinkDevice::permit(const Script::Call& call) {
     const Member& member = findMember(call.dispatchId, call.kind);
+    if (call.arguments.size() != member.parameterCount) return;
     if (&member == &kReadOnlyLet && isLocked_()) {
         const bool isKept = argument<Boolean>(call, member) == Boolean(true);
         if (!isKept) throw Errors::permissionDenied();

@@ -14,9 +14,9 @@
 namespace Orvo::Manager {
 
 struct SessionSettings {
-    std::uint32_t seed = 1;   ///< the simulator's
-    bool isReadOnly = false;  ///< at first
-    std::string record{};     ///< a file; empty: none
+    std::uint32_t seed = 1;                                 ///< the simulator's
+    bool isReadOnly = false;                                ///< at first
+    std::string record{};                                   ///< a file; empty: none
     Script::Existing existing = Script::Existing::refused;  ///< what has the file's name already
     Script::Answers answers = Script::Answers::asCancelled;
 };

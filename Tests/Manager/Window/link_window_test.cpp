@@ -7,6 +7,7 @@
 #include "Orvo/core/member_table.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
+#include "Orvo/store/stored_widgets.h"
 #include "Script/text_of.h"
 #include "Support/loopback_port.h"
 #include "Support/temporary_directory.h"
