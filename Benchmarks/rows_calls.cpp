@@ -106,7 +106,7 @@ Row event() {
                         repeated([] { return std::make_unique<Emitter>(); },
                                  [](Emitter& emitter, int turn) { emit emitter.moved(1, turn); }),
                         {.must = timesLess(8)}},
-                       virtualLet({.must = times(2.2), .aim = times(1.5), .gate = times(4)})}};
+                       virtualLet({.must = times(2.2), .aim = times(1.5), .gate = times(12)})}};
     for (Rival& rival : boostSignal({.must = timesLess(20)})) row.rivals.push_back(rival);
     return row;
 }
