@@ -173,7 +173,7 @@ TEST_F(FilesTest, ARecordingThatStoppedGoesOnWithNothingLeftOut) {
 }
 
 TEST_F(FilesTest, WhatStoodInAFileStaysWhenTheProgramIsKilled) {
-    for (unsigned kill = 0; kill < 20; ++kill) {
+    for (std::uintmax_t kill = 0; kill < 20; ++kill) {
         const std::string name = at("killed" + std::to_string(kill));
         const pid_t child = ::fork();
         if (child == 0) writeUntilKilled(name);
@@ -181,7 +181,7 @@ TEST_F(FilesTest, WhatStoodInAFileStaysWhenTheProgramIsKilled) {
         const auto hasGrown = [&] {
             std::error_code missing;
             const auto size = std::filesystem::file_size(name, missing);
-            return !missing && size > 200000U * kill;
+            return !missing && size > 200000 * kill;
         };
         for (int looks = 0; looks < 50000 && !hasGrown(); ++looks) ::usleep(100);
         const std::string before = textIn(name);

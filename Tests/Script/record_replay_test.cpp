@@ -107,7 +107,7 @@ std::string difference(const std::string& one, const std::string& other) {
     std::istringstream others(other);
     for (std::string line, otherLine; std::getline(lines, line);) {
         std::getline(others, otherLine);
-        if (line != otherLine) return line + " / " + otherLine;
+        if (line != otherLine) return line.append(" / ").append(otherLine);
     }
     return one.size() == other.size() ? "" : "more lines";
 }

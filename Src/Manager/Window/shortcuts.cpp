@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <QAbstractButton>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -11,6 +10,9 @@
 #include <QRegularExpression>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include "Orvo/layout/layout.h"
+#include "Orvo/window/spoken/names.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -43,10 +45,11 @@ void addMenu(Shortcuts& rows, const QMenu& menu, const QString& group, const QSt
 }
 
 // Buttons that stand on several tabs share their keys.
-void addButtons(Shortcuts& rows, const QWidget& panel) {
-    for (const auto* button : panel.findChildren<QAbstractButton*>()) {
-        const Shortcut row{"Panel", button->accessibleName(),
-                           button->shortcut().toString(QKeySequence::NativeText)};
+void addButtons(Shortcuts& rows) {
+    for (Widgets::WidgetId widget = 0; widget < Layout::kWidgetCount; ++widget) {
+        const QKeySequence keys(Window::keysOf(widget));
+        const Shortcut row{"Panel", Window::nameOf(widget),
+                           keys.toString(QKeySequence::NativeText)};
         const bool isKnown = std::any_of(rows.begin(), rows.end(), [&](const Shortcut& known) {
             return known.group == row.group && known.keys == row.keys;
         });
@@ -72,24 +75,24 @@ QTreeWidget* makeTable(const Shortcuts& rows) {
 
 }  // namespace
 
-std::vector<Shortcut> shortcutsOf(const QMainWindow& window, const QWidget& panel) {
+std::vector<Shortcut> shortcutsOf(const QMainWindow& window) {
     Shortcuts rows;
     const auto* bar = qobject_cast<QMenuBar*>(window.menuWidget());
     for (const QAction* action : bar->actions()) {
         addMenu(rows, *action->menu<QMenu*>(), plain(action->text()), {});
     }
-    addButtons(rows, panel);
+    addButtons(rows);
     return rows;
 }
 
-void openShortcutsDialog(QMainWindow& window, const QWidget& panel) {
+void openShortcutsDialog(QMainWindow& window) {
     auto* dialog = new QDialog(&window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle("Keyboard shortcuts");
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     auto* layout = new QVBoxLayout(dialog);
-    layout->addWidget(makeTable(shortcutsOf(window, panel)));
+    layout->addWidget(makeTable(shortcutsOf(window)));
     layout->addWidget(buttons);
     dialog->resize(560, 560);
     dialog->open();

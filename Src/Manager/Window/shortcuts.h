@@ -14,10 +14,10 @@ struct Shortcut {
     QString keys;
 };
 
-/// Those of the window's menus, in their order, and of the buttons of its panel.
-std::vector<Shortcut> shortcutsOf(const QMainWindow& window, const QWidget& panel);
+/// Those of the window's menus, in their order, and of the panel's buttons, on whatever tab.
+std::vector<Shortcut> shortcutsOf(const QMainWindow& window);
 
 /// Shows them all.
-void openShortcutsDialog(QMainWindow& window, const QWidget& panel);
+void openShortcutsDialog(QMainWindow& window);
 
 }  // namespace Orvo::Manager

@@ -120,7 +120,7 @@ void ManagerWindow::copyEvents() {
     statusLine_->say("The events are on the clipboard");
 }
 
-void ManagerWindow::showShortcuts() { openShortcutsDialog(*this, *panel_); }
+void ManagerWindow::showShortcuts() { openShortcutsDialog(*this); }
 
 void ManagerWindow::showAbout() {
     auto* box =

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <thread>
 #include <utility>
 
 #include "Orvo/core/call_listener.h"

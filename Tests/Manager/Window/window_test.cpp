@@ -55,7 +55,7 @@ protected:
 TEST_F(WindowTest, EveryActionHasKeysThatNothingElseTakes) {
     // The panel's own, by which service staff enter information and go from tab to tab.
     QList<QKeySequence> taken{{"Ctrl+R"}, {"Ctrl+Tab"}, {"Ctrl+Shift+Tab"}, {"F10"}};
-    for (const Shortcut& row : shortcutsOf(window_, window_.panelWidget())) {
+    for (const Shortcut& row : shortcutsOf(window_)) {
         EXPECT_FALSE(row.keys.isEmpty()) << row.what.toStdString();
         for (const QString& text : row.keys.split(" or ")) {
             const QKeySequence keys(text, QKeySequence::NativeText);
@@ -72,7 +72,8 @@ TEST_F(WindowTest, EveryActionHasKeysThatNothingElseTakes) {
         EXPECT_FALSE(keys.isEmpty() || taken.contains(keys)) << menu->text().toStdString();
         taken.push_back(keys);
     }
-    EXPECT_GT(taken.size(), 30);
+    // Of a tab that nobody has looked at.
+    EXPECT_TRUE(taken.contains(QKeySequence("Alt+S")) && taken.contains(QKeySequence("Alt+4")));
 }
 
 TEST_F(WindowTest, SilenceIsToldInWords) {
