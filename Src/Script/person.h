@@ -20,7 +20,9 @@ public:
     /// Does nothing for so long; timers that come due tick.
     virtual void wait(std::chrono::milliseconds time) { store().advance(time); }
 
-    /// Whether what is done in the midst of a command may go on; what is left of it is left out.
+    /// An event or a prompt comes in the midst of something.
+    virtual void startMidst() {}
+    /// Whether what is done in that midst may go on; what is left of it is left out.
     virtual bool hasTime() { return true; }
 
     /// Writes a PNG picture of the panel. Throws Error when that fails, or there is no window.

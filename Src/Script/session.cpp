@@ -147,6 +147,7 @@ void Session::renew() {
 
 void Session::startAnswer() {
     isExhausted_ = false;
+    if (person_ != nullptr) person_->startMidst();
     if (supervisor_ != nullptr) end_ = supervisor_->now() + kLongestAnswer;
 }
 
@@ -173,9 +174,8 @@ std::optional<What> Session::takeQueued() {
 }
 
 void Session::performQueued() {
-    while (hasTime()) {
-        const auto command = takeQueued<ParsedCommand>();
-        if (!command) return;
+    while (const auto command = takeQueued<ParsedCommand>()) {
+        if (!hasTime()) return;
         perform(*command);
     }
 }

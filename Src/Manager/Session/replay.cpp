@@ -43,7 +43,6 @@ Replay::Replay(Script::PanelOwner& owner, Script::Person& person,
 void Replay::advance(std::chrono::milliseconds elapsed) {
     silence_ += elapsed;
     const auto now = clock_();
-    endOfPatience_ = now + kPatience;
     while (!isOver_ && clock_() < now + kLongestMoment) {
         const auto step = std::min(elapsed, left_);
         person_.wait(step);
@@ -70,6 +69,8 @@ void Replay::wait(std::chrono::milliseconds time) {
         time -= step;
     }
 }
+
+void Replay::startMidst() { endOfPatience_ = clock_() + kPatience; }
 
 bool Replay::hasTime() {
     isOutOfTime_ = isOutOfTime_ || clock_() >= endOfPatience_;

@@ -45,6 +45,7 @@ private:
     void perform(const Runtime::Deed& deed) override { person_.perform(deed); }
     void shoot(const String& file) override { person_.shoot(file); }
     void wait(std::chrono::milliseconds time) override;
+    void startMidst() override;
     bool hasTime() override;
 
     void goOn();

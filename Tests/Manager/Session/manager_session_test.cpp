@@ -137,6 +137,13 @@ TEST_F(SessionTest, WhatIsConnectedEndsAReplay) {
     EXPECT_EQ(panel().Mute(1), kFalse);
 }
 
+TEST_F(SessionTest, APersonMayTouchThePanelAtAnyMomentOfAReplay) {
+    replay("on Mute let Mute 2 true\nwait 1000\n");
+    click(channel(1).muteButton);
+    letReplayEnd();
+    EXPECT_EQ(warnings_, std::vector<std::string>());
+}
+
 TEST_F(SessionTest, WhatCannotBeRecordedOrReplayedIsToldAndChangesNothing) {
     session_->connectSimulator();
     const auto* const before = &store();
