@@ -51,9 +51,17 @@ bool RecordFile::isRemoved() const {
     return ::fstat(file_.get(), &status) == 0 && status.st_nlink == 0;
 }
 
+// Whatever the path is spelt like.
+bool RecordFile::isAt(const std::string& path) const {
+    struct stat there {};
+    struct stat own {};
+    return ::lstat(path.c_str(), &there) == 0 && ::fstat(file_.get(), &own) == 0 &&
+           there.st_dev == own.st_dev && there.st_ino == own.st_ino;
+}
+
 void RecordFile::moveTo(const std::string& path, Existing existing) {
     if (!isWhole_) throw std::runtime_error(path + ": Too much has happened since");
-    if (path == path_ && !isRemoved()) return tryAgain();
+    if (isAt(path)) return tryAgain();
     NewFile file(path, existing, Readers::owner);
     copyTo(file);
     file.write(unwritten_);

@@ -38,6 +38,7 @@ private:
     void copyTo(NewFile& file) const;
     void tryAgain();
     [[nodiscard]] bool isRemoved() const;
+    [[nodiscard]] bool isAt(const std::string& path) const;
 
     std::string path_;
     FileDescriptor file_;

@@ -141,7 +141,7 @@ TEST_F(FilesTest, ARecordingThatStoppedGoesOnWithNothingLeftOut) {
     };
     const Row rows[] = {
         {"File too large", "elsewhere", onFullDisk},
-        {"File too large", "session", onFullDisk},
+        {"File too large", "./session", onFullDisk},
         {"The file was removed", "elsewhere", onceRemoved},
         {"The file was removed", "session", onceRemoved},
     };

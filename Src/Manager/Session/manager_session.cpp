@@ -126,7 +126,7 @@ void ManagerSession::startRecording(const std::string& file) {
 }
 
 void ManagerSession::stopRecording() {
-    const bool wasRecording = isRecording();
+    const bool wasRecording = recorder_ != nullptr;
     const auto reason = endRecording();
     if (!wasRecording) return;
     if (!reason) return observer_.say("The session is recorded");

@@ -133,7 +133,11 @@ void ManagerWindow::closeEvent(QCloseEvent* event) {
     session_.stopReplay();
     tick_.stop();
     refreshes_.stop();
-    for (QDialog* dialog : findChildren<QDialog*>()) dialog->reject();
+    for (QDialog* dialog : findChildren<QDialog*>()) {
+        // One that asks the next question when it is over asks no more.
+        disconnect(dialog, &QDialog::finished, this, nullptr);
+        dialog->reject();
+    }
     QMainWindow::closeEvent(event);
 }
 

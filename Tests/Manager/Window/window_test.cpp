@@ -140,9 +140,12 @@ TEST_F(WindowTest, TellsOfARecordingOnAFreshPanelAndOfOneThatCannotBe) {
     box->accept();
     auto* dialog = window_.findChild<QFileDialog*>();
     ASSERT_NE(dialog, nullptr) << "another file is offered";
+    delete box;
     dialog->reject();
     window_.refresh();
     EXPECT_FALSE(window_.windowTitle().contains("Recording"));
+    box = window_.findChild<QMessageBox*>();
+    EXPECT_EQ(box->text(), "The end of the session is not recorded.");
     delete box;
     window_.session().startRecording("/no/such/place");
     EXPECT_TRUE(window_.findChild<QMessageBox*>()->informativeText().contains("/no/such/place"));
