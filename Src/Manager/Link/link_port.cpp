@@ -14,6 +14,8 @@
 namespace Orvo::Manager {
 namespace {
 
+using Script::FileDescriptor;
+
 [[noreturn]] void fail(int error, const LinkAddress& address) {
     throw std::system_error(error, std::generic_category(), address.path);
 }
@@ -24,24 +26,24 @@ int checked(int result, const LinkAddress& address) {
 }
 
 // What has come into the place of what was looked at is not what was meant.
-OpenFile openFile(const LinkAddress& address, const struct stat& meant, int mode) {
-    OpenFile file(
+FileDescriptor openFile(const LinkAddress& address, const struct stat& meant, int mode) {
+    FileDescriptor file(
         checked(::open(address.path.c_str(), mode | O_NONBLOCK | O_NOCTTY | O_CLOEXEC), address));
     struct stat found {};
-    checked(::fstat(file.number(), &found), address);
+    checked(::fstat(file.get(), &found), address);
     if (found.st_mode != meant.st_mode || found.st_ino != meant.st_ino) fail(ENOTTY, address);
     return file;
 }
 
-OpenFile connectTo(const LinkAddress& address) {
+FileDescriptor connectTo(const LinkAddress& address) {
     sockaddr_un name{};
     name.sun_family = AF_UNIX;
     if (address.path.size() >= sizeof name.sun_path) fail(ENAMETOOLONG, address);
     std::memcpy(name.sun_path, address.path.c_str(), address.path.size());
-    OpenFile socket(
+    FileDescriptor socket(
         checked(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0), address));
     const auto* generic = reinterpret_cast<const sockaddr*>(&name);  // the interface's own way
-    checked(::connect(socket.number(), generic, sizeof name), address);
+    checked(::connect(socket.get(), generic, sizeof name), address);
     return socket;
 }
 
@@ -58,10 +60,6 @@ bool isPassing(int error) { return error == EAGAIN || error == EWOULDBLOCK || er
 
 }  // namespace
 
-OpenFile::~OpenFile() {
-    if (number_ >= 0) ::close(number_);
-}
-
 LinkPort::LinkPort(const LinkAddress& address) {
     struct stat file {};
     checked(::stat(address.path.c_str(), &file), address);
@@ -73,7 +71,7 @@ LinkPort::LinkPort(const LinkAddress& address) {
         file_ = openFile(address, file, O_RDONLY);
     } else if (S_ISCHR(file.st_mode)) {
         file_ = openFile(address, file, O_RDWR);
-        setUpTerminal(file_.number(), address);
+        setUpTerminal(file_.get(), address);
     } else {
         fail(ENOTTY, address);
     }
@@ -81,11 +79,11 @@ LinkPort::LinkPort(const LinkAddress& address) {
 
 // To close a serial device may wait for what it has not sent.
 LinkPort::~LinkPort() {
-    if (kind_ == Kind::terminal) ::tcflush(file_.number(), TCOFLUSH);
+    if (kind_ == Kind::terminal) ::tcflush(file_.get(), TCOFLUSH);
 }
 
 std::optional<std::size_t> LinkPort::read(std::span<char> bytes) {
-    const ssize_t count = ::read(file_.number(), bytes.data(), bytes.size());
+    const ssize_t count = ::read(file_.get(), bytes.data(), bytes.size());
     if (count > 0) {
         hasHeard_ = true;
         return static_cast<std::size_t>(count);
@@ -98,8 +96,8 @@ std::optional<std::size_t> LinkPort::read(std::span<char> bytes) {
 std::optional<std::size_t> LinkPort::write(std::string_view bytes) {
     if (kind_ == Kind::pipe) return bytes.size();
     const ssize_t count = kind_ == Kind::socket
-                              ? ::send(file_.number(), bytes.data(), bytes.size(), MSG_NOSIGNAL)
-                              : ::write(file_.number(), bytes.data(), bytes.size());
+                              ? ::send(file_.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL)
+                              : ::write(file_.get(), bytes.data(), bytes.size());
     if (count >= 0) return static_cast<std::size_t>(count);
     if (isPassing(errno)) return 0;
     return std::nullopt;

@@ -4,29 +4,11 @@
 #include <optional>
 #include <span>
 #include <string_view>
-#include <utility>
 
 #include "Manager/Link/link_address.h"
+#include "Script/file_descriptor.h"
 
 namespace Orvo::Manager {
-
-/// A file, until this ends; none at first.
-class OpenFile {
-public:
-    OpenFile() = default;
-    explicit OpenFile(int descriptor) : number_(descriptor) {}
-    ~OpenFile();
-    OpenFile(OpenFile&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-    OpenFile& operator=(OpenFile&& other) noexcept {
-        std::swap(number_, other.number_);
-        return *this;
-    }
-
-    [[nodiscard]] int number() const { return number_; }
-
-private:
-    int number_ = -1;
-};
 
 /// The near end of a link, open from its making to its end: a serial device, a pseudo-terminal, a
 /// pipe in the file system, from which can only be read, or a local stream socket. No call waits.
@@ -48,7 +30,7 @@ private:
     enum class Kind { terminal, pipe, socket };
 
     Kind kind_ = Kind::terminal;
-    OpenFile file_;
+    Script::FileDescriptor file_;
     bool hasHeard_ = false;
 };
 
