@@ -142,7 +142,8 @@ private:
 
 std::string_view firstWord(std::string_view line) {
     line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
-    return line.substr(0, line.find_first_of(" \t\r"));
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line.substr(0, line.find_first_of(kBlanks));
 }
 
 std::vector<Word> split(std::string_view line) {
