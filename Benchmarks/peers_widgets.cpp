@@ -193,7 +193,7 @@ private:
 
 }  // namespace
 
-KeptPicture::KeptPicture(QRect place) : child_(new KeptChild(place, this)) {
+KeptChildWindow::KeptChildWindow(QRect place) : child_(new KeptChild(place, this)) {
     resize(placeOf(0).size());
 }
 

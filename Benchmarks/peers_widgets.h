@@ -46,9 +46,9 @@ private:
 };
 
 /// A window of the panel's size, with one child that paints a picture it keeps.
-class KeptPicture final : public QWidget {
+class KeptChildWindow final : public QWidget {
 public:
-    explicit KeptPicture(QRect place);
+    explicit KeptChildWindow(QRect place);
     void change() { child_->update(); }
 
 private:

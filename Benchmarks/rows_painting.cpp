@@ -64,8 +64,8 @@ Contender peerPushed() {
 }
 
 Contender keptPicture(QRect place) {
-    return peerPainting([place] { return std::make_unique<KeptPicture>(place); },
-                        [](KeptPicture& window, int) { window.change(); });
+    return peerPainting([place] { return std::make_unique<KeptChildWindow>(place); },
+                        [](KeptChildWindow& window, int) { window.change(); });
 }
 
 Contender copyOfWindow() {
