@@ -1,4 +1,9 @@
+#include <fstream>
+
+#include "Manager/Link/line_splitter.h"
 #include "Manager/Link/link_bench.h"
+#include "Manager/Session/replay.h"
+#include "Manager/Station/event_log.h"
 #include "Script/recordings.h"
 
 // What a device may do, and what it may not.
@@ -131,6 +136,29 @@ TEST_F(LinkRightsTest, MayBreakOffAfterEveryByte) {
             expected = Tests::stateOf(other);
         }
         ASSERT_EQ(Tests::stateOf(owner_), expected);
+    }
+}
+
+TEST(LinkLimitsTest, StandInTheDocuments) {
+    struct Limit {
+        const char* page;
+        std::size_t number;
+        std::string text;  // behind the number
+    };
+    for (const auto& [page, number, text] :
+         {Limit{"link.md", Script::Session::kMostKept >> 20, " MiB kept"},
+          Limit{"link.md", LineSplitter::kLongestLine >> 10, " KiB long"},
+          Limit{"link.md", LinkDevice::kMostUnread >> 20, " MiB unread"},
+          Limit{"link.md", Script::Session::kLongestAnswer.count(), " ms;"},
+          Limit{"link.md", EventLog::kMostLines, " lines"},
+          Limit{"link.md", EventLog::kLongestLine, " bytes of each"},
+          Limit{"panel-script.md", Script::Session::kMostKept >> 20, " MiB of memory"},
+          Limit{"panel-script.md", Replay::kLongestLine >> 10, " KiB ends it"}}) {
+        std::ifstream file(std::string(ORVO_DOCS "/") + page);
+        std::string words, word;
+        while (file >> word) words += ' ' + word;
+        const std::string sentence = ' ' + std::to_string(number) + text;
+        EXPECT_NE(words.find(sentence), std::string::npos) << page << ':' << sentence;
     }
 }
 
