@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstddef>
-#include <optional>
 #include <random>
 #include <stdexcept>
 #include <system_error>

@@ -3,7 +3,6 @@
 #include <chrono>
 #include <map>
 #include <string>
-#include <string_view>
 
 #include "Manager/Station/event_log.h"
 #include "Orvo/core/call_listener.h"

@@ -15,7 +15,6 @@
 #include "Manager/Window/files.h"
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/pictures.h"
-#include "Orvo/core/marvane_assistant.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/store.h"
 #include "Orvo/store/stored_widgets.h"

@@ -7,6 +7,7 @@
 #include "Orvo/layout/common_tab.h"
 #include "Orvo/store/store.h"
 #include "Orvo/store/stored_widgets.h"
+#include "Simulator/fault.h"
 
 // The keys keep clear of the panel's own: Alt with a letter or a digit, Ctrl+Tab, and in its lists
 // what they type there, Ctrl+R above all.

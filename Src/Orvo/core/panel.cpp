@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <iterator>
 #include <utility>
 
 #include "Orvo/core/notification_table.h"

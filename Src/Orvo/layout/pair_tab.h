@@ -4,7 +4,6 @@
 #include <span>
 #include <string_view>
 
-#include "Orvo/layout/common_tab.h"
 #include "Orvo/layout/rows.h"
 
 // The two pair tabs, "Ch1 + Ch2" and "Ch3 + Ch4", which are built alike.

@@ -12,7 +12,6 @@
 #include <QPointer>
 
 #include "Orvo/service/information_entry.h"
-#include "Orvo/window/drawing/chrome.h"
 #include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
