@@ -44,7 +44,7 @@ TEST_F(CaptionsTest, EveryFaceIsTheLayoutsOrTheOneBroughtAlong) {
     using Layout::Face;
     for (const Face face : {Face::arial, Face::microgramma, Face::serif, Face::standard}) {
         const QString shown = QFontInfo(toQt(Layout::Font{.face = face}, 1)).family();
-        EXPECT_EQ(shown.toStdString(), familyOf(face).toStdString());
+        EXPECT_EQ(shown.toStdString(), familyOf(face).name.toStdString());
     }
 }
 

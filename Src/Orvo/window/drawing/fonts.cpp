@@ -17,14 +17,15 @@ struct Brought {
     const char* named = "";
     const char* family = "";
     std::initializer_list<const char*> files;
+    int stretch = 0;
 };
 
-// As wide as Arial and MS Serif to a fraction of a pixel; the extended face is close.
+// As wide as Arial and MS Serif to a fraction of a pixel; the extended face is wider than its own.
 const Brought kArial{"Arial",
                      "Liberation Sans",
                      {"LiberationSans-Regular", "LiberationSans-Bold", "LiberationSans-Italic"}};
 const Brought kSerif{"MS Serif", "Liberation Serif", {"LiberationSerif-Regular"}};
-const Brought kMicrogramma{"MicrogrammaDMedExt", "Michroma", {"Michroma-Regular"}};
+const Brought kMicrogramma{"MicrogrammaDMedExt", "Michroma", {"Michroma-Regular"}, 96};
 
 const Brought& broughtFor(Layout::Face face) {
     if (face == Layout::Face::microgramma) return kMicrogramma;
@@ -45,10 +46,11 @@ QStringList installWhatIsMissing() {
 }  // namespace
 
 // To ask for a face that isn't there costs more than all else about a window.
-QString familyOf(Layout::Face face) {
+Family familyOf(Layout::Face face) {
     static const QStringList installed = installWhatIsMissing();
     const Brought& brought = broughtFor(face);
-    return installed.contains(brought.named) ? brought.named : brought.family;
+    if (installed.contains(brought.named)) return {brought.named};
+    return {brought.family, brought.stretch};
 }
 
 }  // namespace Orvo::Window

@@ -22,7 +22,9 @@ String fromQt(const QString& text) {
 QFont toQt(const Layout::Font& font, double zoom) {
     constexpr double kPixelsPerPoint = 96.0 / 72.0;
     QFont result;
-    result.setFamily(familyOf(font.face));
+    const Family family = familyOf(font.face);
+    result.setFamily(family.name);
+    if (family.stretch != 0) result.setStretch(family.stretch);
     result.setPixelSize(qMax(1, qRound(font.points * kPixelsPerPoint * zoom)));
     result.setBold(font.isBold);
     result.setItalic(font.isItalic);
@@ -35,17 +37,19 @@ double widthOf(const QString& text, const QFont& font) {
     return QFontMetricsF(font).horizontalAdvance(text);
 }
 
-QFont fitted(QFont font, const QString& text, double width) {
+QFont narrowed(QFont font, const QString& text, double width) {
     constexpr int kNarrowest = 50;
-    constexpr int kWidest = 125;
     const double natural = widthOf(text, font);
-    if (natural <= 0) return font;
-    font.setStretch(qBound(kNarrowest, int(100 * width / natural), kWidest));
+    if (natural <= width) return font;
+    const int stretch = font.stretch() == QFont::AnyStretch ? QFont::Unstretched : font.stretch();
+    font.setStretch(qMax(kNarrowest, int(stretch * width / natural)));
     return font;
 }
 
-QFont narrowed(const QFont& font, const QString& text, double width) {
-    return widthOf(text, font) > width ? fitted(font, text, width) : font;
+QFont spaced(QFont font, const QString& text, double width) {
+    const double room = width - widthOf(text, font);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, room / qMax(1, int(text.size())));
+    return font;
 }
 
 String typedBy(const QKeyEvent& event) {

@@ -23,10 +23,10 @@ inline QColor toQt(Colour colour) { return {colour.red, colour.green, colour.blu
 QFont toQt(const Layout::Font& font, double zoom);
 
 /// The same font, narrowed until the text is at most `width` pixels wide.
-QFont narrowed(const QFont& font, const QString& text, double width);
+QFont narrowed(QFont font, const QString& text, double width);
 
-/// The same font, narrowed or widened until the text is about `width` pixels wide.
-QFont fitted(QFont font, const QString& text, double width);
+/// The same font, its letters set until the text is about `width` pixels wide.
+QFont spaced(QFont font, const QString& text, double width);
 
 double widthOf(const QString& text, const QFont& font);
 

@@ -31,7 +31,7 @@ QFont PaintedLabel::fontOfFirst(const QFont& font) const {
     if (looks().flow == Layout::TextFlow::wrapped) return font;
     const bool isExtended = looks().font.face == Layout::Face::microgramma;
     const int width = place().width();
-    return isExtended ? fitted(font, first, width) : narrowed(font, first, width);
+    return isExtended ? spaced(font, first, width) : narrowed(font, first, width);
 }
 
 QString PaintedLabel::text() const { return toQt(stored<Runtime::StoredLabel>().caption); }
