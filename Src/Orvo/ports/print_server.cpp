@@ -7,9 +7,9 @@
 #include <system_error>
 #include <thread>
 
-#include <cups/cups.h>
 #include <sys/socket.h>
 
+#include "Orvo/ports/cups_library.h"
 #include "Orvo/ports/queue_listing.h"
 
 namespace Orvo::Runtime {
@@ -18,8 +18,8 @@ namespace {
 using Milliseconds = std::chrono::milliseconds;
 
 struct Closing {
-    void operator()(http_t* connection) const { httpClose(connection); }
-    void operator()(ipp_t* message) const { ippDelete(message); }
+    void operator()(http_t* connection) const { cups().httpClose(connection); }
+    void operator()(ipp_t* message) const { cups().ippDelete(message); }
 };
 using Connection = std::unique_ptr<http_t, Closing>;
 using Request = std::unique_ptr<ipp_t, Closing>;
@@ -46,7 +46,7 @@ class Inquiry::Open {
 public:
     Open(Inquiry& inquiry, http_t* connection) : inquiry_(inquiry) {
         const std::lock_guard lock(inquiry_.mutex_);
-        if (!inquiry_.isOver_) inquiry_.socket_ = httpGetFd(connection);
+        if (!inquiry_.isOver_) inquiry_.socket_ = cups().httpGetFd(connection);
         isInTime = !inquiry_.isOver_;
     }
     ~Open() {
@@ -68,17 +68,17 @@ void Inquiry::end() {
     if (socket_ >= 0) ::shutdown(socket_, SHUT_RDWR);
 }
 
-bool mustEncrypt() { return cupsEncryption() == HTTP_ENCRYPTION_REQUIRED; }
+bool mustEncrypt() { return cups().cupsEncryption() == HTTP_ENCRYPTION_REQUIRED; }
 
 // Where encryption is asked for by a request, that comes once the connection can be ended.
 Connection connectTo(const std::string& host, int port, Milliseconds limit) {
-    const auto encryption = mustEncrypt() ? HTTP_ENCRYPTION_IF_REQUESTED : cupsEncryption();
-    return Connection(httpConnect2(host.c_str(), port, nullptr, AF_UNSPEC, encryption, 1,
-                                   static_cast<int>(limit.count()), nullptr));
+    const auto encryption = mustEncrypt() ? HTTP_ENCRYPTION_IF_REQUESTED : cups().cupsEncryption();
+    return Connection(cups().httpConnect2(host.c_str(), port, nullptr, AF_UNSPEC, encryption, 1,
+                                          static_cast<int>(limit.count()), nullptr));
 }
 
 Connection connectTo(const std::string& server, Milliseconds limit) {
-    if (server.empty()) return connectTo(cupsServer(), ippPort(), limit);
+    if (server.empty()) return connectTo(cups().cupsServer(), cups().ippPort(), limit);
     const std::string uri = "ipp://" + server + "/";
     std::array<char, HTTP_MAX_URI> scheme{};
     std::array<char, HTTP_MAX_URI> user{};
@@ -87,32 +87,34 @@ Connection connectTo(const std::string& server, Milliseconds limit) {
     constexpr int kSize = HTTP_MAX_URI;
     int port = 0;
     const auto status =
-        httpSeparateURI(HTTP_URI_CODING_ALL, uri.c_str(), scheme.data(), kSize, user.data(), kSize,
-                        host.data(), kSize, &port, resource.data(), kSize);
+        cups().httpSeparateURI(HTTP_URI_CODING_ALL, uri.c_str(), scheme.data(), kSize, user.data(),
+                               kSize, host.data(), kSize, &port, resource.data(), kSize);
     return status == HTTP_URI_STATUS_OK ? connectTo(host.data(), port, limit) : Connection();
 }
 
 Request queueRequest() {
     static constexpr std::array kWanted{"printer-name", "device-uri", "printer-info"};
-    Request request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
-    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(kWanted.size()), nullptr, kWanted.data());
+    Request request(cups().ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+    cups().ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                         static_cast<int>(kWanted.size()), nullptr, kWanted.data());
     return request;
 }
 
 // Step by step: all at once, the library connects anew as it sees fit, to where it isn't ended.
 bool send(http_t* connection, ipp_t* request) {
-    if (mustEncrypt() && httpEncryption(connection, HTTP_ENCRYPTION_REQUIRED) != 0) return false;
-    httpClearFields(connection);
-    httpSetField(connection, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
-    httpSetLength(connection, ippLength(request));
-    return httpPost(connection, "/") == 0 && ippWrite(connection, request) == IPP_STATE_DATA;
+    if (mustEncrypt() && cups().httpEncryption(connection, HTTP_ENCRYPTION_REQUIRED) != 0)
+        return false;
+    cups().httpClearFields(connection);
+    cups().httpSetField(connection, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+    cups().httpSetLength(connection, cups().ippLength(request));
+    return cups().httpPost(connection, "/") == 0 &&
+           cups().ippWrite(connection, request) == IPP_STATE_DATA;
 }
 
 // A server that wants a password, or to be asked another way or elsewhere, is one that refuses.
 bool isAnswered(http_t* connection) {
     http_status_t status = HTTP_STATUS_CONTINUE;
-    while (status == HTTP_STATUS_CONTINUE) status = httpUpdate(connection);
+    while (status == HTTP_STATUS_CONTINUE) status = cups().httpUpdate(connection);
     return status == HTTP_STATUS_OK;
 }
 
@@ -120,7 +122,7 @@ std::optional<std::string> body(http_t* connection) {
     std::string bytes;
     std::array<char, 4096> piece{};
     ssize_t count = 0;
-    while ((count = httpRead2(connection, piece.data(), piece.size())) > 0) {
+    while ((count = cups().httpRead2(connection, piece.data(), piece.size())) > 0) {
         bytes.append(piece.data(), static_cast<std::size_t>(count));
         if (bytes.size() > kLongestQueueAnswer) return std::nullopt;
     }
@@ -128,6 +130,7 @@ std::optional<std::string> body(http_t* connection) {
 }
 
 std::optional<std::string> Inquiry::ask(const std::string& server, Milliseconds limit) {
+    if (!cups().isHere) return std::nullopt;
     const Connection connection = connectTo(server, limit);
     if (!connection) return std::nullopt;
     const Open open(*this, connection.get());

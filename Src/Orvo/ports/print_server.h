@@ -18,8 +18,8 @@ inline constexpr std::size_t kLongestQueueAnswer = 1 << 20;
 ///
 /// `server` (UTF-8) is a host, host:port or [address]:port; "" is the one that this machine prints
 /// with. None when it refuses, when its answer is none or is longer than `kLongestQueueAnswer`,
-/// when it has not answered in full after `limit`, or when this library was built without CUPS.
-/// Never throws for any of these.
+/// when it has not answered in full after `limit`, or without CUPS, here or when this library was
+/// built. Never throws for any of these.
 ///
 /// Opens no event loop. The connection ends at the limit. What comes before it, the look-up of the
 /// host's name and the agreement on encryption, may go on for as long as the machine lets these
