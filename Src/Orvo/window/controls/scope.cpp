@@ -1,6 +1,7 @@
 #include "Orvo/window/controls/scope.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include <QFontMetricsF>
 #include <QPaintEvent>
@@ -24,12 +25,12 @@ void Scope::layOut(const Scale& scale) {
 
 void Scope::refresh() {
     Control::refresh();
-    picture_ = {};
+    isPictureOld_ = true;
     update();
 }
 
 void Scope::paintEvent(QPaintEvent*) {
-    if (picture_.size() != sizeInPixels()) draw();
+    if (isPictureOld_ || picture_.size() != sizeInPixels()) draw();
     QPainter(this).drawImage(QPoint(), picture_);
 }
 
@@ -42,8 +43,15 @@ void Scope::draw() {
     const std::span grid(drawing.begin(), trace);
     const bool isKept = grid_.size() == sizeInPixels() && std::ranges::equal(grid, drawnOnGrid_);
     if (!isKept) drawGrid(grid);
-    picture_ = grid_;
+    startFromGrid();
     draw(picture_, {trace, drawing.end()});
+    isPictureOld_ = false;
+}
+
+// Into the pixels that are there: to give them back each time may be to ask the system for them.
+void Scope::startFromGrid() {
+    if (picture_.size() != grid_.size()) picture_ = grid_.copy();
+    std::memcpy(picture_.bits(), grid_.constBits(), std::size_t(grid_.sizeInBytes()));
 }
 
 void Scope::drawGrid(std::span<const Drawn> drawing) {

@@ -26,14 +26,16 @@ private:
     [[nodiscard]] QSize sizeInPixels() const;
     [[nodiscard]] QImage surfaceOf(QImage& picture) const;
     void draw();
+    void startFromGrid();
     void drawGrid(std::span<const Runtime::Drawn> drawing);
     void draw(QImage& picture, std::span<const Runtime::Drawn> drawing) const;
     void draw(const Canvas& canvas, const Runtime::LineSegment& line) const;
     void draw(const Canvas& canvas, const Runtime::DrawnText& text) const;
     void draw(const Canvas& canvas, const Widgets::Trace& trace) const;
 
-    QImage picture_;  // null when it is to be made anew
-    QImage grid_;     // what it shows of the drawing before the first trace
+    QImage picture_;
+    bool isPictureOld_ = true;
+    QImage grid_;  // what the picture shows of the drawing before the first trace
     std::vector<Runtime::Drawn> drawnOnGrid_;
 };
 
