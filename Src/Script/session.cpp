@@ -1,5 +1,6 @@
 #include "Script/session.h"
 
+#include <new>
 #include <utility>
 
 #include "Orvo/store/stored_widgets.h"
@@ -79,6 +80,9 @@ Session::~Session() {
 
 void Session::connect() {
     MarvaneAssistant& panel = owner_.panel();
+    if (errors_ == UnawaitedErrors::closeTheCommand) {
+        panel.setErrorHandler([this](const Error& error) { failed(error); });
+    }
     events_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
         raised(eventWith(dispatchId), arguments);
     });
@@ -86,18 +90,19 @@ void Session::connect() {
         prompterBefore_ = person_->store().prompter();
         person_->store().promptWith(this);
     }
-    if (errors_ == UnawaitedErrors::closeTheCommand) {
-        panel.setErrorHandler([this](const Error& error) { failed(error); });
-    }
 }
 
 std::optional<Misunderstood> Session::run(std::string_view text) {
     firstComplaint_.reset();
     try {
+        // There may have been no memory for it when the panel was fresh.
+        if (!events_.isConnected()) connect();
         const std::vector<Word> words = split(text);
         if (!words.empty()) perform(parse(words, grammar_));
     } catch (const Misunderstood& misunderstood) {
         line(complaint(misunderstood));
+    } catch (const std::bad_alloc&) {
+        output_("! 7 Out of memory");  // put together in advance
     }
     return std::exchange(firstComplaint_, std::nullopt);
 }
@@ -140,9 +145,9 @@ void Session::perform(const Runtime::Deed& deed) const {
 }
 
 void Session::renew() {
+    owner_.renew();
     forgetHandlers();
     queue_.clear();
-    owner_.renew();
 }
 
 void Session::startAnswer() {

@@ -77,6 +77,10 @@ Notification Store::notify(Notification notification) {
     return notification;
 }
 
+void Store::failed(const Error& error) {
+    if (sink_ != nullptr) sink_->failed(error);
+}
+
 StoredTimer* Store::nextTimer() const {
     StoredTimer* next = nullptr;
     for (const WidgetId id : Layout::kAll<Kind::timer>) {
