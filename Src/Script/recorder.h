@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <cstdint>
-#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -79,7 +78,7 @@ private:
     void note(const Note& note) {
         try {
             note();
-        } catch (const std::bad_alloc&) {
+        } catch (...) {
             file_.lose();
         }
     }

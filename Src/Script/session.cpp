@@ -95,8 +95,6 @@ void Session::connect() {
 std::optional<Misunderstood> Session::run(std::string_view text) {
     firstComplaint_.reset();
     try {
-        // There may have been no memory for it when the panel was fresh.
-        if (!events_.isConnected()) connect();
         const std::vector<Word> words = split(text);
         if (!words.empty()) perform(parse(words, grammar_));
     } catch (const Misunderstood& misunderstood) {
@@ -222,6 +220,8 @@ void Session::perform(const ParsedCommand& command) {
 std::string Session::closingLine(const ParsedCommand& command) {
     Frame frame(*this);
     try {
+        // There may have been no memory for it when the panel was fresh.
+        if (!events_.isConnected()) connect();
         std::string closing = command.carryOut(*this);
         return frame.error ? failure(*frame.error) : closing;
     } catch (const Error& error) {

@@ -39,6 +39,7 @@ class Store final : public Widgets::WidgetTree,
 public:
     using Milliseconds = std::chrono::milliseconds;
 
+    /// Error 7 when memory runs out.
     static std::shared_ptr<Store> create();
     ~Store() override;
     Store(const Store&) = delete;
