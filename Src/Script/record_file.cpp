@@ -20,6 +20,7 @@ RecordFile::RecordFile(const std::string& path, Existing existing)
     : path_(path), file_(NewFile(path, existing, Readers::owner).keep()) {}
 
 void RecordFile::append(std::string_view lines) {
+    if (!isWhole_) return;
     unwritten_ += lines;
     if (!failure_) return flush();
     if (unwritten_.size() <= kMostUnwritten) return;
@@ -37,11 +38,12 @@ void RecordFile::flush() {
 
 // A line that is cut off would be taken for another.
 void RecordFile::giveUp(const std::string& reason) {
-    failure_ = path_ + ": " + reason;
     static_cast<void>(::ftruncate(file_.get(), static_cast<off_t>(size_)));
+    failure_ = path_ + ": " + reason;
 }
 
 const std::optional<std::string>& RecordFile::failure() {
+    if (!isWhole_ && !failure_) failure_ = path_ + ": Out of memory";
     if (isRemoved() && !failure_) failure_ = path_ + ": The file was removed";
     return failure_;
 }

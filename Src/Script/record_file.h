@@ -24,6 +24,10 @@ public:
     /// Whole lines with their line breaks.
     void append(std::string_view lines);
 
+    /// The file takes no more: there was no memory for a line, and no other file is to go on
+    /// without it.
+    void lose() noexcept { isWhole_ = false; }
+
     /// Why the file takes no more, if so: "FILE: REASON". One that is removed takes no more, which
     /// shows only when it is looked at here.
     const std::optional<std::string>& failure();

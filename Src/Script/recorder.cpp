@@ -28,7 +28,8 @@ Recorder::Recorder(RecordFile file, PanelOwner& owner, Answers answers)
     : owner_(owner),
       file_(std::move(file)),
       answers_(answers),
-      renewals_(owner.onRenewed([this] { hear(); }, [this] { panelEnds(); })) {
+      renewals_(owner.onRenewed([this] { note([this] { hear(); }); },
+                                [this] { note([this] { panelEnds(); }); })) {
     file_.append(kHeading);
     hear();
 }
@@ -43,37 +44,39 @@ void Recorder::hear() {
     store().input().observeWith(this);
     calls_ = owner_.panel().listen(*this);
     events_ = owner_.panel().connect([this](Long dispatchId, std::span<Value> arguments) {
-        raised(eventWith(dispatchId), arguments);
+        note([&] { raised(eventWith(dispatchId), arguments); });
     });
 }
 
 void Recorder::panelEnds() {
-    writeWait();
-    write("new");
     store().input().observeWith(nullptr);
+    wait();
+    write("new");
     ongoing_.clear();
     resumptions_ = 0;
 }
 
 void Recorder::pointerIsSet() {
-    writeWait();
-    write("pointer " + std::to_string(static_cast<Integer>(store().pointer())));
+    note([this] {
+        wait();
+        write("pointer " + std::to_string(static_cast<Integer>(store().pointer())));
+    });
 }
 
 void Recorder::called(const Member& member, std::span<const Value> arguments) {
-    begin(commandText(member, arguments));
+    note([&] { begin(commandText(member, arguments)); });
 }
 
 void Recorder::returned(const Member& /*member*/, const Value& /*result*/) { end(); }
 
 void Recorder::failed(const Member& /*member*/, const Error& error) {
-    file_.append("# ! " + textOf(error) + '\n');
+    note([&] { file_.append("# ! " + textOf(error) + '\n'); });
     end();
 }
 
 void Recorder::does(const Runtime::Deed& deed) {
     const bool isMove = deed.verb == Runtime::Deed::Verb::move;
-    begin(commandText(deed), isMove ? std::optional(deed.widget) : std::nullopt);
+    note([&] { begin(commandText(deed), isMove ? std::optional(deed.widget) : std::nullopt); });
 }
 
 void Recorder::did() {
@@ -83,9 +86,9 @@ void Recorder::did() {
     // The language moves a slider and lets go of it in one.
     const auto& slider = deed.movedSlider;
     if (slider && store().get<Runtime::StoredSlider>(*slider).state().isHeld) {
-        write(commandText({.verb = Runtime::Deed::Verb::hold, .widget = *slider}));
+        note([&] { write(commandText({.verb = Runtime::Deed::Verb::hold, .widget = *slider})); });
     }
-    if (deed.state == State::over) writeWhatASecretLeft();
+    if (deed.state == State::over) note([this] { writeWhatASecretLeft(); });
 }
 
 // Who knows the password has the hourglass at the end, and the button that starts it all enabled,
@@ -101,8 +104,10 @@ void Recorder::writeWhatASecretLeft() {
 void Recorder::answered(const std::optional<String>& answer) {
     if (ongoing_.empty() || ongoing_.back().state == State::over) return;
     const bool isTold = answer && answers_ == Answers::inFull;
-    writeWait();
-    file_.append("answer " + (isTold ? textOf(StringView(*answer)) : "cancel") + '\n');
+    note([&] {
+        wait();
+        file_.append("answer " + (isTold ? textOf(StringView(*answer)) : "cancel") + '\n');
+    });
     // No event takes what stands behind an answer that it hasn't got.
     resumptions_ = 0;
     ongoing_.back().state = answer && !isTold ? State::over : State::running;
@@ -117,7 +122,7 @@ void Recorder::raised(const Event& event, std::span<const Value> arguments) {
 }
 
 void Recorder::begin(std::string_view command, std::optional<Widgets::WidgetId> movedSlider) {
-    writeWait();
+    wait();
     write(command);
     ongoing_.push_back({.movedSlider = movedSlider});
 }
@@ -130,7 +135,7 @@ void Recorder::end() {
 
 // At an event or a prompt; what it was stopped at before is done with.
 void Recorder::stop() {
-    writeWait();
+    wait();
     if (ongoing_.empty() || ongoing_.back().state == State::over) return;
     if (std::exchange(ongoing_.back().state, State::stopped) == State::stopped) ++resumptions_;
 }
@@ -152,6 +157,10 @@ void Recorder::write(std::string_view command) {
 }
 
 void Recorder::writeWait() {
+    note([this] { wait(); });
+}
+
+void Recorder::wait() {
     auto time = store().now() - std::exchange(time_, store().now());
     while (time.count() > 0) {
         const auto wait = std::min(time, kLongestWait);

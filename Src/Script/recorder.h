@@ -62,16 +62,31 @@ private:
     void failed(const Member& member, const Error& error) override;
     void does(const Runtime::Deed& deed) override;
     void did() override;
-    void asks() override { stop(); }
+    void asks() override {
+        note([this] { stop(); });
+    }
     void answered(const std::optional<String>& answer) override;
-    void ticks() override { ongoing_.push_back({.state = State::unwritten}); }
+    void ticks() override {
+        note([this] { ongoing_.push_back({.state = State::unwritten}); });
+    }
     void ticked() override { end(); }
     void raised(const Event& event, std::span<const Value> arguments);
+
+    /// Whoever tells of something goes on, also when there is no memory to write it down.
+    template <class Note>
+    void note(const Note& note) {
+        try {
+            note();
+        } catch (...) {
+            file_.lose();
+        }
+    }
 
     void hear();
     void panelEnds();
     Runtime::Store& store() { return owner_.store(); }
 
+    void wait();
     void begin(std::string_view command, std::optional<Widgets::WidgetId> movedSlider = {});
     void end();
     void stop();

@@ -1,5 +1,6 @@
 #include "Script/session.h"
 
+#include <new>
 #include <utility>
 
 #include "Orvo/store/stored_widgets.h"
@@ -79,15 +80,15 @@ Session::~Session() {
 
 void Session::connect() {
     MarvaneAssistant& panel = owner_.panel();
+    if (errors_ == UnawaitedErrors::closeTheCommand) {
+        panel.setErrorHandler([this](const Error& error) { failed(error); });
+    }
     events_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
         raised(eventWith(dispatchId), arguments);
     });
     if (person_ != nullptr) {
         prompterBefore_ = person_->store().prompter();
         person_->store().promptWith(this);
-    }
-    if (errors_ == UnawaitedErrors::closeTheCommand) {
-        panel.setErrorHandler([this](const Error& error) { failed(error); });
     }
 }
 
@@ -98,6 +99,8 @@ std::optional<Misunderstood> Session::run(std::string_view text) {
         if (!words.empty()) perform(parse(words, grammar_));
     } catch (const Misunderstood& misunderstood) {
         line(complaint(misunderstood));
+    } catch (const std::bad_alloc&) {
+        output_("! 7 Out of memory");  // put together in advance
     }
     return std::exchange(firstComplaint_, std::nullopt);
 }
@@ -140,9 +143,9 @@ void Session::perform(const Runtime::Deed& deed) const {
 }
 
 void Session::renew() {
+    owner_.renew();
     forgetHandlers();
     queue_.clear();
-    owner_.renew();
 }
 
 void Session::startAnswer() {
@@ -217,6 +220,8 @@ void Session::perform(const ParsedCommand& command) {
 std::string Session::closingLine(const ParsedCommand& command) {
     Frame frame(*this);
     try {
+        // There may have been no memory for it when the panel was fresh.
+        if (!events_.isConnected()) connect();
         std::string closing = command.carryOut(*this);
         return frame.error ? failure(*frame.error) : closing;
     } catch (const Error& error) {

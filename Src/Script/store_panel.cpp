@@ -14,14 +14,17 @@ public:
     Runtime::Ports ports;  // NOLINT(*-non-private-member-variables-in-classes)
 };
 
-StorePanel::StorePanel() : spooler_(std::make_shared<Spooler>()) { exchange(); }
+StorePanel::StorePanel() : spooler_(std::make_shared<Spooler>()) {
+    exchange([] {});
+}
 
 void StorePanel::connectPorts(const Runtime::Ports& ports) { spooler_->ports = ports; }
 
-// A panel that can't be made leaves the present one.
-void StorePanel::exchange() {
+void StorePanel::exchange(const std::function<void()>& ending) {
     auto store = Runtime::Store::create();
-    panel_ = std::make_unique<MarvaneAssistant>(store, Platform{.spooler = spooler_});
+    auto panel = std::make_unique<MarvaneAssistant>(store, Platform{.spooler = spooler_});
+    ending();
+    panel_ = std::move(panel);
     store_ = std::move(store);
 }
 

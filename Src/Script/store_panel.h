@@ -19,7 +19,7 @@ public:
 private:
     class Spooler;
 
-    void exchange() override;
+    void exchange(const std::function<void()>& ending) override;
 
     std::shared_ptr<Runtime::Store> store_;
     std::shared_ptr<Spooler> spooler_;  // the machine's: a fresh panel has the same

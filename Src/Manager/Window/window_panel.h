@@ -23,7 +23,7 @@ public:
     void shoot(const String& file) override;
 
 private:
-    void exchange() override { window_.renew(); }
+    void exchange(const std::function<void()>& ending) override { window_.renew(ending); }
     [[nodiscard]] QWidget* controlFor(const Runtime::Deed& deed) const;
 
     Window::PanelWidget& window_;

@@ -31,14 +31,14 @@ Integer is a 16-bit, Long a 32-bit signed number; String is length-counted UTF-1
 
 A channel is 1 to 4, a pair 1 (channels 1 and 2) or 2 (channels 3 and 4), and 0, where it is taken, the whole amplifier. An index outside a member's range does nothing, or reads false, unless the member says otherwise.
 
-Every member may end with an error: 1001 when it is called from another thread than the panel's, or whatever the widgets' runtime reports. What it wrote before that stays written.
+Every member may end with an error: 1001 when it is called from another thread than the panel's, 7 when memory runs out, or whatever the widgets' runtime reports. What it wrote before that stays written, and the panel goes on.
 )";
 
 /// What holds for all events, likewise.
 inline constexpr std::string_view kEventRules =
 R"(The panel's events, by dispatch id; in C++ a sink overrides those that it wants to hear.
 
-Arguments are references to copies made for each call: assigning to them changes nothing in the panel. A handler may call the panel, connect and disconnect sinks, and release the panel. An exception that it lets escape goes to the panel's error handler, and the panel goes on.
+Arguments are references to copies made for each call: assigning to them changes nothing in the panel. A handler may call the panel, connect and disconnect sinks, and release the panel. An exception that it lets escape goes to the panel's error handler, and so does error 7 when there is no memory for the copies; the panel goes on.
 )";
 
 // clang-format on

@@ -18,7 +18,7 @@ void tellLateBound(const LateBoundSink& sink, Long dispatchId, const Arguments&.
 
 }  // namespace
 
-Error currentError() {
+Error currentError() try {
     try {
         throw;
     } catch (const Error& error) {
@@ -30,6 +30,8 @@ Error currentError() {
     } catch (...) {
         return Errors::hostFailure("unknown exception");
     }
+} catch (const std::bad_alloc&) {
+    return Errors::outOfMemory();
 }
 
 Connection EventHub::connect(MarvaneAssistantEvents& sink) { return sinks_.add({.typed = &sink}); }

@@ -11,7 +11,8 @@ namespace Orvo {
 /// Ends what the panel is doing, without an error, because the panel has been released meanwhile.
 struct Released {};
 
-/// The error currently being handled, whatever was thrown, by its number and description.
+/// The error currently being handled, whatever was thrown, by its number and description; error 7
+/// when there is no memory to tell of another.
 Error currentError();
 
 /// Hands an event on to every sink, in the order in which they were connected; each gets copies of

@@ -8,7 +8,8 @@ namespace Orvo {
 ///
 /// Arguments are references to copies made for each call: assigning to them changes nothing in the
 /// panel. A handler may call the panel, connect and disconnect sinks, and release the panel. An
-/// exception that it lets escape goes to the panel's error handler, and the panel goes on.
+/// exception that it lets escape goes to the panel's error handler, and so does error 7 when there
+/// is no memory for the copies; the panel goes on.
 class MarvaneAssistantEvents {
 public:
     virtual ~MarvaneAssistantEvents() = default;

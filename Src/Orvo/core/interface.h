@@ -18,7 +18,8 @@ namespace Orvo {
 /// unless the member says otherwise.
 ///
 /// Every member may end with an error: 1001 when it is called from another thread than the panel's,
-/// or whatever the widgets' runtime reports. What it wrote before that stays written.
+/// 7 when memory runs out, or whatever the widgets' runtime reports. What it wrote before that
+/// stays written, and the panel goes on.
 class MarvaneAssistantInterface {
 public:
     virtual ~MarvaneAssistantInterface() = default;

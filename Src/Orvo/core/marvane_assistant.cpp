@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <new>
 #include <type_traits>
 #include <utility>
 
@@ -24,6 +25,17 @@ template <class Argument>
 using Passed =
     std::conditional_t<std::is_trivially_copyable_v<Argument>, Argument, const Argument&>;
 
+// Whatever a host calls goes through here: on the right thread, with the panel kept alive until it
+// returns, and with error 7 when there is no memory.
+template <class Act>
+auto onItsThread(Panel& panel, const Act& act) try {
+    panel.checkThread();
+    const UnderWay underWay(panel);
+    return act(panel);
+} catch (const std::bad_alloc&) {
+    throw Errors::outOfMemory();
+}
+
 // Carries a call out and tells the listeners of it. Apart from `call`, which it would slow down by
 // half with all that it keeps at hand.
 template <class... Arguments, class Act>
@@ -31,8 +43,8 @@ template <class... Arguments, class Act>
                                  Arguments... arguments) {
     const std::array<Value, sizeof...(Arguments)> values{arguments...};
     auto& listeners = panel.callListeners;
-    listeners.tell([&](CallListener* listener) { listener->called(member, values); });
     try {
+        listeners.tell([&](CallListener* listener) { listener->called(member, values); });
         if constexpr (std::is_void_v<decltype(act(panel, arguments...))>) {
             act(panel, arguments...);
             listeners.tell([&](CallListener* listener) { listener->returned(member, {}); });
@@ -48,19 +60,17 @@ template <class... Arguments, class Act>
     }
 }
 
-// Each call of a member goes through here: on the right thread, and with the panel kept alive until
-// it returns. The subject's function takes `kFirst` before the member's own arguments.
+// A call of a member. The subject's function takes `kFirst` before the member's own arguments.
 template <Name kName, auto kSubject, auto kFunction, auto... kFirst, class... Arguments>
 auto call(const std::unique_ptr<Panel>& called, const Arguments&... arguments) {
     static constexpr const Member& kMember = memberNamed<Arguments...>(kName.text.data());
-    Panel& panel = *called;
-    panel.checkThread();
-    const UnderWay underWay(panel);
-    const auto act = [](Panel& subjects, const Arguments&... own) {
-        return std::invoke(kFunction, subjects.*kSubject, kFirst..., own...);
-    };
-    if (panel.callListeners.isEmpty()) return act(panel, arguments...);
-    return callAloud<Passed<Arguments>...>(panel, kMember, act, arguments...);
+    return onItsThread(*called, [&](Panel& panel) {
+        const auto act = [](Panel& subjects, const Arguments&... own) {
+            return std::invoke(kFunction, subjects.*kSubject, kFirst..., own...);
+        };
+        if (panel.callListeners.isEmpty()) return act(panel, arguments...);
+        return callAloud<Passed<Arguments>...>(panel, kMember, act, arguments...);
+    });
 }
 
 String trimmed(const PortDiscovery& /*discovery*/, const String& text) {
@@ -69,7 +79,8 @@ String trimmed(const PortDiscovery& /*discovery*/, const String& text) {
 
 }  // namespace
 
-MarvaneAssistant::MarvaneAssistant(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform)
+MarvaneAssistant::MarvaneAssistant(std::shared_ptr<Widgets::WidgetTree> runtime,
+                                   Platform platform) try
     : panel_(std::make_unique<Panel>(std::move(runtime), std::move(platform))) {
     try {
         panel_->create();
@@ -77,32 +88,30 @@ MarvaneAssistant::MarvaneAssistant(std::shared_ptr<Widgets::WidgetTree> runtime,
         Panel::release(std::move(panel_));
         throw;
     }
+} catch (const std::bad_alloc&) {
+    throw Errors::outOfMemory();
 }
 
 MarvaneAssistant::~MarvaneAssistant() { Panel::release(std::move(panel_)); }
 
-Panel& MarvaneAssistant::onItsThread() const {
-    panel_->checkThread();
-    return *panel_;
-}
-
 Connection MarvaneAssistant::connect(MarvaneAssistantEvents& sink) {
-    return onItsThread().events.connect(sink);
+    return onItsThread(*panel_, [&](Panel& panel) { return panel.events.connect(sink); });
 }
 
 Connection MarvaneAssistant::connect(LateBoundSink sink) {
-    return onItsThread().events.connect(std::move(sink));
+    return onItsThread(*panel_,
+                       [&](Panel& panel) { return panel.events.connect(std::move(sink)); });
 }
 
 Connection MarvaneAssistant::listen(CallListener& listener) {
-    return onItsThread().callListeners.add(&listener);
+    return onItsThread(*panel_, [&](Panel& panel) { return panel.callListeners.add(&listener); });
 }
 
 void MarvaneAssistant::setErrorHandler(ErrorHandler handler) {
-    Panel& panel = onItsThread();
-    const UnderWay underWay(panel);
-    panel.setErrorHandler(std::move(handler));
+    onItsThread(*panel_, [&](Panel& panel) { panel.setErrorHandler(std::move(handler)); });
 }
+
+void MarvaneAssistant::swap(MarvaneAssistant& other) noexcept { panel_.swap(other.panel_); }
 
 InvokeResult MarvaneAssistant::invoke(Long dispatchId, MemberKind kind,
                                       std::span<const Value> arguments) {

@@ -19,16 +19,22 @@ class Panel;
 ///
 /// It talks to no device: a host pushes in what the amplifier reports through the members, and
 /// hears through the events what a person wants. All calls come from the thread that created it;
-/// error 1001 on any other, and nothing is changed. Events are raised on that thread too, and the
-/// host's handler may call back into the panel, or release it.
+/// error 1001 on any other, and nothing is changed. Whatever is called may end with error 7, when
+/// memory runs out: the panel is as usable afterwards as it was before. Events are raised on that
+/// thread too, and the host's handler may call back into the panel, or release it.
 class MarvaneAssistant final : public MarvaneAssistantInterface {
 public:
     /// Creates the panel over a fresh set of widgets and runs its start-up. An error of the
-    /// start-up reaches the caller. The panel and the caller share the widgets.
+    /// start-up, or error 7 when memory runs out, reaches the caller. The panel and the caller
+    /// share the widgets.
     explicit MarvaneAssistant(std::shared_ptr<Widgets::WidgetTree> runtime, Platform platform = {});
     ~MarvaneAssistant() override;
     MarvaneAssistant(const MarvaneAssistant&) = delete;
     MarvaneAssistant& operator=(const MarvaneAssistant&) = delete;
+
+    /// Exchanges two panels, with all that is connected to them, behind the objects that hosts
+    /// hold.
+    void swap(MarvaneAssistant& other) noexcept;
 
     /// Connects a sink until the connection ends; a typed sink must live as long. An event goes to
     /// the sinks in the order in which they were connected.
@@ -44,7 +50,8 @@ public:
     InvokeResult invoke(Long dispatchId, MemberKind kind, std::span<const Value> arguments = {});
 
     /// Who is told of an error that nobody waits for: one that ended the handling of a click or a
-    /// tick, or that an event's handler let escape. Without one it is written to standard error.
+    /// tick, or that an event's handler let escape; error 7 when memory ran out for one of these.
+    /// Without one it is written to standard error.
     void setErrorHandler(ErrorHandler handler);
 
     String TrimStr(const String& strName) override;
@@ -85,8 +92,6 @@ public:
     Boolean ReadOnly() override;
 
 private:
-    [[nodiscard]] Panel& onItsThread() const;
-
     std::unique_ptr<Panel> panel_;
 };
 

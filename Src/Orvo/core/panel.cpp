@@ -46,7 +46,6 @@ private:
 
 Panel::Panel(std::shared_ptr<WidgetTree> runtime, Platform platform)
     : runtime_(std::move(runtime)),
-      errorHandler_(writeToStandardError),
       prompt_(std::make_unique<Prompt>(runtime_->inputPrompt())),
       informationEntry(*runtime_, *prompt_, amplifierId, events),
       portDiscovery(std::move(platform)) {}
@@ -91,16 +90,21 @@ void Panel::notify(Notification& notification) {
     }
 }
 
+void Panel::failed(const Error& error) {
+    const UnderWay underWay(*this);
+    report(error);
+}
+
 void Panel::refuseThread() { throw Errors::wrongThread(); }
 
 void Panel::setErrorHandler(ErrorHandler handler) {
-    errorHandler_ = handler ? std::move(handler) : writeToStandardError;
+    errorHandler_ = handler ? std::make_shared<const ErrorHandler>(std::move(handler)) : nullptr;
 }
 
 void Panel::report(const Error& error) const {
-    const ErrorHandler handler = errorHandler_;
+    const auto handler = errorHandler_;
     try {
-        handler(error);
+        handler != nullptr ? (*handler)(error) : writeToStandardError(error);
     } catch (...) {
         writeToStandardError(currentError());
     }

@@ -40,6 +40,7 @@ public:
     static void release(std::unique_ptr<Panel> panel);
 
     void notify(Widgets::Notification& notification) override;
+    void failed(const Error& error) override;
 
     /// Throws error 1001 on another thread than the one that made the panel.
     void checkThread() const {
@@ -63,7 +64,7 @@ private:
     bool isUnderWay_ = false;
     std::unique_ptr<Panel> released_;  // itself, until what is under way ends
     std::shared_ptr<Widgets::WidgetTree> runtime_;
-    ErrorHandler errorHandler_;
+    std::shared_ptr<const ErrorHandler> errorHandler_;  // none: standard error
     ErrorHandler onError_ = [this](const Error& error) { report(error); };
     std::unique_ptr<Prompt> prompt_;
 

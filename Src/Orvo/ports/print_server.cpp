@@ -6,8 +6,11 @@
 #include <mutex>
 #include <system_error>
 #include <thread>
+#include <utility>
 
+#include <fcntl.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 #include "Orvo/ports/cups_library.h"
 #include "Orvo/ports/queue_listing.h"
@@ -40,18 +43,19 @@ private:
     bool isOver_ = false;
 };
 
-// For as long as the connection's socket can be ended from outside: not once its number may be
-// another's.
+// For as long as the connection can be ended from outside: by a number of its own for the socket,
+// as the library may close its number, which is another's then.
 class Inquiry::Open {
 public:
     Open(Inquiry& inquiry, http_t* connection) : inquiry_(inquiry) {
         const std::lock_guard lock(inquiry_.mutex_);
-        if (!inquiry_.isOver_) inquiry_.socket_ = cups().httpGetFd(connection);
-        isInTime = !inquiry_.isOver_;
+        if (inquiry_.isOver_) return;
+        inquiry_.socket_ = ::fcntl(cups().httpGetFd(connection), F_DUPFD_CLOEXEC, 0);
+        isInTime = inquiry_.socket_ >= 0;
     }
     ~Open() {
         const std::lock_guard lock(inquiry_.mutex_);
-        inquiry_.socket_ = -1;
+        if (isInTime) ::close(std::exchange(inquiry_.socket_, -1));
     }
     Open(const Open&) = delete;
     Open& operator=(const Open&) = delete;

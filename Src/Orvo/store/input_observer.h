@@ -8,7 +8,7 @@
 namespace Orvo::Runtime {
 
 /// Sees what comes to a panel from elsewhere than its host: what a person does, and the ticks of
-/// its timers. A press that does nothing yet is told of with its release.
+/// its timers. A press that does nothing yet is told of with its release. It throws nothing.
 class InputObserver {
 public:
     virtual ~InputObserver() = default;

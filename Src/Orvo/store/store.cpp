@@ -1,11 +1,13 @@
 #include "Orvo/store/store.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/user_input.h"
 #include "Orvo/store/widget_block.h"
+#include "Orvo/values/error.h"
 
 namespace Orvo::Runtime {
 
@@ -20,7 +22,11 @@ struct Store::Parts {
     WidgetBlock widgets;
 };
 
-std::shared_ptr<Store> Store::create() { return std::shared_ptr<Store>(new Store); }
+std::shared_ptr<Store> Store::create() try {
+    return std::shared_ptr<Store>(new Store);
+} catch (const std::bad_alloc&) {
+    throw Errors::outOfMemory();
+}
 
 Store::Store() : parts_(std::make_unique<Parts>(*this)) {}
 Store::~Store() = default;
@@ -75,6 +81,10 @@ bool Store::acceptsInput(WidgetId id) const {
 Notification Store::notify(Notification notification) {
     if (sink_ != nullptr) sink_->notify(notification);
     return notification;
+}
+
+void Store::failed(const Error& error) {
+    if (sink_ != nullptr) sink_->failed(error);
 }
 
 StoredTimer* Store::nextTimer() const {

@@ -39,6 +39,7 @@ class Store final : public Widgets::WidgetTree,
 public:
     using Milliseconds = std::chrono::milliseconds;
 
+    /// Error 7 when memory runs out.
     static std::shared_ptr<Store> create();
     ~Store() override;
     Store(const Store&) = delete;
@@ -52,7 +53,8 @@ public:
     /// it, ignores it; which tab is in front doesn't matter. A slider goes no further than its
     /// bounds, and a move that changes the position notifies. False when nothing comes of it: the
     /// widget ignores it or is of another kind, an item is not in the list, a tab is disabled, a
-    /// slider is there already or not held, or the panel discards the key.
+    /// slider is there already or not held, the panel discards the key, or there is no memory for
+    /// it, which is told to the panel's error handler.
     bool perform(const Deed& deed);
 
     /// Whether the widget shows, and takes input, with everything that contains it. A tab that is
@@ -123,6 +125,8 @@ private:
     inline void changed(WidgetId widget);
     /// The notification as its handler left it.
     Widgets::Notification notify(Widgets::Notification notification);
+    /// What a person did ended with an error that the panel has not seen.
+    void failed(const Error& error);
     [[nodiscard]] StoredTimer* nextTimer() const;
     void tick(const StoredTimer& timer);
     /// Of those that a person holds and that take no input any more.

@@ -1,12 +1,14 @@
 #include "Orvo/store/user_input.h"
 
 #include <memory>
+#include <new>
 #include <optional>
 #include <utility>
 
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/store.h"
 #include "Orvo/store/stored_widgets.h"
+#include "Orvo/values/error.h"
 
 namespace Orvo::Runtime {
 
@@ -44,14 +46,9 @@ std::optional<Kind> kindFor(Deed::Verb verb) {
 
 }  // namespace
 
-// Whatever a person does may bring the host to release the panel: the widgets live until it is
-// over.
 class UserInput::Doing {
 public:
-    Doing(UserInput& input, const Deed& deed)
-        : alive_(input.store_.shared_from_this()),
-          input_(input),
-          isTold_(input.observer_ != nullptr) {
+    Doing(UserInput& input, const Deed& deed) : input_(input), isTold_(input.observer_ != nullptr) {
         if (isTold_) input.observer_->does(deed);
     }
     ~Doing() {
@@ -61,13 +58,23 @@ public:
     Doing& operator=(const Doing&) = delete;
 
 private:
-    std::shared_ptr<Store> alive_;
     UserInput& input_;
     bool isTold_;
 };
 
-bool UserInput::perform(Deed deed) {
-    deed = withinBounds(std::move(deed));
+// Whatever a person does may bring the host to release the panel: the widgets live until it is
+// over.
+bool UserInput::perform(const Deed& deed) {
+    const auto alive = store_.shared_from_this();
+    try {
+        return attempt(withinBounds(deed));
+    } catch (const std::bad_alloc&) {
+        store_.failed(Errors::outOfMemory());
+        return false;
+    }
+}
+
+bool UserInput::attempt(const Deed& deed) {
     if (!isTaken(deed)) return false;
     const Doing doing(*this, deed);
     if (deed.verb == Deed::Verb::key)

@@ -31,7 +31,8 @@ private:
     friend class Store;
     class Doing;
 
-    bool perform(Deed deed);
+    bool perform(const Deed& deed);
+    bool attempt(const Deed& deed);
     [[nodiscard]] Deed withinBounds(Deed deed) const;
     [[nodiscard]] bool isTaken(const Deed& deed) const;
     void carryOut(const Deed& deed);

@@ -26,7 +26,9 @@ namespace Errors {
 
 inline Error invalidCall() { return {5, "Invalid procedure call or argument"}; }
 inline Error overflow() { return {6, "Overflow"}; }
-inline Error outOfMemory() { return {7, "Out of memory"}; }
+// Made while there is memory: a copy takes none.
+inline const Error kOutOfMemory{7, "Out of memory"};
+inline Error outOfMemory() { return kOutOfMemory; }
 inline Error subscriptOutOfRange() { return {9, "Subscript out of range"}; }
 inline Error typeMismatch() { return {13, "Type mismatch"}; }
 inline Error interrupted() { return {18, "User interrupt occurred"}; }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "Orvo/values/error.h"
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/kind.h"
 #include "Orvo/widgets/reference.h"
@@ -26,6 +27,8 @@ public:
     virtual ~NotificationSink() = default;
     /// Throws only for Cause::code.
     virtual void notify(Notification& notification) = 0;
+    /// What a person did ended with an error before, or after, it was notified.
+    virtual void failed([[maybe_unused]] const Error& error) {}
 };
 
 }  // namespace Orvo::Widgets

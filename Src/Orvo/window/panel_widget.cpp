@@ -16,6 +16,13 @@ struct PanelWidget::Parts {
         panel.emplace(store, platform);
     }
 
+    // The panel's object stays where hosts know it.
+    void takeTurns(Parts& other) noexcept {
+        panel->swap(*other.panel);
+        screen.swap(other.screen);
+        store.swap(other.store);
+    }
+
     const Platform platform;
     const Clock clock;
     std::shared_ptr<Runtime::Store> store{};
@@ -50,11 +57,14 @@ void PanelWidget::setZoom(double zoom) {
 QSize PanelWidget::sizeHint() const { return parts_->screen->size(); }
 QSize PanelWidget::minimumSizeHint() const { return sizeHint(); }
 
-void PanelWidget::renew() {
+void PanelWidget::renew(const std::function<void()>& ending) {
+    Parts fresh{parts_->platform, parts_->clock};
+    fresh.make(this);
+    ending();
     const double before = zoom();
-    parts_->panel.reset();
-    parts_->screen.reset();
-    parts_->make(this);
+    fresh.takeTurns(*parts_);
+    fresh.panel.reset();
+    fresh.screen.reset();
     setZoom(before);
     parts_->screen->show();
     flush();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QWidget>
@@ -46,8 +47,9 @@ public:
 
     /// Releases the panel and creates a fresh one in its place, with fresh widgets; also from
     /// within a handler of one of the panel's events. `panel()` stays the same object, but nothing
-    /// is connected to it; `store()` is another one. Throws what start-up throws.
-    void renew();
+    /// is connected to it; `store()` is another one. Throws what start-up throws, and the present
+    /// panel stays then. `ending` is called, and throws nothing, before the present one goes.
+    void renew(const std::function<void()>& ending = [] {});
 
     /// The control of a widget, such as a button or a scope, until `renew`; null for a widget that
     /// is only painted.

@@ -19,13 +19,15 @@ constexpr std::string_view kAnswer = "-> ";
 // A panel whose start-up is observed as well.
 class PanelFromStart final : public Script::PanelOwner, public Script::Person {
 public:
-    explicit PanelFromStart(OperationLog& log) : log_(log) { exchange(); }
+    explicit PanelFromStart(OperationLog& log) : log_(log) {
+        exchange([] {});
+    }
 
     MarvaneAssistant& panel() override { return *panel_; }
     Runtime::Store& store() override { return *store_; }
 
 private:
-    void exchange() override {
+    void exchange(const std::function<void()>& /*ending*/) override {
         const auto store = Runtime::Store::create();
         store->observeWith(&log_);
         panel_ = std::make_unique<MarvaneAssistant>(store);
