@@ -1,0 +1,69 @@
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Fuzz/fuzz.h"
+#include "Fuzz/hurried_panel.h"
+#include "Script/recorder.h"
+#include "Script/recordings.h"
+#include "Support/temporary_directory.h"
+
+// A session is recorded, the recording is replayed and recorded in turn. A recording is understood
+// to its end, leaves the panel as the session did, and, when it holds the answers, raises the same
+// events and is recorded as what it is.
+namespace Orvo::Fuzz {
+namespace {
+
+struct Course {
+    std::string answers;
+    std::string recording;
+    std::string state;
+};
+
+template <class Panel>
+Course recorded(const std::string& script, Script::Answers answers) {
+    static const Tests::TemporaryDirectory kDirectory;
+    const std::string file = kDirectory.path() / "session.txt";
+    Panel panel;
+    Course course;
+    {
+        const Script::Recorder recorder(Script::RecordFile(file, Script::Existing::overwritten),
+                                        panel, answers);
+        course.answers = Tests::answersOn(panel, script);
+    }
+    course.recording = Tests::textIn(file);
+    course.state = Tests::stateOf(panel);
+    return course;
+}
+
+/// Without what is done to the panel from elsewhere than host and person, which isn't recorded.
+std::string recordable(std::string_view input) {
+    std::string script;
+    for (Bytes lines(input); !lines.isAtEnd();) {
+        const auto line = lines.takeUntil('\n');
+        const bool isLeftOut = std::ranges::any_of(
+            std::to_array<std::string_view>({"set", "spooler", "pointer", "quit"}),
+            [&](auto word) { return line.find(word) != std::string_view::npos; });
+        if (!isLeftOut) script.append(line) += '\n';
+    }
+    return script;
+}
+
+}  // namespace
+
+void attackRecording(std::string_view input) {
+    const std::string script = recordable(input);
+    for (const auto answers : {Script::Answers::inFull, Script::Answers::asCancelled}) {
+        const Course session = recorded<HurriedPanel>(script, answers);
+        const Course replay = recorded<Script::StorePanel>(session.recording, answers);
+        const bool isUnderstood = ("\n" + replay.answers).find("\n? ") == std::string::npos;
+        expect(isUnderstood, "a recording that isn't understood", session.recording);
+        expect(replay.state == session.state, "another state", session.recording);
+        if (answers == Script::Answers::asCancelled) continue;
+        expect(Tests::eventsIn(replay.answers) == Tests::eventsIn(session.recording),
+               "other events", session.recording);
+        expect(replay.recording == session.recording, "another recording", session.recording);
+    }
+}
+
+}  // namespace Orvo::Fuzz
