@@ -4,10 +4,8 @@
 
 #include "Fuzz/fuzz.h"
 #include "Fuzz/hurried_panel.h"
-#include "Orvo/layout/roles.h"
-#include "Script/looking.h"
+#include "Orvo/store/screen.h"
 #include "Script/session.h"
-#include "Script/text_of.h"
 
 // A session. Each command has one closing line, and that is the last of its answer; a command that
 // isn't understood, or that isn't there, changes nothing.
@@ -16,52 +14,49 @@ namespace {
 
 using namespace Script;
 
-/// What can be seen of the panel.
-std::string lookAt(StorePanel& panel) {
-    std::string seen;
-    const auto keep = [&seen](std::string_view line) { seen.append(line) += '\n'; };
-    const Runtime::Store& widgets = panel.store();
-    for (Widgets::WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
-        keep(Looking::describe(widgets, id));
-    }
-    keep(std::to_string(panel.panel().ReadOnly().raw()));
-    keep(std::to_string(panel.panel().IdDevice()));
-    keep(std::to_string(widgets.now().count()));
-    keep(std::to_string(static_cast<int>(widgets.pointer())));
-    for (const String& item : widgets.get<Runtime::StoredList>(Layout::kCommon.log).state().items) {
-        keep(textOf(StringView(item)));
-    }
-    return seen;
-}
-
 bool isClosing(std::string_view answer) {
     return answer == "ok" || answer.starts_with("= ") || answer.starts_with("! ") ||
            answer.starts_with("? ");
 }
 
-class Interview {
+class Interview final : Runtime::Screen {
 public:
+    Interview() { look(); }
+    ~Interview() override { panel_.store().showOn(nullptr); }
+    Interview(const Interview&) = delete;
+    Interview& operator=(const Interview&) = delete;
+
     void say(std::string_view line) {
-        const std::string before = seen_;
         answers_.clear();
+        hasChanged_ = false;
+        const auto before = panel_.store().now();
         const bool isComplaint = session_.run(line).has_value();
-        seen_ = lookAt(panel_);
+        const bool isChanged = hasChanged_ || panel_.store().now() != before;
+        if (answers_.empty()) return expect(!isChanged, "silence has changed the panel", line);
         const auto closings = std::ranges::count_if(answers_, isClosing);
-        if (answers_.empty()) return expect(before == seen_, "silence has changed the panel", line);
         expect(closings == 1 && isClosing(answers_.back()), "not one closing line", line);
         if (!answers_.front().starts_with("? ")) return;
         expect(isComplaint, "a complaint was not reported", line);
-        expect(before == seen_, "a complaint has changed the panel", line);
+        expect(!isChanged, "a complaint has changed the panel", line);
     }
 
     [[nodiscard]] bool isOver() const { return session_.hasQuit(); }
 
 private:
+    void changed(Widgets::WidgetId /*widget*/) override { hasChanged_ = true; }
+    void pointerChanged() override { hasChanged_ = true; }
+
+    void look() {
+        panel_.store().showOn(this);
+        hasChanged_ = true;
+    }
+
+    bool hasChanged_ = false;
     std::vector<std::string> answers_;
     HurriedPanel panel_;
+    Connection renewals_ = panel_.onRenewed([this] { look(); });
     Session session_{
         panel_, panel_, {}, [this](std::string_view answer) { answers_.emplace_back(answer); }};
-    std::string seen_ = lookAt(panel_);
 };
 
 }  // namespace
