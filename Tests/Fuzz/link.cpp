@@ -28,7 +28,7 @@ using namespace std::chrono_literals;
 using Script::FileDescriptor;
 
 // No text has such a byte.
-constexpr char kCut = '\xFF';
+constexpr char kPersonsTurn = '\xFF';
 
 /// Where stations find the device.
 class Exchange {
@@ -66,6 +66,11 @@ public:
         device_ = exchange.pickUp();
     }
 
+    void lock() {
+        isLocked_ = true;
+        owner_.panel().ReadOnly(true);
+    }
+
     void send(std::string_view bytes) {
         while (!bytes.empty()) {
             const ssize_t sent = ::send(device_.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
@@ -78,8 +83,7 @@ public:
 
     void act(Bytes& bytes) {
         if (bytes.below(4) == 0) {
-            isLocked_ = true;
-            owner_.panel().ReadOnly(true);
+            lock();
         } else if (bytes.maybe()) {
             owner_.store().advance(std::chrono::milliseconds(bytes.below(4000)));
         } else {
@@ -152,21 +156,22 @@ void attackOverLink(std::string_view input) {
     Talk cut(kExchange);
     Talk whole(kExchange);
     std::string sent;
-    std::string unsent;
+    if (input.size() % 2 == 1) {
+        cut.lock();
+        whole.lock();
+    }
     for (Bytes bytes(input); !bytes.isAtEnd();) {
-        const auto piece = bytes.takeUntil(kCut);
-        cut.send(piece);
-        unsent += piece;
-        if (bytes.maybe()) continue;
-        whole.send(unsent);
-        sent += std::exchange(unsent, {});
+        const auto part = bytes.takeUntil(kPersonsTurn);
+        sent += part;
+        whole.send(part);
+        for (Bytes pieces(part); !pieces.isAtEnd();) cut.send(pieces.take(1 + part.size() % 16));
         Bytes same = bytes;
         cut.act(bytes);
         whole.act(same);
     }
-    whole.send(unsent + '\n');
+    sent += '\n';
     cut.send("\n");
-    sent += unsent + '\n';
+    whole.send("\n");
     if (cut.isCutOff() || whole.isCutOff()) return;
     expect(cut.answers() == whole.answers(), "answers that depend on the cuts", cut.answers());
     expect(cut.state() == whole.state(), "a panel that depends on the cuts", cut.answers());
