@@ -1,3 +1,4 @@
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <cstring>
@@ -98,12 +99,12 @@ public:
 
 private:
     void hearAnswers() {
-        std::string piece(1 << 16, ' ');
+        std::array<char, 4096> piece{};
         for (ssize_t count = 1; count > 0;) {
             station_.advance(0ms);
             count = ::recv(device_.get(), piece.data(), piece.size(), 0);
             isCutOff_ = isCutOff_ || count == 0;
-            if (count > 0) answers_.append(piece, 0, static_cast<std::size_t>(count));
+            if (count > 0) answers_.append(piece.data(), static_cast<std::size_t>(count));
         }
         const bool isLocked = owner_.panel().ReadOnly() == Boolean(true);
         expect(!isLocked_ || isLocked, "the device has ended read-only mode", answers_);
