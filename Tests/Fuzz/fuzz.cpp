@@ -24,8 +24,8 @@ void print(std::string_view line) {
 
 void expect(bool holds, std::string_view complaint, std::string_view evidence) {
     if (holds) return;
-    print(complaint);
     print(evidence);
+    print(complaint);
     std::abort();
 }
 
