@@ -22,6 +22,11 @@ void print(std::string_view line) {
 
 }  // namespace
 
+void attack(std::string_view input) {
+    static const Target& kTarget = chosenTarget();
+    kTarget.attack(input);
+}
+
 void expect(bool holds, std::string_view complaint, std::string_view evidence) {
     if (holds) return;
     print(evidence);
@@ -33,7 +38,6 @@ void expect(bool holds, std::string_view complaint, std::string_view evidence) {
 
 // The name is libFuzzer's. NOLINTNEXTLINE(readability-identifier-naming)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Orvo::Fuzz::Target& kTarget = Orvo::Fuzz::chosenTarget();
-    kTarget.attack({reinterpret_cast<const char*>(data), size});
+    Orvo::Fuzz::attack({reinterpret_cast<const char*>(data), size});
     return 0;
 }

@@ -28,6 +28,9 @@ inline constexpr Target kTargets[] = {
     {"record-replay", attackRecording},
 };
 
+/// The target that ORVO_FUZZ names in the environment.
+void attack(std::string_view input);
+
 /// Ends the program with this complaint unless it holds; the fuzzer keeps the input then.
 void expect(bool holds, std::string_view complaint, std::string_view evidence = {});
 
