@@ -165,7 +165,7 @@ void attackOverLink(std::string_view input) {
         const auto part = bytes.takeUntil(kPersonsTurn);
         sent += part;
         whole.send(part);
-        for (Bytes pieces(part); !pieces.isAtEnd();) cut.send(pieces.take(1 + part.size() % 16));
+        for (Bytes pieces(part); !pieces.isAtEnd();) cut.send(pieces.take(1 + part.size() % 97));
         Bytes same = bytes;
         cut.act(bytes);
         whole.act(same);
