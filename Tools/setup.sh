@@ -20,6 +20,8 @@ declare -A packages_for=(
     [server]="cups-daemon"
     # Another version formats differently and finds other things.
     [lint]="clang-format-14 clang-tidy-14"
+    # Of the version that the preset names.
+    [fuzz]="clang-14 libclang-rt-14-dev"
 )
 
 is_installed() {

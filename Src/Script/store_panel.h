@@ -8,7 +8,7 @@
 namespace Orvo::Script {
 
 /// A panel on the store alone: no window, and a clock that only the person's waiting moves.
-class StorePanel final : public PanelOwner, public Person {
+class StorePanel : public PanelOwner, public Person {
 public:
     StorePanel();
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Orvo/layout/layout.h"
+#include "Script/looking.h"
 #include "Script/person.h"
 #include "Script/script_runner.h"
 #include "Support/approved.h"
@@ -29,15 +30,20 @@ std::string answersOn(Panel& panel, const std::string& script) {
 /// All that a panel shows.
 template <class Panel>
 std::string stateOf(Panel& panel) {
-    std::string script = "show Screen\n";
-    for (const Layout::Widget& widget : Layout::kWidgets) {
-        const std::string name(widget.name);
-        const auto kind = widget.style.kind;
-        if (kind == Layout::Kind::list || kind == Layout::Kind::combo) script += "items " + name;
-        if (kind == Layout::Kind::picture) script += "drawing " + name;
-        script += "\nshow " + name + '\n';
+    std::string state;
+    const auto keep = [&](std::string_view line) { state.append(line).append("\n"); };
+    Script::Session session(panel, panel, {}, keep);
+    keep(Script::Looking::show(session, std::nullopt));
+    for (Widgets::WidgetId id = 0; id < Layout::kWidgetCount; ++id) {
+        const auto kind = Layout::kindOf(id);
+        keep(Layout::describe(id).name);
+        keep(Script::Looking::show(session, id));
+        if (kind == Layout::Kind::list || kind == Layout::Kind::combo) {
+            keep(Script::Looking::items(session, id));
+        }
+        if (kind == Layout::Kind::picture) keep(Script::Looking::drawing(session, id));
     }
-    return answersOn(panel, script);
+    return state;
 }
 
 /// The events that a recording or the answers to it tell of, in whatever stands before them.
