@@ -112,7 +112,7 @@ std::string difference(const std::string& one, const std::string& other) {
     return one.size() == other.size() ? "" : "more lines";
 }
 
-TEST(RecordAndReplay, GiveTheSamePanelWhateverHappens) {
+TEST(RecordAndReplayTest, GiveTheSamePanelWhateverHappens) {
     const TemporaryDirectory directory;
     const std::string file = directory.path() / "session.txt";
     for (unsigned seed = 0; seed < kSessions; ++seed) {
@@ -130,7 +130,7 @@ TEST(RecordAndReplay, GiveTheSamePanelWhateverHappens) {
     }
 }
 
-TEST(RecordAndReplay, ARecordingThatEndsAnywhereIsASessionToo) {
+TEST(RecordAndReplayTest, ARecordingThatEndsAnywhereIsASessionToo) {
     const TemporaryDirectory directory;
     const std::string file = directory.path() / "session.txt";
     StorePanel recorded;

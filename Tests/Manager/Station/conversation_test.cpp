@@ -73,7 +73,7 @@ TEST_F(ConversationTest, TellsTheTimeAfterAPause) {
               Log({"let Connected -1", "let PowerOn -1", "# 12.3 s", "let PowerOn 0"}));
 }
 
-TEST(EventLog, KeepsTheLastLines) {
+TEST(EventLogTest, KeepsTheLastLines) {
     EventLog log;
     for (std::size_t i = 0; i < EventLog::kMostLines + 2; ++i) log.add(std::to_string(i));
     EXPECT_EQ(log.lines().size(), EventLog::kMostLines);
@@ -81,7 +81,7 @@ TEST(EventLog, KeepsTheLastLines) {
     EXPECT_EQ(log.added(), EventLog::kMostLines + 2);
 }
 
-TEST(EventLog, CutsALongLineBetweenCharacters) {
+TEST(EventLogTest, CutsALongLineBetweenCharacters) {
     EventLog log;
     std::string line;
     while (line.size() < 5000) line += "€";

@@ -7,7 +7,7 @@
 namespace Orvo::Identity {
 namespace {
 
-TEST(Identity, IsTheOneThatHostsAreBuiltAgainst) {
+TEST(IdentityTest, IsTheOneThatHostsAreBuiltAgainst) {
     const std::pair<std::string_view, std::string_view> kTexts[] = {
         {kLibrary.name, "Orvo"},
         {kLibrary.id, "7882F3A5-93D0-4C7A-B9FF-AEEBA91C13A6"},
