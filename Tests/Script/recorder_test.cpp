@@ -105,16 +105,19 @@ TEST_F(RecorderTest, AnEventThatIsRaisedAgainIsAnsweredAnew) {
             panel().Mute(1, count % 2 == 0);
             if (count % 5 == 0) store().perform(Deed::slide(channel(2).volumeSlider, count));
         });
-        for (int position = 1; position < 60; ++position) {
+        store().perform(Deed::slide(pair(1).testSlider, 40));
+        store().perform(Deed::slide(pair(2).testSlider, 60));
+        for (int position = 1; position < 20; ++position) {
             store().perform(Deed::slide(channel(1).volumeSlider, position));
             click(channel(1).muteButton);
+            store().advance(7777ms);
         }
     });
     StorePanel fresh;
     const std::string answers = answersOn(fresh, "chronological\n" + script);
     EXPECT_EQ(eventsIn(answers), eventsIn(script));
     EXPECT_EQ(stateOf(fresh), stateOf(owner_));
-    EXPECT_GT(count, 50) << "events";
+    EXPECT_GT(count, 100) << "events";
 }
 
 TEST_F(RecorderTest, TheFileIsCompleteWhileAPromptIsOpen) {
