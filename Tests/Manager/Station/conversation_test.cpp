@@ -15,24 +15,7 @@ protected:
     EventLog log_;
     Conversation conversation_{log_};
     Connection calls_ = panel_.listen(conversation_);
-    Connection events_ = panel_.connect([this](Long id, std::span<Value> arguments) {
-        conversation_.raised(id, arguments);
-        if (answer_) answer_();
-        conversation_.handled();
-    });
-    std::function<void()> answer_;
 };
-
-TEST_F(ConversationTest, AnswersStandUnderTheirEvent) {
-    answer_ = [this] {
-        panel_.Mute(1, true);
-        panel_.Mute(Integer{1});
-    };
-    store_.perform(Runtime::Deed::click(channel(1).muteButton));
-    panel_.Protection(2, true);
-    EXPECT_EQ(log_.lines(), Log({"event Mute 1", "  let Mute 1 -1", "  get Mute 1", "  = -1",
-                                 "let Protection 2 -1"}));
-}
 
 TEST_F(ConversationTest, LeavesOutTheSteadyFlowUnlessAskedForEverything) {
     const auto flow = [this] {

@@ -114,7 +114,7 @@ TEST_F(EventsTest, GoOnWhenASinkFails) {
     store_.perform(Deed::click(kCommon.powerButton));
     store_.perform(Deed::click(channel(1).muteButton));
     EXPECT_EQ(heard, 2);
-    EXPECT_EQ(takeLines(),
+    EXPECT_EQ(lines_,
               (Lines{"OnOff", "! 1003 Host handler failed: no link", "Mute 1", "! 6 Overflow"}));
 }
 
@@ -138,7 +138,7 @@ TEST_F(ThreadsTest, OtherThanThePanelsAreRefusedAndChangeNothing) {
     }).join();
     EXPECT_EQ(direct, 1001);
     EXPECT_EQ(late, 1001);
-    EXPECT_FALSE(isLit(kCommon.linkLamp));
+    EXPECT_FALSE(store_.get<Runtime::StoredShape>(kCommon.linkLamp).state().isLit());
 }
 
 }  // namespace
