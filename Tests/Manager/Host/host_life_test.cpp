@@ -70,13 +70,12 @@ private:
     }
 
     bool setFault(const std::string& line) {
-        for (const auto& [fault, name] : Simulator::kFaults) {
-            const bool isMended = line == "mend " + std::string(name);
-            if (!isMended && line != "fault " + std::string(name)) continue;
-            host().set(fault, !isMended);
-            return true;
-        }
-        return false;
+        const auto* row = std::ranges::find(Simulator::kFaults, line.substr(line.find(' ') + 1),
+                                            &Simulator::FaultRow::description);
+        const bool isOn = line.starts_with("fault ");
+        if (row == Simulator::kFaults.end() || (!isOn && !line.starts_with("mend "))) return false;
+        host().set(row->fault, isOn);
+        return true;
     }
 
     void add(const std::string& line) { answers_ += "  " + line + '\n'; }
