@@ -15,12 +15,6 @@ QByteArray kept(const char* name) {
     return file.readAll();
 }
 
-template <class Number = quint32>
-Number at(const QByteArray& bytes, qsizetype offset) {
-    EXPECT_LE(offset + qsizetype(sizeof(Number)), bytes.size());
-    return qFromLittleEndian<Number>(bytes.constData() + offset);
-}
-
 struct Kind {
     const char* file = "";
     const char* format = "";
@@ -28,7 +22,7 @@ struct Kind {
     int depth = 0;  // as a bitmap's header has it; 0 for others
 };
 
-TEST(Pictures, AreOfTheirKindsAndSizes) {
+TEST(PicturesTest, AreOfTheirKindsAndSizes) {
     const Kind kinds[] = {{"common-tab.bmp", "BMP", {629, 453}, 16},
                           {"pair-tab.jpg", "JPG", {700, 432}, 0},
                           {"toolbox.bmp", "BMP", {16, 15}, 4},
@@ -37,29 +31,7 @@ TEST(Pictures, AreOfTheirKindsAndSizes) {
         const QByteArray bytes = kept(kind.file);
         EXPECT_EQ(QImage::fromData(bytes, kind.format).size(), kind.size) << kind.file;
         if (kind.depth == 0) continue;
-        EXPECT_EQ(at<quint16>(bytes, 28), kind.depth) << kind.file;
-        EXPECT_EQ(at(bytes, 2), bytes.size()) << kind.file;
-    }
-}
-
-// The length that a record says it has leads to the next; the header has counted them.
-TEST(Pictures, MetafilesAreWellFormed) {
-    for (const char* file : {"power-up.emf", "power-down.emf"}) {
-        constexpr quint32 kEnd = 14;
-        const QByteArray bytes = kept(file);
-        EXPECT_EQ(bytes.mid(40, 4), " EMF") << file;
-        EXPECT_EQ(at(bytes, 48), bytes.size()) << file;
-        quint32 records = 0;
-        quint32 last = 0;
-        for (qsizetype offset = 0; offset < bytes.size(); ++records) {
-            last = at(bytes, offset);
-            const quint32 length = at(bytes, offset + 4);
-            ASSERT_TRUE(length >= 8 && length % 4 == 0) << file << " at " << offset;
-            offset += length;
-            ASSERT_LE(offset, bytes.size()) << file;
-        }
-        EXPECT_EQ(last, kEnd) << file;
-        EXPECT_EQ(at(bytes, 52), records) << file;
+        EXPECT_EQ(qFromLittleEndian<quint16>(bytes.constData() + 28), kind.depth) << kind.file;
     }
 }
 
@@ -76,7 +48,7 @@ int difference(const QByteArray& a, const QByteArray& b) {
     return largest;
 }
 
-TEST(Pictures, AreWhatTheDrawingsMakeToday) {
+TEST(PicturesTest, AreWhatTheDrawingsMakeToday) {
     for (const Picture& picture : pictures()) {
         const QByteArray file = kept(picture.file);
         const QByteArray made = picture.make();

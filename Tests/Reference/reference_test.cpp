@@ -12,14 +12,14 @@ namespace {
 
 using namespace Orvo::Script;
 
-TEST(Derived, StandsInTheTreeAsTheTablesHaveIt) {
+TEST(DerivedTest, StandsInTheTreeAsTheTablesHaveIt) {
     for (const auto& [path, text] : derivedFiles(ORVO_ROOT)) {
         EXPECT_EQ(textIn(path), text)
             << path << ": build the target \"reference\" to write it anew";
     }
 }
 
-TEST(Contracts, KnowTheLimitsOfTheStoresLog) {
+TEST(ContractsTest, KnowTheLimitsOfTheStoresLog) {
     using Limits = Orvo::Runtime::ListState;
     const auto* add = std::find_if(Orvo::kMembers.begin(), Orvo::kMembers.end(),
                                    [](auto& member) { return member.name == "AggiugiTesto"; });
@@ -28,7 +28,7 @@ TEST(Contracts, KnowTheLimitsOfTheStoresLog) {
     }
 }
 
-TEST(Transcripts, ShowEveryCommand) {
+TEST(TranscriptsTest, ShowEveryCommand) {
     std::string transcripts;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(ORVO_TRANSCRIPTS)) {
         if (entry.is_regular_file()) transcripts += textIn(entry.path());

@@ -16,7 +16,7 @@ Words completions(std::string_view before, std::string_view typed) {
     return completions(before, typed, kInMemory);
 }
 
-TEST(Completion, OffersWhatMayStandInThePlace) {
+TEST(CompletionTest, OffersWhatMayStandInThePlace) {
     EXPECT_EQ(completions("", "he"), Words{"help"});
     EXPECT_EQ(completions("help ", "in"), Words{"invoke"});
     EXPECT_EQ(completions("help let ", "in"), Words{});
@@ -43,7 +43,7 @@ TEST(Completion, OffersWhatMayStandInThePlace) {
     EXPECT_EQ(completions("nonsense ", ""), Words{});
 }
 
-TEST(Help, IsThereForEveryCommandOfAPlace) {
+TEST(HelpTest, IsThereForEveryCommandOfAPlace) {
     for (const Grammar& grammar : {kInMemory, kInWindow}) {
         for (const Command& command : allCommands()) {
             const bool isKnown = isAllowed(command, grammar);
@@ -61,7 +61,7 @@ TEST(Help, IsThereForEveryCommandOfAPlace) {
     EXPECT_FALSE(help("get Mute 1", kInMemory));
 }
 
-TEST(Help, GivesTheContractsOfWhatHasTheName) {
+TEST(HelpTest, GivesTheContractsOfWhatHasTheName) {
     EXPECT_EQ(help("help reset", kInMemory), "event reset\nNever raised.");
     EXPECT_EQ(help("help poweron", kInMemory),
               "get PowerOn\nThe power state: false at first, then as the host wrote it.\n"

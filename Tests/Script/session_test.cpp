@@ -84,7 +84,7 @@ TEST_F(SessionTest, ALineThatIsNotUtf8IsRefused) {
     EXPECT_EQ(answersTo("get PowerOn\r"), Lines{"= 0"});
 }
 
-TEST(Text, IsReadBackAsItWasPrinted) {
+TEST(TextTest, IsReadBackAsItWasPrinted) {
     EXPECT_EQ(textOf(IntegerArray()), "[]");
     EXPECT_EQ(textOf(IntegerArray(1, {})), "1:[]");
     EXPECT_EQ(textOf(IntegerArray(1, {7, -8})), "[7 -8]");

@@ -1,7 +1,5 @@
 #include "Support/bench.h"
 
-#include <utility>
-
 #include "Orvo/core/event_table.h"
 #include "Orvo/values/text.h"
 
@@ -28,36 +26,5 @@ PanelTest::PanelTest() {
         lines_.push_back("! " + std::to_string(error.number()) + ' ' + error.description());
     });
 }
-
-bool PanelTest::isLit(Widgets::ShapeRef lamp) const {
-    return store_.get<Runtime::StoredShape>(lamp).state().isLit();
-}
-
-String PanelTest::caption(Widgets::LabelRef label) const {
-    return store_.get<Runtime::StoredLabel>(label).state().caption;
-}
-
-bool PanelTest::isEnabled(Widgets::WidgetId widget) const {
-    return store_.widget(widget).isEnabled();
-}
-
-bool PanelTest::isChecked(Widgets::CheckRef check) const {
-    return store_.get<Runtime::StoredCheck>(check).state().value == Widgets::CheckValue::checked;
-}
-
-Integer PanelTest::position(Widgets::SliderRef slider) const {
-    return store_.get<Runtime::StoredSlider>(slider).state().position;
-}
-
-std::string PanelTest::digits(const Layout::Readout& readout) const {
-    std::string shown;
-    for (const auto place : readout.digits()) {
-        const auto digit = store_.get<Runtime::StoredDigit>(place).state().digit;
-        shown += digit ? std::to_string(*digit) : "_";
-    }
-    return shown;
-}
-
-PanelTest::Lines PanelTest::takeLines() { return std::exchange(lines_, {}); }
 
 }  // namespace Orvo::Tests

@@ -51,17 +51,6 @@ protected:
 
     PanelTest();
 
-    [[nodiscard]] bool isLit(Widgets::ShapeRef lamp) const;
-    [[nodiscard]] String caption(Widgets::LabelRef label) const;
-    [[nodiscard]] bool isEnabled(Widgets::WidgetId widget) const;
-    [[nodiscard]] bool isChecked(Widgets::CheckRef check) const;
-    [[nodiscard]] Integer position(Widgets::SliderRef slider) const;
-    /// Its digits, "_" for one that is dark.
-    [[nodiscard]] std::string digits(const Layout::Readout& readout) const;
-
-    /// What has been raised and reported since the last call.
-    Lines takeLines();
-
     std::unique_ptr<Bench> bench_ = makeBench();
     MarvaneAssistant& panel_ = bench_->panel();
     Runtime::Store& store_ = bench_->store();

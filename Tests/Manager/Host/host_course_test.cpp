@@ -1,45 +1,60 @@
-#include "Manager/Host/host_bench.h"
+#include "Manager/Host/simulated_host.h"
 #include "Support/operation_log.h"
+#include "Support/owned_panel.h"
 
-namespace Orvo::Tests {
+namespace Orvo::Manager {
 namespace {
 
-TEST_F(HostTest, LivesTheSameLifeForTheSameSeedHoweverItsTimeIsDivided) {
-    const auto record = [](std::uint32_t seed, int pace) {
-        const auto bench = makeBench();
-        OperationLog recorder;
-        bench->store().observeWith(&recorder);
-        SimulatedHost host(bench->panel(), seed);
-        for (int now = 0; now < 6000; now += pace) {
-            if (now == 2400) bench->store().perform(Deed::click(channel(2).muteButton));
-            host.advance(Milliseconds(pace));
+using namespace std::chrono_literals;
+
+class HostCourseTest : public Tests::OwnedPanel {
+protected:
+    SimulatedHost host_{panel()};
+};
+
+TEST_F(HostCourseTest, IsTheSameForTheSameSeedHoweverItsTimeIsDivided) {
+    const auto record = [](std::uint32_t seed, std::chrono::milliseconds pace) {
+        Script::StorePanel owner;
+        Tests::OperationLog recorder;
+        owner.store().observeWith(&recorder);
+        SimulatedHost host(owner.panel(), seed);
+        for (auto now = 0ms; now < 6s; now += pace) {
+            if (now == 2400ms) owner.store().perform(Tests::Deed::click(channel(2).muteButton));
+            host.advance(pace);
         }
-        bench->store().observeWith(nullptr);
+        owner.store().observeWith(nullptr);
         return recorder.seen;
     };
-    const auto life = record(1, 16);
-    EXPECT_GT(life.size(), 10'000U);
-    EXPECT_EQ(life, record(1, 16));
-    EXPECT_EQ(life, record(1, 48));
-    EXPECT_NE(life, record(2, 16));
+    const auto course = record(1, 16ms);
+    EXPECT_GT(course.size(), 10'000U);
+    EXPECT_EQ(course, record(1, 16ms));
+    EXPECT_EQ(course, record(1, 48ms));
+    EXPECT_NE(course, record(2, 16ms));
 }
 
-TEST_F(HostTest, SendsOnlyWhatChanged) {
-    run();
-    store_.perform(Deed::click(kCommon.muteButton));
-    pass(1000);
-    OperationLog recorder;
-    store_.observeWith(&recorder);
-    pass(5000);
-    store_.observeWith(nullptr);
+TEST_F(HostCourseTest, SendsOnlyWhatChanged) {
+    host_.advance(3s);
+    click(kCommon.muteButton);
+    host_.advance(1s);
+    Tests::OperationLog recorder;
+    store().observeWith(&recorder);
+    host_.advance(5s);
+    store().observeWith(nullptr);
     // All scopes show silence and nothing is asked for: what is left is a volt here and there.
     EXPECT_LT(recorder.seen.size(), 200U);
 }
 
-TEST_F(HostTest, SkipsWhatCannotBeMadeUpFor) {
-    host_->advance(std::chrono::hours(50));
-    EXPECT_EQ(host_->now(), std::chrono::minutes(10));
+TEST_F(HostCourseTest, SkipsWhatCannotBeMadeUpFor) {
+    host_.advance(50h);
+    EXPECT_EQ(host_.now(), 10min);
+}
+
+TEST_F(HostCourseTest, BeginsTheLogAfreshBeforeItGetsTooLong) {
+    for (int i = 0; i < 2500; ++i) host_.runQuickTest();
+    const auto& lines = store().get<Runtime::StoredList>(kCommon.log).state().items;
+    EXPECT_LE(lines.size(), 1000U);
+    EXPECT_FALSE(lines.empty());
 }
 
 }  // namespace
-}  // namespace Orvo::Tests
+}  // namespace Orvo::Manager

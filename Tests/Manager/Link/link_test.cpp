@@ -143,7 +143,7 @@ TEST_F(LinkTest, WhoeverReadsNothingIsCutOff) {
     EXPECT_LT(received().size(), 3'000'000U);
 }
 
-TEST(LinkAddress, ReadsASpeedBehindThePath) {
+TEST(LinkAddressTest, ReadsASpeedBehindThePath) {
     EXPECT_EQ(LinkAddress::read("/dev/ttyS0@9600").value().speed, 9600U);
     EXPECT_EQ(LinkAddress::read("/run/me@home").value().path, "/run/me@home");
     EXPECT_FALSE(LinkAddress::read("/dev/ttyS0@9601"));

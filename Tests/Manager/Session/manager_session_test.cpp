@@ -44,41 +44,21 @@ protected:
     std::optional<ManagerSession> session_{std::in_place, owner_, owner_, SessionSettings{}, *this};
 };
 
-TEST_F(SessionTest, AReplayHasTheSameEventsAndEndsInTheSameState) {
+TEST_F(SessionTest, RecordsFromTheStartAndInFullWhenTheSettingsSaySo) {
     Typist typist;
     begin({.record = file_, .answers = Script::Answers::inFull});
     store().promptWith(&typist);
-    session_->connectSimulator();
-    session_->letPass(2s);
-    for (const Widgets::WidgetId widget : std::initializer_list<Widgets::WidgetId>{
-             channel(1).muteButton, pair(1).startButton, pair(2).startButton,
-             kCommon.internalDataButton}) {
-        click(widget);
-        session_->letPass(333ms);
-    }
-    input().press(channel(1).volumeSlider);
-    for (int position = 5; position < 20; position += 3) {
-        store().perform(Runtime::Deed::move(channel(1).volumeSlider, position));
-        session_->letPass(40ms);
-    }
-    input().release(channel(1).volumeSlider, Runtime::MouseButton::left,
-                    Runtime::ReleasedWhere::elsewhere);
     store().perform(Runtime::Deed::slide(pair(1).testSlider, 9));
     store().perform(Runtime::Deed::key(kCommon.log, 18));
-    session_->simulator()->set(Simulator::Fault::mainsFailure, true);
     // Late by far: the timers tick as often as they came due.
     session_->letPass(7s);
-    session_->connectNothing();
-    session_->letPass(1600ms);
     session_->stopRecording();
 
     const std::string script = textIn(file_);
     Script::StorePanel fresh;
-    const std::string answers = answersOn(fresh, script);
-    EXPECT_EQ(answers.find("\n? "), std::string::npos);
-    EXPECT_EQ(eventsIn(answers), eventsIn(script));
+    EXPECT_EQ(eventsIn(answersOn(fresh, script)), eventsIn(script));
     EXPECT_EQ(stateOf(fresh), stateOf(owner_));
-    EXPECT_GT(eventsIn(script).size(), 10U);
+    EXPECT_EQ(eventsIn(script).size(), 6U);
 }
 
 TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
@@ -86,21 +66,22 @@ TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
     session_->letPass(2s);
     session_->startRecording(file_);
     EXPECT_FALSE(isLit(kCommon.linkLamp)) << "a fresh panel";
-    for (const Widgets::WidgetId widget : std::initializer_list<Widgets::WidgetId>{
-             channel(1).muteButton, pair(1).startButton, kCommon.internalDataButton}) {
+    for (const auto button :
+         {channel(1).muteButton, pair(1).startButton, kCommon.internalDataButton}) {
         session_->letPass(1s);
-        click(widget);
+        click(button);
     }
+    session_->connectNothing();
     session_->letPass(1s);
-    EXPECT_EQ(panel().Mute(1), kTrue);
     session_->stopRecording();
+    const std::string state = stateOf(owner_);
     click(channel(2).muteButton);
     session_->station().log().clear();
     session_->startReplay(file_);
     EXPECT_EQ(panel().Mute(1), kFalse);
     letReplayEnd();
     EXPECT_EQ(warnings_, std::vector<std::string>());
-    EXPECT_EQ(panel().Mute(1), kTrue);
+    EXPECT_EQ(stateOf(owner_), state);
     EXPECT_EQ(loggedEvents(), eventsIn(textIn(file_)));
     EXPECT_GE(loggedEvents().size(), 3U);
     EXPECT_TRUE(session_->station().traces().has(1));

@@ -15,24 +15,7 @@ protected:
     EventLog log_;
     Conversation conversation_{log_};
     Connection calls_ = panel_.listen(conversation_);
-    Connection events_ = panel_.connect([this](Long id, std::span<Value> arguments) {
-        conversation_.raised(id, arguments);
-        if (answer_) answer_();
-        conversation_.handled();
-    });
-    std::function<void()> answer_;
 };
-
-TEST_F(ConversationTest, AnswersStandUnderTheirEvent) {
-    answer_ = [this] {
-        panel_.Mute(1, true);
-        panel_.Mute(Integer{1});
-    };
-    store_.perform(Runtime::Deed::click(channel(1).muteButton));
-    panel_.Protection(2, true);
-    EXPECT_EQ(log_.lines(), Log({"event Mute 1", "  let Mute 1 -1", "  get Mute 1", "  = -1",
-                                 "let Protection 2 -1"}));
-}
 
 TEST_F(ConversationTest, LeavesOutTheSteadyFlowUnlessAskedForEverything) {
     const auto flow = [this] {
@@ -73,7 +56,7 @@ TEST_F(ConversationTest, TellsTheTimeAfterAPause) {
               Log({"let Connected -1", "let PowerOn -1", "# 12.3 s", "let PowerOn 0"}));
 }
 
-TEST(EventLog, KeepsTheLastLines) {
+TEST(EventLogTest, KeepsTheLastLines) {
     EventLog log;
     for (std::size_t i = 0; i < EventLog::kMostLines + 2; ++i) log.add(std::to_string(i));
     EXPECT_EQ(log.lines().size(), EventLog::kMostLines);
@@ -81,7 +64,7 @@ TEST(EventLog, KeepsTheLastLines) {
     EXPECT_EQ(log.added(), EventLog::kMostLines + 2);
 }
 
-TEST(EventLog, CutsALongLineBetweenCharacters) {
+TEST(EventLogTest, CutsALongLineBetweenCharacters) {
     EventLog log;
     std::string line;
     while (line.size() < 5000) line += "€";

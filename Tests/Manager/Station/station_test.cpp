@@ -11,8 +11,10 @@ using namespace std::chrono_literals;
 class Answering final : public Device {
 public:
     explicit Answering(Script::PanelOwner& owner)
-        : events_(owner.panel().connect(
-              [&owner](Long, std::span<Value>) { owner.panel().Mute(1, true); })) {
+        : events_(owner.panel().connect([&owner](Long, std::span<Value>) {
+              owner.panel().Mute(1, true);
+              owner.panel().Mute(Integer{1});
+          })) {
         owner.panel().Connected(true);
     }
     [[nodiscard]] std::string name() const override { return "Amplifier"; }
@@ -52,8 +54,8 @@ TEST_F(StationTest, WhatTheDeviceAnswersStandsUnderTheEventOnAFreshPanelToo) {
         station_.log().clear();
         click(channel(1).muteButton);
         panel().Clock(1, true);
-        EXPECT_EQ(station_.log().lines(),
-                  Lines({"event Mute 1", "  let Mute 1 -1", "let Clock 1 -1"}));
+        EXPECT_EQ(station_.log().lines(), Lines({"event Mute 1", "  let Mute 1 -1", "  get Mute 1",
+                                                 "  = -1", "let Clock 1 -1"}));
         station_.startAnew();
         EXPECT_FALSE(station_.situation().showsOldValues);
     }

@@ -7,7 +7,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(StatusText, TellsHowOldTheLastWordIs) {
+TEST(StatusTextTest, TellsHowOldTheLastWordIs) {
     struct Row {
         std::optional<std::chrono::milliseconds> silence;
         const char* lastWord = "";
@@ -30,7 +30,7 @@ TEST(StatusText, TellsHowOldTheLastWordIs) {
     }
 }
 
-TEST(StatusText, TellsTheLinkAndWhatIsConnected) {
+TEST(StatusTextTest, TellsTheLinkAndWhatIsConnected) {
     const auto text = statusText({.connectedTo = "Amplifier", .isLinkUp = true});
     EXPECT_EQ(text.connection + ", " + text.link, "Amplifier, Link up");
     EXPECT_EQ(statusText({.connectedTo = "Amplifier"}).link, "Link down");

@@ -16,11 +16,11 @@ protected:
 const std::string kHeader = "index,sample (counts),level (V)\n";
 
 // The scope's 0 V mark lies 50 pixels down, 10 pixels are 30 V.
-TEST(TraceCsv, HasALineForEachSampleWithItsLevel) {
+TEST(TraceCsvTest, HasALineForEachSampleWithItsLevel) {
     EXPECT_EQ(traceCsv({1, {128, 8, 247}}), kHeader + "1,128,6.94\n2,8,150.45\n3,247,-135.37\n");
 }
 
-TEST(TraceCsv, LeavesOutWhatTheScopeDoesNotDraw) {
+TEST(TraceCsvTest, LeavesOutWhatTheScopeDoesNotDraw) {
     EXPECT_EQ(traceCsv({-1, {1, 2, 128}}), kHeader + "1,128,6.94\n");
     EXPECT_EQ(traceCsv({2, {128}}), kHeader);
     EXPECT_EQ(traceCsv({std::numeric_limits<Long>::min(), {128}}), kHeader);

@@ -10,7 +10,7 @@ std::variant<Options, Ending> parse(const QStringList& words) {
     return parseCommandLine(QStringList("marvane-manager") + words);
 }
 
-TEST(CommandLine, SaysHowToStartAndWhatToRunRecordAndConnect) {
+TEST(CommandLineTest, SaysHowToStartAndWhatToRunRecordAndConnect) {
     const auto start = std::get<Options>(
         parse({"--zoom", "150", "--tab=2", "--read-only", "--fullscreen", "--simulate"}));
     EXPECT_EQ(start.zoom, 150);
@@ -29,7 +29,7 @@ TEST(CommandLine, SaysHowToStartAndWhatToRunRecordAndConnect) {
     EXPECT_EQ(link.link.value().speed, 9600U);
 }
 
-TEST(CommandLine, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
+TEST(CommandLineTest, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
     struct Row {
         QStringList words;
         const char* says = "";
@@ -64,7 +64,7 @@ TEST(CommandLine, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
     }
 }
 
-TEST(CommandLine, HelpNamesEveryOption) {
+TEST(CommandLineTest, HelpNamesEveryOption) {
     const auto help = std::get<Ending>(parse({"--zoom", "150", "--help"}));
     EXPECT_EQ(help.status, 0);
     for (const char* option : {"--help", "--simulate[=SEED]", "--zoom <PERCENT>", "--read-only",
@@ -73,7 +73,7 @@ TEST(CommandLine, HelpNamesEveryOption) {
     }
 }
 
-TEST(Platform, ADisplayThatCannotBeReachedLeavesOffscreen) {
+TEST(PlatformTest, ADisplayThatCannotBeReachedLeavesOffscreen) {
     EXPECT_EQ(platformFor(false, false), "offscreen");
     EXPECT_EQ(platformFor(true, false), "xcb;offscreen");
     EXPECT_EQ(platformFor(false, true), "wayland;offscreen");

@@ -60,19 +60,13 @@ TEST_F(LinkWindowTest, NoMemberMakesTheMachineConnectAnywhere) {
 }
 
 TEST_F(LinkWindowTest, WhatThePersonHasMadeReadOnlyStaysSo) {
-    ManagerWindow window({.session = {.isReadOnly = true}});
+    ManagerWindow window;
     connect(window);
-    MarvaneAssistant& panel = window.panelWidget().panel();
-    say(window, "let ReadOnly 0\ninvoke 0x68030000 let 0\n");
-    EXPECT_EQ(panel.ReadOnly(), Boolean(true));
-    say(window, "new\nlet ReadOnly 0\n");
-    EXPECT_EQ(window.panelWidget().panel().ReadOnly(), Boolean(true));
-    window.session().setReadOnly(false);
-    say(window, "let ReadOnly 1\nlet ReadOnly 0\n");
-    EXPECT_EQ(window.panelWidget().panel().ReadOnly(), Boolean(false));
-    window.session().setReadOnly(true);
-    say(window, "let ReadOnly 1\n");
-    EXPECT_EQ(window.panelWidget().panel().ReadOnly(), Boolean(true));
+    for (const bool isLocked : {true, false, true}) {
+        window.session().setReadOnly(isLocked);
+        say(window, "new\nlet ReadOnly 1\nlet ReadOnly 0\n");
+        EXPECT_EQ(window.panelWidget().panel().ReadOnly(), Boolean(isLocked));
+    }
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 namespace Orvo::Tests {
 namespace {
 
-using Events = PanelTest;
+using EventsTest = PanelTest;
 
 class Assigning final : public MarvaneAssistantEvents {
 public:
@@ -17,7 +17,7 @@ public:
     std::vector<Integer> heard;
 };
 
-TEST_F(Events, PassCopiesThatASinkMayAssignTo) {
+TEST_F(EventsTest, PassCopiesThatASinkMayAssignTo) {
     Assigning first;
     Assigning second;
     const auto one = panel_.connect(first);
@@ -28,7 +28,7 @@ TEST_F(Events, PassCopiesThatASinkMayAssignTo) {
     EXPECT_EQ(second.heard, (std::vector<Integer>{2, 2}));
 }
 
-TEST_F(Events, EndWithTheirConnection) {
+TEST_F(EventsTest, EndWithTheirConnection) {
     int heard = 0;
     {
         const auto connection = panel_.connect([&](Long, std::span<Value>) { ++heard; });
@@ -38,7 +38,7 @@ TEST_F(Events, EndWithTheirConnection) {
     EXPECT_EQ(heard, 1);
 }
 
-TEST_F(Events, LetASinkDisconnectItselfAndAnotherAndConnectANewOne) {
+TEST_F(EventsTest, LetASinkDisconnectItselfAndAnotherAndConnectANewOne) {
     Connection self;
     Connection later;
     Connection added;
@@ -56,7 +56,7 @@ TEST_F(Events, LetASinkDisconnectItselfAndAnotherAndConnectANewOne) {
     EXPECT_EQ(heard, (Lines{"self", "added"}));
 }
 
-TEST_F(Events, LetASinkReleaseThePanelInTheMidstOfAHandler) {
+TEST_F(EventsTest, LetASinkReleaseThePanelInTheMidstOfAHandler) {
     // The entry goes on after its event, and a click's event is followed by the mouse's release.
     for (const auto button : {kCommon.muteButton.id, kCommon.powerButton.id, pair(1).powerCheck.id,
                               pair(1).startButton.id}) {
@@ -73,7 +73,7 @@ TEST_F(Events, LetASinkReleaseThePanelInTheMidstOfAHandler) {
     }
 }
 
-TEST_F(Events, LetASinkReleaseThePanelFromWithinAnEventInsideAnother) {
+TEST_F(EventsTest, LetASinkReleaseThePanelFromWithinAnEventInsideAnother) {
     auto bench = makeBench();
     auto& store = bench->store();
     Lines heard;
@@ -87,7 +87,7 @@ TEST_F(Events, LetASinkReleaseThePanelFromWithinAnEventInsideAnother) {
     EXPECT_EQ(heard, (Lines{"OnOff", "Mute 1"}));
 }
 
-TEST_F(Events, LetGoOfWhatASinkHoldsOnceItIsDisconnected) {
+TEST_F(EventsTest, LetGoOfWhatASinkHoldsOnceItIsDisconnected) {
     const auto held = std::make_shared<int>();
     Connection holding;
     const auto connect = [&] { holding = panel_.connect([held](Long, std::span<Value>) {}); };
@@ -104,7 +104,7 @@ TEST_F(Events, LetGoOfWhatASinkHoldsOnceItIsDisconnected) {
     EXPECT_EQ(held.use_count(), 1) << "with the panel";
 }
 
-TEST_F(Events, GoOnWhenASinkFails) {
+TEST_F(EventsTest, GoOnWhenASinkFails) {
     const auto failing = panel_.connect([&](Long id, std::span<Value>) {
         if (id == 1) throw std::runtime_error("no link");
         panel_.Volume(1, -32768);
@@ -114,11 +114,11 @@ TEST_F(Events, GoOnWhenASinkFails) {
     store_.perform(Deed::click(kCommon.powerButton));
     store_.perform(Deed::click(channel(1).muteButton));
     EXPECT_EQ(heard, 2);
-    EXPECT_EQ(takeLines(),
+    EXPECT_EQ(lines_,
               (Lines{"OnOff", "! 1003 Host handler failed: no link", "Mute 1", "! 6 Overflow"}));
 }
 
-TEST_F(Events, MayOutliveTheirPanel) {
+TEST_F(EventsTest, MayOutliveTheirPanel) {
     auto bench = makeBench();
     const auto connection = bench->panel().connect([](Long, std::span<Value>) {});
     EXPECT_TRUE(connection.isConnected());
@@ -126,9 +126,9 @@ TEST_F(Events, MayOutliveTheirPanel) {
     EXPECT_FALSE(connection.isConnected());
 }
 
-using Threads = PanelTest;
+using ThreadsTest = PanelTest;
 
-TEST_F(Threads, OtherThanThePanelsAreRefusedAndChangeNothing) {
+TEST_F(ThreadsTest, OtherThanThePanelsAreRefusedAndChangeNothing) {
     Long direct = 0;
     Long late = 0;
     std::thread([&] {
@@ -138,7 +138,7 @@ TEST_F(Threads, OtherThanThePanelsAreRefusedAndChangeNothing) {
     }).join();
     EXPECT_EQ(direct, 1001);
     EXPECT_EQ(late, 1001);
-    EXPECT_FALSE(isLit(kCommon.linkLamp));
+    EXPECT_FALSE(store_.get<Runtime::StoredShape>(kCommon.linkLamp).state().isLit());
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace Orvo::Identity {
 namespace {
 
-TEST(Identity, IsTheOneThatHostsAreBuiltAgainst) {
+TEST(IdentityTest, IsTheOneThatHostsAreBuiltAgainst) {
     const std::pair<std::string_view, std::string_view> kTexts[] = {
         {kLibrary.name, "Orvo"},
         {kLibrary.id, "7882F3A5-93D0-4C7A-B9FF-AEEBA91C13A6"},
@@ -20,13 +20,10 @@ TEST(Identity, IsTheOneThatHostsAreBuiltAgainst) {
         {kDefaultSource.id, "616BF7F8-1E70-4966-809E-C185A6AA6E38"},
     };
     for (const auto& [text, published] : kTexts) EXPECT_EQ(text, published);
-    const std::pair<std::uint32_t, std::uint32_t> kNumbers[] = {
-        {kLibrary.locale, 0x0409},
-        {kClass.statusFlags, 0x20191},
-        {kDefaultInterface.typeFlags, dual | hidden | notExtensible},
-        {kDefaultSource.typeFlags, hidden | notExtensible},
-    };
-    for (const auto& [number, published] : kNumbers) EXPECT_EQ(number, published);
+    EXPECT_EQ(kLibrary.locale, 0x0409U);
+    EXPECT_EQ(kClass.statusFlags, 0x20191U);
+    EXPECT_EQ(kDefaultInterface.typeFlags, dual | hidden | notExtensible);
+    EXPECT_EQ(kDefaultSource.typeFlags, hidden | notExtensible);
 }
 
 }  // namespace

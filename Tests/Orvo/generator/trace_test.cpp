@@ -33,16 +33,12 @@ TEST_F(TraceTest, JoinsTheSamplesFromIndex1AndStopsWhereTheArrayDoes) {
         std::size_t drawn = 0;
         Long error = 0;
     } kRows[] = {
-        {"one sample", IntegerArray(1, {7}), 0, 0},
-        {"none, upper bound 0", IntegerArray(1, {}), 0, 0},
-        {"two", IntegerArray(1, {7, 8}), 2, 0},
         {"from 0", IntegerArray(0, std::vector<Integer>(100)), 99, 0},
         {"from -3", IntegerArray(-3, std::vector<Integer>(6)), 2, 0},
         {"far below", IntegerArray(std::numeric_limits<Long>::min(), {7}), 0, 6},
         {"no dimension", IntegerArray(), 0, 9},
         {"two dimensions", IntegerArray(Dimensions{{1, 4}, {1, 4}}), 0, 9},
         {"two dimensions, short", IntegerArray(Dimensions{{1, 1}, {1, 4}}), 0, 0},
-        {"from 2", IntegerArray(2, {1, 2, 3}), 0, 9},
         {"the longest", IntegerArray(1, std::vector<Integer>(32767)), 32767, 0},
         {"one more", IntegerArray(1, std::vector<Integer>(32768)), 32767, 6},
         {"two more", IntegerArray(1, std::vector<Integer>(32769)), 0, 6},

@@ -5,7 +5,7 @@
 namespace Orvo::Tests {
 namespace {
 
-TEST(Volume, AndPositionStandForEachOther) {
+TEST(VolumeTest, AndPositionStandForEachOther) {
     for (Integer volume = -30; volume <= 30; volume += 2) {
         EXPECT_EQ(volumeAt(sliderPosition(volume)), volume);
         EXPECT_EQ(volumeAt(sliderPosition(static_cast<Integer>(volume - 1))), volume);

@@ -72,7 +72,7 @@ const TreeCase kTrees[] = {
      {"/dev/ttyS3, , Serial port, 3", "/dev/ttyS4, , ä\uFFFD\t\x01, 3"}},
 };
 
-TEST(DevicePorts, AreThoseThatTheTreeShows) {
+TEST(DevicePortsTest, AreThoseThatTheTreeShows) {
     for (const TreeCase& treeCase : kTrees) {
         const TemporaryDirectory root;
         root.add(treeCase.tree);

@@ -30,7 +30,7 @@ const std::string kTwoQueues =
     answer(0, '\1' + attribute('\x47', "attributes-charset", "utf-8") + '\4' + kName + kInLanguage +
                   kOverNetwork + '\4' + attribute('\x42', "printer-name", "label"));
 
-TEST(QueueListing, ReadsWhatIsOfUse) {
+TEST(QueueListingTest, ReadsWhatIsOfUse) {
     struct Case {
         const char* label;
         std::string answer;
@@ -56,13 +56,13 @@ TEST(QueueListing, ReadsWhatIsOfUse) {
     }
 }
 
-TEST(QueueListing, IsNoneWhenCutOffAnywhere) {
+TEST(QueueListingTest, IsNoneWhenCutOffAnywhere) {
     for (std::size_t size = 0; size < kTwoQueues.size(); ++size) {
         EXPECT_FALSE(Runtime::queuesIn(kTwoQueues.substr(0, size))) << size;
     }
 }
 
-TEST(QueueListing, IsNoneWhenRefusedOrInconsistent) {
+TEST(QueueListingTest, IsNoneWhenRefusedOrInconsistent) {
     EXPECT_FALSE(Runtime::queuesIn(answer(0x0401, '\4' + kName)));
     const std::string longer = counted("de") + std::string{0, 9} + "short";
     EXPECT_FALSE(Runtime::queuesIn(answer(0, '\4' + attribute('\x36', "printer-info", longer))));

@@ -3,9 +3,9 @@
 namespace Orvo::Tests {
 namespace {
 
-using InformationEntry = PanelTest;
+using InformationEntryTest = PanelTest;
 
-TEST_F(InformationEntry, EndsWhenThePanelIsReleasedUnderIt) {
+TEST_F(InformationEntryTest, EndsWhenThePanelIsReleasedUnderIt) {
     struct Releasing final : Runtime::Prompter {
         std::optional<String> ask(const Widgets::Question& /*question*/) override {
             ++asked;

@@ -1,10 +1,10 @@
 #include "Orvo/store/store.h"
 
-#include <functional>
 #include <utility>
 
 #include <gtest/gtest.h>
 
+#include "Support/notification_log.h"
 #include "Support/operation_log.h"
 
 namespace Orvo::Tests {
@@ -12,29 +12,18 @@ namespace {
 
 using namespace std::chrono_literals;
 using Runtime::Store;
-using Widgets::Notification;
 
-// A store without a panel, and what it notifies: "click optP1".
-class StoreTest : public testing::Test, Widgets::NotificationSink {
+using Heard = std::vector<Told>;
+
+// A store without a panel, and what it notifies.
+class StoreTest : public testing::Test {
 protected:
-    StoreTest() { store_.notifyTo(this); }
-
-    void notify(Notification& notification) override {
-        constexpr const char* kNames[] = {"click", "release", "key", "tick", "change"};
-        heard_.push_back(std::string(kNames[static_cast<int>(notification.kind)]) + ' ' +
-                         std::string(Layout::describe(notification.widget).name));
-        if (answer_) answer_(notification);
-    }
-
-    std::vector<std::string> takeHeard() { return std::exchange(heard_, {}); }
+    StoreTest() { store_.notifyTo(&panel_); }
 
     std::shared_ptr<Store> shared_ = Store::create();
     Store& store_ = *shared_;
-    std::vector<std::string> heard_;
-    std::function<void(Notification&)> answer_;
+    NotificationLog panel_;
 };
-
-using Heard = std::vector<std::string>;
 
 TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
     constexpr auto kP1 = channel(1).positive.option;
@@ -46,28 +35,30 @@ TEST_F(StoreTest, SelectsOneOptionOfAContainer) {
     EXPECT_FALSE(store_[kP1].value());
     EXPECT_TRUE(store_[kN1].value());
     EXPECT_TRUE(store_[kP3].value());
-    EXPECT_EQ(takeHeard(), (Heard{"click optP3", "click optP1", "click optN1", "release optN1"}));
+    EXPECT_EQ(panel_.take(),
+              (Heard{{kP3, "click"}, {kP1, "click"}, {kN1, "click"}, {kN1, "release"}}));
     store_.perform(Deed::click(kN1.id));
     store_.perform(Deed::key(kN1.id, ' '));
     store_[kN1].setValue(true);
-    EXPECT_EQ(takeHeard(),
-              (Heard{"click optN1", "release optN1", "key optN1", "click optN1", "click optN1"}));
+    EXPECT_EQ(
+        panel_.take(),
+        (Heard{{kN1, "click"}, {kN1, "release"}, {kN1, "key32"}, {kN1, "click"}, {kN1, "click"}}));
 }
 
 TEST_F(StoreTest, TicksOnceForAllTheTimeThatItMissed) {
     store_[pair(2).testTimer].setEnabled(false);
     store_.catchUp(10s);
-    EXPECT_EQ(takeHeard(), Heard{"tick tmrVirtualTemp12"});
+    EXPECT_EQ(panel_.take(), (Heard{{pair(1).testTimer, "tick"}}));
     EXPECT_EQ(store_.untilNextTick(), 500ms);
 }
 
 TEST_F(StoreTest, LetsATickPassTimeItself) {
-    answer_ = [&, isFirst = true](Notification&) mutable {
+    panel_.answer = [&, isFirst = true]() mutable {
         if (std::exchange(isFirst, false)) store_.advance(3000ms);
     };
     store_.advance(2000ms);
     EXPECT_EQ(store_.now(), 4500ms);
-    EXPECT_EQ(takeHeard().size(), 6U);
+    EXPECT_EQ(panel_.take().size(), 6U);
 }
 
 TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
@@ -84,7 +75,7 @@ TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
     EXPECT_FALSE(bool(store_[kSlider].buttonDown()));
     store_.perform(Deed::slide(kSlider.id, 3));
     EXPECT_EQ(store_[kSlider].position(), 30);
-    EXPECT_EQ(takeHeard(), Heard{"change ZelvinSlider1"});
+    EXPECT_EQ(panel_.take(), (Heard{{kSlider, "change"}}));
 }
 
 TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {

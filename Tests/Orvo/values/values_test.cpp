@@ -11,7 +11,7 @@
 namespace Orvo::Tests {
 namespace {
 
-TEST(Rounding, GoesToTheNearestAndHalfwayToTheEven) {
+TEST(RoundingTest, GoesToTheNearestAndHalfwayToTheEven) {
     EXPECT_EQ(roundToInteger(9.5), 10);
     EXPECT_EQ(roundToInteger(8.5), 8);
     EXPECT_EQ(roundToInteger(-2.5), -2);
@@ -23,7 +23,7 @@ TEST(Rounding, GoesToTheNearestAndHalfwayToTheEven) {
     EXPECT_EQ(errorOf([] { roundToLong(2147483647.5); }), 6);
 }
 
-TEST(NumericValue, TakesPlainNumbersAndNothingElse) {
+TEST(NumericValueTest, TakesPlainNumbersAndNothingElse) {
     EXPECT_EQ(numericValue(u" +12.50 "), 12.5);
     EXPECT_EQ(numericValue(u"-.5e1"), -5);
     for (const auto* text :
@@ -33,7 +33,12 @@ TEST(NumericValue, TakesPlainNumbersAndNothingElse) {
     EXPECT_EQ(errorOf([] { numericValue(u"1e999"); }), 6);
 }
 
-TEST(Utf8, RoundTripsTextAndReplacesWhatIsNone) {
+TEST(ConversionTest, OfNothingGivesZeroAndNoText) {
+    EXPECT_EQ(convert({}, ValueType::integer), Value(Integer{0}));
+    EXPECT_EQ(convert({}, ValueType::string), Value(String()));
+}
+
+TEST(Utf8Test, RoundTripsTextAndReplacesWhatIsNone) {
     const String text = u"a" + String(1, u'\0') + u" è € \U0001F50A";
     EXPECT_EQ(fromUtf8(toUtf8(text)), text);
     EXPECT_EQ(toUtf8(u"\xD83D!"), "\uFFFD!");
@@ -41,12 +46,12 @@ TEST(Utf8, RoundTripsTextAndReplacesWhatIsNone) {
     EXPECT_EQ(fromUtf8("\xED\xA0\x80"), u"\uFFFD");
 }
 
-TEST(Ansi, IsCodePage1252) {
+TEST(AnsiTest, IsCodePage1252) {
     EXPECT_EQ(toAnsi(u"È €\u0081 Ω \U0001F50A"), "\xC8 \x80\x81 ? ?");
     EXPECT_EQ(fromAnsi("\x80\xE8\x9F\x81"), u"€èŸ\u0081");
 }
 
-TEST(IntegerArray, KeepsItsBounds) {
+TEST(IntegerArrayTest, KeepsItsBounds) {
     EXPECT_EQ(IntegerArray(-1, {1, 2, 3}).bounds(), (IntegerArray::Bounds{-1, 1}));
     EXPECT_EQ(errorOf([] { static_cast<void>(IntegerArray().bounds()); }), 9);
     const IntegerArray grid(std::vector<IntegerArray::Bounds>{{0, 2}, {1, 4}});

@@ -144,21 +144,12 @@ TEST_F(PaintingTest, ATraceColoursItsOwnPixelsAlone) {
 
 TEST_F(PaintingTest, WhatIsDrawnLaterOnAScopeLiesOnTop) {
     auto& surface = store_[channel(1).scope];
-    const auto colour = [&] {
+    for (const bool isTrace : {true, false, true}) {
+        isTrace ? surface.trace(flat(135)) : surface.line({0, 50}, {195, 50}, rgb(255, 0, 0));
         settle();
-        return control(channel(1).scope).grab().toImage().pixelColor(2 + 100, 2 + 50);
-    };
-    const auto drawLine = [&] { surface.line({0, 50}, {195, 50}, rgb(255, 0, 0)); };
-    surface.trace(flat(135));
-    EXPECT_EQ(colour(), QColor(0, 255, 0));
-    drawLine();
-    EXPECT_EQ(colour(), QColor(255, 0, 0));
-    surface.trace(flat(135));
-    EXPECT_EQ(colour(), QColor(0, 255, 0));
-    surface.clear();
-    drawLine();
-    surface.trace(flat(10));
-    EXPECT_EQ(colour(), QColor(255, 0, 0));
+        const QImage image = control(channel(1).scope).grab().toImage();
+        EXPECT_EQ(image.pixelColor(2 + 100, 2 + 50), isTrace ? QColor(0, 255, 0) : QColor(Qt::red));
+    }
 }
 
 TEST_F(PaintingTest, AScopeThatKeepsItsGridShowsWhatItWouldWithoutIt) {
@@ -176,16 +167,8 @@ TEST_F(PaintingTest, AScopeThatKeepsItsGridShowsWhatItWouldWithoutIt) {
         {"a second trace", [&] { surface.trace(flat(150)); }},
         {"the grid again", [&] { drawGrid(50, u"0 V"); }},
         {"another trace", [&] { surface.trace(flat(200)); }},
-        {"another line",
-         [&] {
-             drawGrid(60, u"0 V");
-             surface.trace(flat(200));
-         }},
-        {"another text",
-         [&] {
-             drawGrid(60, u"1 V");
-             surface.trace(flat(200));
-         }},
+        {"another line", [&] { drawGrid(60, u"0 V"), surface.trace(flat(200)); }},
+        {"another text", [&] { drawGrid(60, u"1 V"), surface.trace(flat(200)); }},
         {"disabled", [&] { store_.enable(channel(1).scope, false); }},
         {"cleared", [&] { surface.clear(); }},
     };

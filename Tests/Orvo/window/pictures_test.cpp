@@ -59,28 +59,5 @@ TEST_F(TabPicturesTest, ShowWhenAWidgetMoves) {
     }
 }
 
-QImage sample(QFont::HintingPreference hinting, QColor colour = {255, 255, 128}) {
-    QImage image(300, 40, QImage::Format_RGB32);
-    image.fill(QColor(40, 38, 60));
-    QFont font("Liberation Sans");
-    font.setPixelSize(11);
-    font.setHintingPreference(hinting);
-    QPainter painter(&image);
-    painter.setFont(font);
-    painter.setPen(colour);
-    painter.drawText(QPointF(10, 24), "Protection of channel 2, 1000Hz, EIAJ (1KHz)");
-    return image;
-}
-
-TEST(PictureComparison, AnotherHintingPassesAnotherColourDoesNot) {
-    const std::vector<QRect> text{{8, 10, 280, 20}};
-    const QImage hinted = sample(QFont::PreferVerticalHinting);
-    const QImage unhinted = sample(QFont::PreferNoHinting);
-    EXPECT_NE(unhinted, hinted);
-    EXPECT_TRUE(isHinting(differenceOf(unhinted, hinted, text)));
-    const QImage white = sample(QFont::PreferVerticalHinting, Qt::white);
-    EXPECT_FALSE(isHinting(differenceOf(white, hinted, text)));
-}
-
 }  // namespace
 }  // namespace Orvo::Window

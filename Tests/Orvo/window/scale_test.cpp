@@ -5,7 +5,7 @@
 namespace Orvo::Window {
 namespace {
 
-TEST(Scale, WhatAdjoinsInTwipsAdjoinsOnTheScreen) {
+TEST(ScaleTest, WhatAdjoinsInTwipsAdjoinsOnTheScreen) {
     for (const double zoom : {1.0, 1.1, 1.25, 1.5, 1.75, 2.0, 3.0}) {
         const Scale scale(zoom);
         for (int left = 0; left < 300; left += 7) {

@@ -15,7 +15,7 @@
 namespace Orvo::Window {
 namespace {
 
-TEST(SliderTrack, PositionsAndPlacesBelongTogether) {
+TEST(SliderTrackTest, PositionsAndPlacesBelongTogether) {
     for (const ZeroAt zero : {ZeroAt::top, ZeroAt::bottom}) {
         for (const int maximum : {30, 100}) {
             const SliderTrack track{8, 48, maximum, zero};
@@ -26,7 +26,7 @@ TEST(SliderTrack, PositionsAndPlacesBelongTogether) {
     }
 }
 
-TEST(SliderTrack, BeyondTheTrackIsItsEnd) {
+TEST(SliderTrackTest, BeyondTheTrackIsItsEnd) {
     const SliderTrack track{8, 48, 30, ZeroAt::bottom};
     EXPECT_EQ(track.positionAt(-100), 30);
     EXPECT_EQ(track.positionAt(1000), 0);
@@ -76,7 +76,7 @@ int differingPixels(const QImage& one, const QImage& other) {
                                  pixelsOf(other).begin(), 0, std::plus(), std::not_equal_to());
 }
 
-TEST(DrawTrace, GivesThePictureOfItsSegments) {
+TEST(DrawTraceTest, GivesThePictureOfItsSegments) {
     std::minstd_rand random(1);
     const auto any = [&](int least, int most) {
         return std::uniform_int_distribution<int>(least, most)(random);

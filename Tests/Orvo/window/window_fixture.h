@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -8,25 +8,12 @@
 #include <QTest>
 
 #include "Orvo/window/panel_screen.h"
+#include "Support/notification_log.h"
 #include "Support/roles.h"
 
 namespace Orvo::Window {
 
-/// Writes down what a panel would be told.
-class NotificationLog final : public Widgets::NotificationSink {
-public:
-    void notify(Widgets::Notification& notification) override {
-        constexpr const char* kNames[] = {"click", "release", "key", "tick", "change"};
-        if (!heard.empty()) heard += ", ";
-        heard += std::string(Layout::describe(notification.widget).name) + " " +
-                 kNames[static_cast<int>(notification.kind)];
-        if (notification.keyCode != 0) heard += std::to_string(notification.keyCode);
-        if (discardsKeys) notification.keyCode = 0;
-    }
-
-    std::string heard;
-    bool discardsKeys = false;
-};
+using Heard = std::vector<Tests::Told>;
 
 /// A shown screen over a bare store: what the panel would write, the test writes.
 class WindowTest : public testing::Test {
@@ -57,7 +44,7 @@ protected:
 
     std::shared_ptr<Runtime::Store> owner_ = Runtime::Store::create();
     Runtime::Store& store_ = *owner_;
-    NotificationLog panel_;
+    Tests::NotificationLog panel_;
     PanelScreen front_{owner_};
 };
 

@@ -1,11 +1,11 @@
 #include "Orvo/generator/grid.h"
-#include "Orvo/widgets/trace.h"
+
 #include "Support/bench.h"
 
 namespace Orvo::Tests {
 namespace {
 
-TEST(GridMarks, LieEveryTenthOfTheHeight) {
+TEST(GridMarksTest, LieEveryTenthOfTheHeight) {
     const struct {
         float height = 0;
         std::size_t count = 0;
@@ -25,15 +25,6 @@ TEST(GridMarks, LieEveryTenthOfTheHeight) {
     }
     EXPECT_TRUE(gridMarks(5).empty());
     EXPECT_EQ(errorOf([] { gridMarks(32768); }), 6);
-}
-
-TEST(Trace, SpreadsTheSamplesOverTheSurface) {
-    const Widgets::Trace trace{{128, 255, 0}, 100, 195, 95, {}};
-    EXPECT_FLOAT_EQ(trace.at(0).x, 31.65F);
-    EXPECT_NEAR(trace.at(0).y, 47.69, 0.005);
-    EXPECT_NEAR(trace.at(1).y, 98.31, 0.005);
-    EXPECT_NEAR(trace.at(2).y, -3.34, 0.005);
-    EXPECT_EQ(trace.x(99), 195);
 }
 
 }  // namespace
