@@ -1,17 +1,37 @@
 #include "Manager/Window/files.h"
 
+#include <QChildEvent>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMessageBox>
 
 namespace Orvo::Manager {
+namespace {
+
+// The dialog's own question whether to overwrite a file takes its name for markup.
+class PlainQuestions final : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* dialog, QEvent* event) override {
+        if (event->type() == QEvent::ChildPolished) {
+            auto* box = qobject_cast<QMessageBox*>(static_cast<QChildEvent*>(event)->child());
+            if (box != nullptr) box->setTextFormat(Qt::PlainText);
+        }
+        return QObject::eventFilter(dialog, event);
+    }
+};
+
+}  // namespace
 
 void askForFile(QWidget& window, const FileQuestion& question,
                 const std::function<void(const QString& path)>& use,
                 const std::function<void()>& otherwise) {
     auto* dialog = new QFileDialog(&window, question.title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->installEventFilter(new PlainQuestions(dialog));
     dialog->setAcceptMode(question.mode);
     const bool isOpening = question.mode == QFileDialog::AcceptOpen;
     dialog->setFileMode(isOpening ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

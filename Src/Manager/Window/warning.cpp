@@ -1,6 +1,9 @@
 #include "Manager/Window/warning.h"
 
+#include <QLabel>
 #include <QMessageBox>
+
+#include "Orvo/window/drawing/shown_text.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -14,8 +17,8 @@ QDialog& showWarning(QWidget& window, const QString& title, const QString& text,
                      const QString& details) {
     auto* box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &window);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(details);
+    box->setInformativeText(Window::onLines(details, box->font()));
+    for (QLabel* label : box->findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
     box->setStyleSheet(kReadable);
     box->open();
     return *box;

@@ -14,6 +14,7 @@
 #include "Orvo/service/information_entry.h"
 #include "Orvo/window/drawing/chrome.h"
 #include "Orvo/window/drawing/palette.h"
+#include "Orvo/window/drawing/shown_text.h"
 
 namespace Orvo::Window {
 
@@ -168,7 +169,7 @@ void LogView::copy() const {
     QModelIndexList lines = selectionModel()->selectedIndexes();
     std::sort(lines.begin(), lines.end());
     QStringList texts;
-    for (const QModelIndex& line : lines) texts += line.data().toString();
+    for (const QModelIndex& line : lines) texts += toQt(model_.lineAt(line.row()));
     QGuiApplication::clipboard()->setText(texts.join('\n'));
 }
 
@@ -191,7 +192,7 @@ void LogView::drawRow(QPainter& painter, int row) const {
     const int margin = qRound(kMargin * zoom());
     const QRect line = place.adjusted(margin, 0, -margin, 0);
     // No more of a long line than there is room for, as a character takes a pixel or more.
-    const QString text = model_.textOf(row, std::size_t(line.width()) + 1);
+    const QString text = shown(model_.lineAt(row).substr(0, std::size_t(line.width()) + 1));
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(text, Qt::ElideRight, line.width()));
 }
