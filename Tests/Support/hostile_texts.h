@@ -35,8 +35,8 @@ struct HostileText {
 std::vector<HostileText> hostileTexts(const TrappedFile& file);
 
 /// What nothing on the screen may have: a text that is taken for markup, that is endless, or that
-/// has more than lines of what can be seen, also where screen readers get it; a window that is
-/// larger than the screen.
+/// has more than lines of what can be seen, also where screen readers get it; a tip or a
+/// dialog that is larger than the screen.
 std::string faultsOnScreen();
 
 }  // namespace Orvo::Tests

@@ -47,11 +47,9 @@ void LogView::layOut(const Scale& scale) {
 
 void LogView::refresh() {
     Control::refresh();
-    const bool isAtEnd = top() == bar_.maximum();
     const int before = rowCount();
     model_.keepUp();
     updateGeometries();
-    if (isAtEnd) bar_.setValue(bar_.maximum());
     bar_.settle();
     // Only now: what waits to be painted can't be scrolled.
     if (rowCount() > before) viewport()->update(placeOf(before, rowCount() - 1));
@@ -62,8 +60,10 @@ int LogView::visibleRows() const { return std::max(1, viewport()->height() / row
 int LogView::verticalOffset() const { return top() * rowHeight_; }
 
 void LogView::updateGeometries() {
+    const bool isAtEnd = top() == bar_.maximum();
     bar_.setPageStep(visibleRows());
     bar_.setRange(0, std::max(0, rowCount() - visibleRows()));
+    if (isAtEnd) bar_.setValue(bar_.maximum());
     QAbstractItemView::updateGeometries();
 }
 
@@ -166,10 +166,14 @@ void LogView::keyPressEvent(QKeyEvent* event) {
 }
 
 void LogView::copy() const {
-    QModelIndexList lines = selectionModel()->selectedIndexes();
-    std::sort(lines.begin(), lines.end());
+    QItemSelection ranges = selectionModel()->selection();
+    std::ranges::sort(ranges, {}, &QItemSelectionRange::top);
     QStringList texts;
-    for (const QModelIndex& line : lines) texts += toQt(model_.lineAt(line.row()));
+    for (const QItemSelectionRange& range : ranges) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            texts += toQt(model_.lineAt(row));
+        }
+    }
     QGuiApplication::clipboard()->setText(texts.join('\n'));
 }
 
