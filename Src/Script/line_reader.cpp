@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <stdexcept>
 #include <system_error>
 #include <utility>
 
@@ -40,6 +41,7 @@ bool LineReader::fill() {
     beforeWaiting_();
     buffer_.erase(0, std::exchange(start_, 0));
     const std::size_t kept = buffer_.size();
+    if (kept > kLongestLine) throw std::runtime_error(name_ + ": A line is longer than 16 MiB");
     buffer_.resize(kept + kChunk);
     ssize_t count = 0;
     do {

@@ -8,14 +8,17 @@
 
 namespace Orvo::Script {
 
-/// Reads lines of any length from a file descriptor.
+/// Reads lines from a file descriptor.
 class LineReader {
 public:
+    /// Far more than any command makes use of.
+    static constexpr std::size_t kLongestLine = std::size_t{16} << 20U;  // bytes
+
     /// `beforeWaiting` is called before every read, which may wait for whoever writes.
     LineReader(int descriptor, std::string name, std::function<void()> beforeWaiting);
 
     /// The next line without its line break; none at the end. It is valid until the next call.
-    /// Throws std::system_error with the name.
+    /// Throws std::runtime_error, "NAME: REASON", also for a line that is too long.
     std::optional<std::string_view> next();
     /// Whether that line, the last, came without a line break.
     [[nodiscard]] bool isCutOff() const { return isCutOff_; }

@@ -52,8 +52,8 @@ enum Status { done, notUnderstood, cannotRun };
 
 /// Runs the script of a file, of standard input for "-", and answers on standard output, before it
 /// waits for more at the latest. Each "?" is reported on standard error with its place.
-/// `beforeWaiting` is told what is read from. Throws std::system_error when the file can't be
-/// opened, or reading or writing fails.
+/// `beforeWaiting` is told what is read from. Throws std::runtime_error when the file can't be
+/// opened, a line is too long, or reading or writing fails.
 Status runScript(
     PanelOwner& owner, Person& person, const Grammar& grammar, const std::string& file,
     AtComplaint atComplaint, const std::function<void(int descriptor)>& beforeWaiting = [](int) {});

@@ -36,6 +36,7 @@ public:
 private:
     std::size_t longest_ = kLongestLine;  // bytes
     std::string buffer_;
+    std::size_t searched_ = 0;  // so many bytes of it have no line break
     bool isTooLong_ = false;
 };
 

@@ -22,8 +22,9 @@ class Replay final : public Device, private Script::Person {
 public:
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
-    /// Eight times what a link takes: what it has sent is recorded with escapes.
-    static constexpr std::size_t kLongestLine = 8 * LineSplitter::kLongestLine;  // bytes
+    /// What a link takes, each byte of it recorded as an escape.
+    static constexpr std::size_t kLongestLine =
+        (sizeof "\\u0000" - 1) * LineSplitter::kLongestLine;  // bytes
 
     /// A file that can't be read is an empty script.
     Replay(Script::PanelOwner& owner, Script::Person& person, const std::filesystem::path& script,

@@ -1,6 +1,7 @@
 #include "Manager/Window/event_dock.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -12,6 +13,17 @@ namespace Orvo::Manager {
 namespace {
 
 constexpr int kWidth = 46;  // characters
+
+// More would be noticed where lines are long; the rest comes with the next time.
+constexpr std::uint64_t kMostAtOnce = 400;
+
+using Line = std::deque<std::string>::const_iterator;
+
+QString joined(Line first, Line last) {
+    QStringList texts;
+    std::transform(first, last, std::back_inserter(texts), &QString::fromStdString);
+    return texts.join('\n');
+}
 
 QWidget* rowOf(const QList<QAction*>& actions) {
     auto* row = new QWidget;
@@ -77,15 +89,15 @@ void EventDock::showNewest() {
 
 void EventDock::append() {
     const auto& lines = log_.lines();
-    const auto fresh = std::min<std::uint64_t>(log_.added() - shown_, lines.size());
-    QStringList texts;
-    for (auto line = lines.end() - std::ptrdiff_t(fresh); line != lines.end(); ++line) {
-        texts += QString::fromStdString(*line);
-    }
+    const auto missing = std::min<std::uint64_t>(log_.added() - shown_, lines.size());
+    const auto first = lines.end() - std::ptrdiff_t(missing);
+    const auto count = std::min<std::uint64_t>(missing, kMostAtOnce);
     const bool wasNewestShown = showsNewest();
-    if (!texts.isEmpty()) lines_->appendPlainText(texts.join('\n'));
+    if (count > 0) lines_->appendPlainText(joined(first, first + std::ptrdiff_t(count)));
     if (wasNewestShown) showNewest();
-    shown_ = log_.added();
+    shown_ = log_.added() - missing + count;
 }
+
+QString EventDock::text() const { return joined(log_.lines().begin(), log_.lines().end()); }
 
 }  // namespace Orvo::Manager

@@ -14,9 +14,10 @@ public:
     /// The actions stand above the lines.
     EventDock(const EventLog& log, const QList<QAction*>& actions, QWidget* parent = nullptr);
 
-    /// Brings what is new in the log to the screen.
+    /// Brings what is new in the log to the screen, a good deal of it at a time.
     void refresh();
-    [[nodiscard]] QString text() const { return lines_->toPlainText(); }
+    /// All of the log.
+    [[nodiscard]] QString text() const;
 
 protected:
     void showEvent(QShowEvent* event) override;

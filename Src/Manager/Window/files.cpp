@@ -4,14 +4,37 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMessageBox>
+
+#include "Manager/Window/warning.h"
 
 namespace Orvo::Manager {
+namespace {
 
-void askForFile(QWidget& window, const FileQuestion& question,
-                const std::function<void(const QString& path)>& use,
-                const std::function<void()>& otherwise) {
+using Use = std::function<void(const QString& path)>;
+using Otherwise = std::function<void()>;
+
+// The dialog's own question would take the file's name for markup, and hold up whoever closes the
+// window.
+void askToOverwrite(QWidget& window, const QString& path, const Otherwise& agreed,
+                    const Otherwise& refused) {
+    auto* box = new QMessageBox(QMessageBox::Question, "Overwrite the file?",
+                                "There is a file of this name already.",
+                                QMessageBox::Yes | QMessageBox::No, &window);
+    explain(*box, path);
+    QObject::connect(box, &QDialog::finished, &window, [agreed, refused](int answer) {
+        answer == QMessageBox::Yes ? agreed() : refused();
+    });
+    box->open();
+}
+
+}  // namespace
+
+void askForFile(QWidget& window, const FileQuestion& question, const Use& use,
+                const Otherwise& otherwise) {
     auto* dialog = new QFileDialog(&window, question.title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->setAcceptMode(question.mode);
     const bool isOpening = question.mode == QFileDialog::AcceptOpen;
     dialog->setFileMode(isOpening ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -19,7 +42,13 @@ void askForFile(QWidget& window, const FileQuestion& question,
     dialog->setNameFilters({question.kind + " (*." + question.ending + ")", "All files (*)"});
     dialog->setDirectory(question.directory.isEmpty() ? QDir::homePath() : question.directory);
     dialog->selectFile(question.name);
-    QObject::connect(dialog, &QFileDialog::fileSelected, &window, use);
+    QObject::connect(dialog, &QFileDialog::fileSelected, &window,
+                     [=, &window](const QString& path) {
+                         if (isOpening || !QFileInfo::exists(path)) return use(path);
+                         askToOverwrite(
+                             window, path, [=] { use(path); },
+                             [=, &window] { askForFile(window, question, use, otherwise); });
+                     });
     QObject::connect(dialog, &QFileDialog::rejected, &window, otherwise);
     dialog->open();
 }

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "Orvo/window/drawing/shown_text.h"
+
 namespace Orvo::Manager {
 namespace {
 
@@ -40,8 +42,8 @@ void AlertLabel::alert() {
 }
 
 void ElidedLabel::setFullText(const QString& text) {
-    setText(text);
-    setToolTip(text);
+    setText(Window::shown(text));
+    setToolTip(Window::onLines(text));
 }
 
 QSize ElidedLabel::minimumSizeHint() const {

@@ -12,6 +12,7 @@
 
 #include "Manager/Window/warning.h"
 #include "Orvo/ports/machine_platform.h"
+#include "Orvo/window/drawing/shown_text.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -103,7 +104,8 @@ void ManagerWindow::showSituation() {
     statusLine_->showText(text);
     // A status bar doesn't hand on by itself what a line in it needs.
     statusBar()->setMinimumWidth(statusLine_->minimumSizeHint().width());
-    const QString title = QString::fromStdString(text.connection) + " - Marvane Manager";
+    const QString title =
+        Window::asTitle(QString::fromStdString(text.connection)) + " - Marvane Manager";
     const QString recording = recordingText();
     setWindowTitle((text.isStale ? "Old values: " : "") + recording +
                    (recording.isEmpty() ? "" : ": ") + title);

@@ -1,6 +1,9 @@
 #include "Manager/Window/warning.h"
 
+#include <QLabel>
 #include <QMessageBox>
+
+#include "Orvo/window/drawing/shown_text.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -10,13 +13,17 @@ constexpr auto kReadable = "#qt_msgbox_informativelabel { min-width: 22em; }";
 
 }  // namespace
 
+void explain(QMessageBox& box, const QString& details) {
+    box.setAttribute(Qt::WA_DeleteOnClose);
+    box.setInformativeText(Window::onLines(details, box.font()));
+    for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+    box.setStyleSheet(kReadable);
+}
+
 QDialog& showWarning(QWidget& window, const QString& title, const QString& text,
                      const QString& details) {
     auto* box = new QMessageBox(QMessageBox::Warning, title, text, QMessageBox::Ok, &window);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(details);
-    box->setStyleSheet(kReadable);
+    explain(*box, details);
     box->open();
     return *box;
 }

@@ -123,10 +123,9 @@ void ManagerWindow::copyEvents() {
 void ManagerWindow::showShortcuts() { openShortcutsDialog(*this); }
 
 void ManagerWindow::showAbout() {
-    auto* box =
-        new QMessageBox(QMessageBox::Information, "About Marvane Manager",
-                        "<h3>Marvane Manager " + QApplication::applicationVersion() + "</h3>",
-                        QMessageBox::Ok, this);
+    auto* box = new QMessageBox(QMessageBox::Information, "About Marvane Manager",
+                                "Marvane Manager " + QApplication::applicationVersion(),
+                                QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(
         "The front panel of a four-channel power amplifier, for service and monitoring, with a "

@@ -1,5 +1,10 @@
 #include "Orvo/window/prompt_dialog.h"
 
+#include <QInputDialog>
+#include <QLabel>
+#include <QPointer>
+
+#include "Orvo/window/drawing/shown_text.h"
 #include "Orvo/window/drawing/text.h"
 
 namespace Orvo::Window {
@@ -9,16 +14,21 @@ namespace {
 // Besides accepted and rejected.
 constexpr int kWithdrawn = 2;
 
+// The label of a field underlines what stands behind a "&".
+void setLabel(QInputDialog& dialog, const String& text) {
+    dialog.setLabelText(onLines(text, dialog.font()).replace('&', "&&"));
+    for (QLabel* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+}
+
 }  // namespace
 
 std::optional<String> PromptDialog::ask(const Widgets::Question& question) {
     if (!panel_.isVisible()) throw Widgets::PromptWithdrawn{};
     const QPointer<QInputDialog> dialog = new QInputDialog(&panel_);
     const bool isHidden = question.echo == Widgets::Echo::hidden;
-    dialog->setWindowTitle(question.title.empty() ? "Marvane Assistant" : toQt(question.title));
-    dialog->setLabelText(toQt(question.text));
+    dialog->setWindowTitle(question.title.empty() ? "Marvane Assistant" : asTitle(question.title));
+    setLabel(*dialog, question.text);
     dialog->setTextEchoMode(isHidden ? QLineEdit::Password : QLineEdit::Normal);
-    open_ = dialog;
     const int result = dialog->exec();
     if (!dialog) throw Widgets::PromptWithdrawn{};
     const String answer = fromQt(dialog->textValue());
@@ -28,7 +38,7 @@ std::optional<String> PromptDialog::ask(const Widgets::Question& question) {
 }
 
 void PromptDialog::withdraw() {
-    if (open_) open_->done(kWithdrawn);
+    for (QInputDialog* dialog : panel_.findChildren<QInputDialog*>()) dialog->done(kWithdrawn);
 }
 
 }  // namespace Orvo::Window

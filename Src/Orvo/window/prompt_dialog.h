@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QInputDialog>
-#include <QPointer>
+#include <QWidget>
 
 #include "Orvo/store/store.h"
 
@@ -15,12 +14,11 @@ public:
     /// Throws Widgets::PromptWithdrawn when the panel goes away or out of sight meanwhile, or isn't
     /// in sight at all. In the first case this has gone with it.
     std::optional<String> ask(const Widgets::Question& question) override;
-    /// Takes the dialog that is open away, if there is one.
+    /// Takes the dialogs that are open away, if there are any.
     void withdraw();
 
 private:
     QWidget& panel_;
-    QPointer<QInputDialog> open_;
 };
 
 }  // namespace Orvo::Window

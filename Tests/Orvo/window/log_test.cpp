@@ -52,6 +52,8 @@ TEST_F(LogTest, TheLastLineStaysInViewUntilSomebodyScrolls) {
     settle();
     QScrollBar& bar = *view_.verticalScrollBar();
     EXPECT_EQ(bar.value(), bar.maximum());
+    front_.setZoom(0.6);
+    EXPECT_EQ(bar.value(), bar.maximum()) << "at another size, too";
     bar.setValue(10);
     add(100);
     settle();

@@ -179,6 +179,15 @@ TEST_F(PromptTest, DeletingThePanelWithdrawsIt) {
     EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
 }
 
+TEST_F(PromptTest, ClosingTheWindowWithdrawsAllThatAreOpen) {
+    whenAsked([this](QInputDialog&) {
+        whenAsked([this](QInputDialog&) { widget_->close(); });
+        EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
+    });
+    EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 // The password, the two serial numbers, the information: a window that closes leaves none half
 // done.
 TEST_F(PromptTest, ClosingTheWindowEndsTheEntryAtWhicheverPrompt) {

@@ -1,5 +1,7 @@
 #include "Orvo/window/controls/combo_box.h"
 
+#include <algorithm>
+
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -8,6 +10,7 @@
 
 #include "Orvo/window/drawing/chrome.h"
 #include "Orvo/window/drawing/palette.h"
+#include "Orvo/window/drawing/shown_text.h"
 
 namespace Orvo::Window {
 
@@ -16,12 +19,13 @@ ComboBox::ComboBox(Runtime::Store& store, WidgetId id, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(15);
     // Qt goes on working with the box after it has told a pick; a handler may delete it only later.
-    connect(this, &QComboBox::textActivated, this, &ComboBox::pick, Qt::QueuedConnection);
+    connect(this, &QComboBox::activated, this, &ComboBox::pick, Qt::QueuedConnection);
 }
 
-void ComboBox::pick(const QString& text) {
+void ComboBox::pick(int item) {
     const QPointer<QWidget> self = this;
-    perform(Deed::pick(id(), fromQt(text)));
+    const auto& items = stored<Runtime::StoredCombo>().items;
+    if (std::size_t(item) < items.size()) perform(Deed::pick(id(), items[std::size_t(item)]));
     if (self != nullptr) refresh();
 }
 
@@ -30,9 +34,10 @@ void ComboBox::refresh() {
     const auto& [text, items] = stored<Runtime::StoredCombo>();
     const QSignalBlocker silence(this);
     QStringList added;
-    for (auto i = std::size_t(count()); i < items.size(); ++i) added += toQt(items[i]);
+    for (auto i = std::size_t(count()); i < items.size(); ++i) added += shown(items[i]);
     addItems(added);
-    setCurrentIndex(findText(toQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    const auto current = std::ranges::find(items, text);
+    setCurrentIndex(current != items.end() ? int(current - items.begin()) : -1);
     update();
 }
 
@@ -59,7 +64,7 @@ void ComboBox::paintEvent(QPaintEvent*) {
                                     {right, middle - arrow / 2}}));
     painter.setPen(ink);
     painter.drawText(QRectF(5 * zoom(), 0, right - 2 * arrow - 6 * zoom(), height()),
-                     Qt::AlignLeft | Qt::AlignVCenter, toQt(stored<Runtime::StoredCombo>().text));
+                     Qt::AlignLeft | Qt::AlignVCenter, shown(stored<Runtime::StoredCombo>().text));
     drawFocus(painter, *this, zoom());
 }
 

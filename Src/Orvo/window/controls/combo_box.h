@@ -20,7 +20,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void pick(const QString& text);
+    void pick(int item);
 };
 
 }  // namespace Orvo::Window

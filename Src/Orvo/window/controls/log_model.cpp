@@ -1,6 +1,6 @@
 #include "Orvo/window/controls/log_model.h"
 
-#include "Orvo/window/drawing/text.h"
+#include "Orvo/window/drawing/shown_text.h"
 
 namespace Orvo::Window {
 
@@ -26,14 +26,14 @@ void LogModel::keepUp() {
 
 int LogModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : shown_; }
 
-QString LogModel::textOf(int row, std::size_t most) const {
-    if (!has(row)) return {};
-    return toQt(StringView(list_.items[std::size_t(row)]).substr(0, most));
+StringView LogModel::lineAt(int row) const {
+    return has(row) ? StringView(list_.items[std::size_t(row)]) : StringView();
 }
 
 QVariant LogModel::data(const QModelIndex& index, int role) const {
-    if ((role != Qt::DisplayRole && role != Qt::ToolTipRole) || !has(index.row())) return {};
-    return textOf(index.row(), StringView::npos);
+    if (!has(index.row())) return {};
+    if (role == Qt::DisplayRole) return shown(lineAt(index.row()));
+    return role == Qt::ToolTipRole ? onLines(lineAt(index.row())) : QVariant();
 }
 
 }  // namespace Orvo::Window

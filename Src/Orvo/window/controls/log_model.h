@@ -3,6 +3,7 @@
 #include <QAbstractListModel>
 
 #include "Orvo/store/state.h"
+#include "Orvo/values/types.h"
 
 namespace Orvo::Window {
 
@@ -15,8 +16,8 @@ public:
     /// Tells the views what has been added, in time proportional to that, or that all is new.
     void keepUp();
 
-    /// At most so many characters of a line.
-    [[nodiscard]] QString textOf(int row, std::size_t most) const;
+    /// As it is in the store; empty for a row that isn't there.
+    [[nodiscard]] StringView lineAt(int row) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

@@ -13,6 +13,7 @@
 
 #include "Orvo/service/information_entry.h"
 #include "Orvo/window/drawing/palette.h"
+#include "Orvo/window/drawing/shown_text.h"
 
 namespace Orvo::Window {
 
@@ -45,11 +46,9 @@ void LogView::layOut(const Scale& scale) {
 
 void LogView::refresh() {
     Control::refresh();
-    const bool isAtEnd = top() == bar_.maximum();
     const int before = rowCount();
     model_.keepUp();
     updateGeometries();
-    if (isAtEnd) bar_.setValue(bar_.maximum());
     bar_.settle();
     // Only now: what waits to be painted can't be scrolled.
     if (rowCount() > before) viewport()->update(placeOf(before, rowCount() - 1));
@@ -60,8 +59,10 @@ int LogView::visibleRows() const { return std::max(1, viewport()->height() / row
 int LogView::verticalOffset() const { return top() * rowHeight_; }
 
 void LogView::updateGeometries() {
+    const bool isAtEnd = top() == bar_.maximum();
     bar_.setPageStep(visibleRows());
     bar_.setRange(0, std::max(0, rowCount() - visibleRows()));
+    if (isAtEnd) bar_.setValue(bar_.maximum());
     QAbstractItemView::updateGeometries();
 }
 
@@ -164,10 +165,14 @@ void LogView::keyPressEvent(QKeyEvent* event) {
 }
 
 void LogView::copy() const {
-    QModelIndexList lines = selectionModel()->selectedIndexes();
-    std::sort(lines.begin(), lines.end());
+    QItemSelection ranges = selectionModel()->selection();
+    std::ranges::sort(ranges, {}, &QItemSelectionRange::top);
     QStringList texts;
-    for (const QModelIndex& line : lines) texts += line.data().toString();
+    for (const QItemSelectionRange& range : ranges) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            texts += toQt(model_.lineAt(row));
+        }
+    }
     QGuiApplication::clipboard()->setText(texts.join('\n'));
 }
 
@@ -190,7 +195,7 @@ void LogView::drawRow(QPainter& painter, int row) const {
     const int margin = qRound(kMargin * zoom());
     const QRect line = place.adjusted(margin, 0, -margin, 0);
     // No more of a long line than there is room for, as a character takes a pixel or more.
-    const QString text = model_.textOf(row, std::size_t(line.width()) + 1);
+    const QString text = shown(model_.lineAt(row).substr(0, std::size_t(line.width()) + 1));
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(text, Qt::ElideRight, line.width()));
 }

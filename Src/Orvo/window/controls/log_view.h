@@ -19,6 +19,8 @@ public:
     [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
     void scrollTo(const QModelIndex& index, ScrollHint hint) override;
     [[nodiscard]] QModelIndex indexAt(const QPoint& point) const override;
+    /// Nothing: there may be millions of lines to look through.
+    void keyboardSearch(const QString& /*typed*/) override {}
 
 protected:
     bool event(QEvent* event) override;

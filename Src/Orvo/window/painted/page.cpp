@@ -11,6 +11,7 @@
 
 #include "Orvo/window/drawing/kept_picture.h"
 #include "Orvo/window/drawing/palette.h"
+#include "Orvo/window/drawing/shown_text.h"
 #include "Orvo/window/drawing/text.h"
 #include "Orvo/window/painted/painted_kinds.h"
 #include "Orvo/window/spoken/names.h"
@@ -127,7 +128,8 @@ bool Page::event(QEvent* event) {
 void Page::showTip(const QHelpEvent& event) {
     for (const WidgetId id : speakers()) {
         if (!store_.isShown(id) || !placeOf(id).contains(event.pos())) continue;
-        return QToolTip::showText(event.globalPos(), sentenceOf(store_, id), this, placeOf(id));
+        return QToolTip::showText(event.globalPos(), onLines(sentenceOf(store_, id)), this,
+                                  placeOf(id));
     }
     QToolTip::hideText();
 }

@@ -1,6 +1,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include "Orvo/window/drawing/shown_text.h"
 #include "Orvo/window/drawing/text.h"
 #include "Orvo/window/painted/painted_kinds.h"
 
@@ -34,7 +35,10 @@ QFont PaintedLabel::fontOfFirst(const QFont& font) const {
     return isExtended ? spaced(font, first, width) : narrowed(font, first, width);
 }
 
-QString PaintedLabel::text() const { return toQt(stored<Runtime::StoredLabel>().caption); }
+QString PaintedLabel::text() const {
+    const String& caption = stored<Runtime::StoredLabel>().caption;
+    return hasFirstText() ? toQt(caption) : shown(caption);
+}
 
 // Only now that they are needed: to load a font is what takes longest about a window.
 const QFont& PaintedLabel::font() const {

@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QKeySequence>
 
+#include "Orvo/window/drawing/shown_text.h"
 #include "Orvo/window/spoken/names.h"
 #include "Orvo/window/spoken/spoken.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 QString tipOf(const Runtime::Store& store, Widgets::WidgetId id) {
     const QString keys = QKeySequence(keysOf(id)).toString(QKeySequence::NativeText);
-    const QString sentence = sentenceOf(store, id);
+    const QString sentence = onLines(sentenceOf(store, id));
     return keys.isEmpty() ? sentence : sentence + " (" + keys + ")";
 }
 

@@ -6,8 +6,8 @@
 
 #include "Orvo/monitor/volume.h"
 #include "Orvo/values/indexed.h"
+#include "Orvo/window/drawing/shown_text.h"
 #include "Orvo/window/drawing/slider_track.h"
-#include "Orvo/window/drawing/text.h"
 #include "Orvo/window/spoken/names.h"
 
 namespace Orvo::Window {
@@ -18,7 +18,7 @@ using Layout::Kind;
 using Layout::kindOf;
 
 QString captionOf(const Runtime::Store& store, WidgetId label) {
-    return toQt(store.get<Runtime::StoredLabel>(label).state().caption).trimmed();
+    return shown(store.get<Runtime::StoredLabel>(label).state().caption).trimmed();
 }
 
 bool isLit(const Runtime::Store& store, WidgetId lamp) {
@@ -108,7 +108,7 @@ QString valueOf(const Runtime::Store& store, WidgetId id) {
         case Kind::picture:
             return traceOn(store, id);
         case Kind::combo:
-            return toQt(store.get<Runtime::StoredCombo>(id).state().text);
+            return shown(store.get<Runtime::StoredCombo>(id).state().text);
         case Kind::check:
             return isOn(store, id) ? "on" : "off";
         case Kind::digit:
