@@ -158,7 +158,7 @@ show LED3
 ## In a replay
 
 A session that the window replays takes its time, and the window answers meanwhile. It may not use
-`shot`, also where it stands in an `on`. A line above 2080 KiB ends it, and so does a handler or a
+`shot`, also where it stands in an `on`. A line above 1560 KiB ends it, and so does a handler or a
 prompt in whose midst more is done than the window has time for.
 
 ## Over a link
