@@ -15,7 +15,7 @@ public:
     bool isOneIn(int count) { return below(count) == 0; }
     template <class Range>
     decltype(auto) oneOf(Range& range) {
-        return range[static_cast<std::size_t>(below(static_cast<int>(std::size(range))))];
+        return *(std::begin(range) + below(static_cast<int>(std::size(range))));
     }
 
 private:

@@ -78,7 +78,7 @@ std::string controlDifference(PanelScreen& shown, PanelScreen& fresh, Widgets::W
 std::string difference(PanelScreen& shown, PanelScreen& fresh, int tab) {
     for (Widgets::WidgetId id = 1; id < Layout::kWidgetCount; ++id) {
         if (Window::pageOf(id) != tab) continue;
-        const std::string found = controlDifference(shown, fresh, id);
+        std::string found = controlDifference(shown, fresh, id);
         if (!found.empty()) return found;
     }
     return pictureDifference(shown, fresh);

@@ -65,9 +65,8 @@ void checkWidget(QWidget& widget, QStringList& faults) {
 
 }  // namespace
 
-TrappedFile::TrappedFile() {
+TrappedFile::TrappedFile() : watch_(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
     directory_.add({"picture.png = none"});
-    watch_ = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
     ::inotify_add_watch(watch_, path_.c_str(), IN_OPEN);
 }
 

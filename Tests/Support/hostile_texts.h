@@ -23,7 +23,7 @@ public:
 private:
     TemporaryDirectory directory_;
     std::string path_ = directory_.path() / "picture.png";
-    int watch_ = -1;
+    const int watch_;
 };
 
 struct HostileText {

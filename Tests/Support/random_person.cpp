@@ -19,7 +19,7 @@ namespace {
 constexpr int kDeepest = 4;
 
 struct Key {
-    Qt::Key key;
+    Qt::Key key{};
     Qt::KeyboardModifiers modifiers{};
 };
 

@@ -1,7 +1,6 @@
 #include "Manager/Window/event_dock.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -17,11 +16,9 @@ constexpr int kWidth = 46;  // characters
 // More would be noticed where lines are long; the rest comes with the next time.
 constexpr std::uint64_t kMostAtOnce = 400;
 
-using Line = std::deque<std::string>::const_iterator;
-
-QString joined(Line first, Line last) {
+QString joined(const std::deque<std::string>& lines, std::uint64_t from, std::uint64_t count) {
     QStringList texts;
-    std::transform(first, last, std::back_inserter(texts), &QString::fromStdString);
+    for (std::uint64_t i = 0; i < count; ++i) texts += QString::fromStdString(lines[from + i]);
     return texts.join('\n');
 }
 
@@ -90,14 +87,13 @@ void EventDock::showNewest() {
 void EventDock::append() {
     const auto& lines = log_.lines();
     const auto missing = std::min<std::uint64_t>(log_.added() - shown_, lines.size());
-    const auto first = lines.end() - std::ptrdiff_t(missing);
     const auto count = std::min<std::uint64_t>(missing, kMostAtOnce);
     const bool wasNewestShown = showsNewest();
-    if (count > 0) lines_->appendPlainText(joined(first, first + std::ptrdiff_t(count)));
+    if (count > 0) lines_->appendPlainText(joined(lines, lines.size() - missing, count));
     if (wasNewestShown) showNewest();
     shown_ = log_.added() - missing + count;
 }
 
-QString EventDock::text() const { return joined(log_.lines().begin(), log_.lines().end()); }
+QString EventDock::text() const { return joined(log_.lines(), 0, log_.lines().size()); }
 
 }  // namespace Orvo::Manager

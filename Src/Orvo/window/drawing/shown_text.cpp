@@ -8,7 +8,7 @@ namespace Orvo::Window {
 namespace {
 
 constexpr QChar kEllipsis(u'…');
-constexpr int kWidest = 560;  // pixels
+constexpr int kWidestLine = 560;  // pixels
 constexpr int kMostLines = 15;
 
 QString cut(QStringView text) {
@@ -78,7 +78,7 @@ QString shown(QStringView text) {
 
 QString onLines(QStringView text, const QFont& font) {
     const QString line = shown(text);
-    if (QFontMetrics(font).horizontalAdvance(line) <= kWidest) return unmarked(line);
+    if (QFontMetrics(font).horizontalAdvance(line) <= kWidestLine) return unmarked(line);
     QTextLayout layout(line, font);
     QTextOption anywhere;
     anywhere.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -90,7 +90,7 @@ QString onLines(QStringView text, const QFont& font) {
             lines.back() += kEllipsis;
             break;
         }
-        next.setLineWidth(kWidest);
+        next.setLineWidth(kWidestLine);
         lines += line.mid(next.textStart(), next.textLength()).trimmed();
     }
     layout.endLayout();
