@@ -9,6 +9,11 @@ constexpr QColor kFocus(40, 128, 240);
 constexpr QColor kFocusInside(255, 255, 255, 170);
 
 constexpr QColor kPage(24, 29, 38);
+constexpr QColor kDarkGround(50, 58, 73);
+constexpr QColor kLightGround(240, 242, 246);
+constexpr QColor kBacking(14, 16, 20);
+constexpr QColor kCaptionBand(46, 50, 58);
+constexpr QColor kLampCore(255, 255, 255);
 constexpr QColor kLampRim(136, 144, 158, 150);
 
 constexpr QColor kFaceGleam(255, 255, 255, 90);

@@ -77,6 +77,16 @@ void PaintedShape::drawLamp(QPainter& painter, bool isLit) const {
     painter.setPen(QPen(toQt(looks().border), pen()));
     painter.setBrush(glass);
     painter.drawEllipse(lamp);
+    if (isLit) drawCore(painter, lamp);
+}
+
+// Brighter than any colour, with a dark rim that sets it off from a bright one: who doesn't see the
+// colour sees the shape.
+void PaintedShape::drawCore(QPainter& painter, const QRectF& lamp) const {
+    const double radius = lamp.width() * 0.24;
+    painter.setPen(QPen(toQt(looks().fill).darker(400), radius * 0.4));
+    painter.setBrush(Palette::kLampCore);
+    painter.drawEllipse(lamp.center(), radius, radius);
 }
 
 void PaintedShape::drawGlow(QPainter& painter) const {
