@@ -48,6 +48,10 @@ constexpr QColor kCapEdge(24, 27, 32);
 constexpr QColor kCapIndex(176, 24, 24);
 constexpr QColor kDisabledCapIndex(60, 62, 66);
 
+constexpr QColor kBubble(250, 250, 244);
+constexpr QColor kBubbleEdge(24, 27, 32);
+constexpr QColor kBubbleText(20, 24, 32);
+
 constexpr QColor kTabStrip(70, 77, 90);
 constexpr QColor kCommonTab(233, 235, 239);
 constexpr QColor kPairTab(36, 43, 55);
