@@ -53,6 +53,8 @@ private:
 class PaintedShape final : public PaintedStates {
 public:
     using PaintedStates::PaintedStates;
+    [[nodiscard]] bool isLampLit() const override { return state() == 1; }
+    void paintFading(QPainter& painter, double share) const override;
     [[nodiscard]] bool isAsLaidOut() const override { return !isLamp(); }
     [[nodiscard]] QRect bounds() const override;
     [[nodiscard]] QRect ink() const override;

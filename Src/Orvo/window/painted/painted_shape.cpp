@@ -44,6 +44,13 @@ QRect PaintedShape::ink() const {
 
 int PaintedShape::state() const { return int(isLamp() && stored<Runtime::StoredShape>().isLit()); }
 
+void PaintedShape::paintFading(QPainter& painter, double share) const {
+    paintState(painter, 0);
+    painter.setOpacity(share);
+    paint(painter);
+    painter.setOpacity(1);
+}
+
 void PaintedShape::draw(QPainter& painter, int state) const {
     if (looks().outline == Layout::Outline::rectangle) return drawOutline(painter);
     if (isLamp()) return drawLamp(painter, state == 1);
