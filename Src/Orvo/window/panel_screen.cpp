@@ -30,7 +30,7 @@ PanelScreen::PanelScreen(std::shared_ptr<Runtime::Store> store, QWidget* parent,
     if (clock == Clock::real) ticker_.emplace(*store_);
     frame_.setSingleShot(true);
     frame_.setTimerType(Qt::PreciseTimer);
-    connect(&frame_, &QTimer::timeout, this, &PanelScreen::flush);
+    connect(&frame_, &QTimer::timeout, this, &PanelScreen::bringFrame);
     installAccessibility();
     setAccessibleName("Amplifier panel");
     build();
@@ -124,6 +124,11 @@ void PanelScreen::scheduleFrame() {
 }
 
 void PanelScreen::flush() {
+    bringFrame();
+    for (Page* page : pages_) page->settle();
+}
+
+void PanelScreen::bringFrame() {
     frame_.stop();
     sinceFrame_.start();
     for (WidgetId id = 0; id < Layout::kWidgetCount; ++id) {

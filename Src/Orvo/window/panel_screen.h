@@ -34,7 +34,7 @@ public:
     /// Null for what is only painted.
     [[nodiscard]] QWidget* control(WidgetId widget);
 
-    /// Brings what has changed to the screen now.
+    /// Brings what has changed to the screen now, as it is in the end.
     void flush();
     void changed(WidgetId widget) override;
     void pointerChanged() override;
@@ -49,6 +49,7 @@ private:
     void addTabShortcut(const QKeySequence& keys, int direction);
     void noteWithContents(WidgetId widget);
     void scheduleFrame();
+    void bringFrame();
     void bringToScreen(WidgetId widget);
     void bringTabToFront();
 

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QTabBar>
 
+#include "Orvo/window/controls/value_bubble.h"
 #include "window_fixture.h"
 
 namespace Orvo::Window {
@@ -60,6 +61,43 @@ TEST_F(ControlsTest, TheKeyboardStopsOnceInAGroupOfOptions) {
     store_[channel(2).negative.option].setValue(true);
     settle();
     EXPECT_EQ(stops(), std::vector<WidgetId>{channel(2).negative.option});
+}
+
+TEST_F(ControlsTest, ABubbleSaysAFadersValueBesideItsCapWhileItIsHeld) {
+    toTab(1);
+    store_[pair(1).testSlider].setMaximum(100);
+    const auto bubble = [&] { return front_.findChild<ValueBubble*>(); };
+    const struct {
+        WidgetId slider;
+        int position;
+        const char* said;
+        int above;
+        const char* saidAbove;
+    } kCases[] = {
+        {channel(1).volumeSlider, 13, "4 dB", 4, "22 dB"},
+        {channel(2).volumeSlider, 20, "-10 dB", 0, "30 dB"},
+        {pair(1).testSlider, 37, "37 °C", 90, "90 °C"},
+    };
+    for (const auto& [slider, position, said, above, saidAbove] : kCases) {
+        const auto moveTo = [&, slider = slider](int to) {
+            store_.perform(Runtime::Deed::move(slider, to));
+            settle();
+        };
+        moveTo(position);
+        EXPECT_EQ(bubble(), nullptr) << "nobody holds it";
+        store_.perform(Runtime::Deed::hold(slider));
+        settle();
+        ASSERT_NE(bubble(), nullptr) << said;
+        EXPECT_EQ(bubble()->value(), said);
+        const QRect before = bubble()->geometry();
+        EXPECT_TRUE(front_.rect().contains(before));
+        moveTo(above);
+        EXPECT_EQ(bubble()->value(), saidAbove);
+        EXPECT_LT(bubble()->geometry().bottom(), before.bottom());
+        store_.perform(Runtime::Deed::drop(slider));
+        settle();
+    }
+    EXPECT_EQ(bubble(), nullptr);
 }
 
 TEST_F(ControlsTest, TheHourglassShowsAtOnce) {

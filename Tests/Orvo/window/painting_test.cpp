@@ -1,5 +1,6 @@
 #include <QAbstractItemView>
 #include <QPaintEvent>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -29,6 +30,20 @@ public:
 
 private:
     QWidget& front_;
+};
+
+class AnimatedStyle final : public QProxyStyle {
+public:
+    explicit AnimatedStyle(int duration) : duration_(duration) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        if (hint == SH_Widget_Animation_Duration) return duration_;
+        return QProxyStyle::styleHint(hint, option, widget, more);
+    }
+
+private:
+    const int duration_;
 };
 
 class PaintingTest : public WindowTest {
@@ -76,6 +91,35 @@ TEST_F(PaintingTest, ManyWritesArePaintedOnce) {
     }
     QTest::qWait(60);
     EXPECT_EQ(watch.events, 2) << "the page and the slider";
+}
+
+TEST_F(PaintingTest, ALampFadesInWhereTheDesktopAnimates) {
+    auto& lamp = store_[pair(1).clockLamp];
+    const struct {
+        const char* label;
+        int duration;
+        std::function<void()> then;
+        bool fades;
+    } kCases[] = {
+        {"animated", 100, [] {}, true},
+        {"flushed", 100, [&] { front_.flush(); }, false},
+        {"not animated", 0, [] {}, false},
+    };
+    for (const auto& [label, duration, then, fades] : kCases) {
+        AnimatedStyle style(duration);
+        for (QWidget* child : front_.findChildren<QWidget*>()) child->setStyle(&style);
+        lamp.setFillStyle(Widgets::FillStyle::transparent);
+        QTest::qWait(60);
+        PaintWatch watch(front_);
+        lamp.setFillStyle(Widgets::FillStyle::solid);
+        then();
+        QTest::qWait(250);
+        EXPECT_EQ(watch.events > 1, fades) << label;
+        watch.events = 0;
+        QTest::qWait(100);
+        EXPECT_EQ(watch.events, 0) << label << ": nothing goes on";
+        for (QWidget* child : front_.findChildren<QWidget*>()) child->setStyle(nullptr);
+    }
 }
 
 TEST_F(PaintingTest, TextThatRanOverItsPlaceIsWipedAway) {

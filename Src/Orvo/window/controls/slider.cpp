@@ -9,6 +9,7 @@
 
 #include "Orvo/window/drawing/chrome.h"
 #include "Orvo/window/drawing/palette.h"
+#include "Orvo/window/spoken/spoken.h"
 
 namespace Orvo::Window {
 
@@ -18,6 +19,7 @@ constexpr double kCapHeight = 11;  // pixels at zoom 1
 constexpr double kCapInset = 2.5;  // pixels at zoom 1
 constexpr double kEnd = 3;         // pixels at zoom 1
 constexpr double kGroove = 4;      // pixels at zoom 1
+constexpr double kMiddle = 9;      // pixels at zoom 1, of the groove from the left
 constexpr int kTicks = 9;
 constexpr int kMainTick = 4;  // every so many ticks
 
@@ -33,8 +35,18 @@ Slider::Slider(Runtime::Store& store, WidgetId id, QWidget* parent)
 void Slider::refresh() {
     Control::refresh();
     if (!stored<Runtime::StoredSlider>().isHeld) grip_.reset();
+    showValue();
     update();
 }
+
+void Slider::showValue() {
+    if (!stored<Runtime::StoredSlider>().isHeld || isHidden()) return delete bubble_;
+    if (bubble_ == nullptr) bubble_ = new ValueBubble(*parentWidget());
+    const QPointF at(0, cap().center().y());
+    bubble_->say(valueOf(store(), id()), mapToParent(at), zoom());
+}
+
+double Slider::middle() const { return kMiddle * zoom(); }
 
 SliderTrack Slider::track() const {
     const double margin = (kEnd + kCapHeight / 2) * zoom();
@@ -128,23 +140,32 @@ void Slider::paintEvent(QPaintEvent*) {
 
 void Slider::drawScale(QPainter& painter) const {
     const SliderTrack along = track();
-    const double centre = width() / 2.0;
-    const double from = (kGroove / 2 + 2) * zoom();
+    const double to = middle() - (kGroove / 2 + 2) * zoom();
     for (int tick = 0; tick < kTicks; ++tick) {
         const bool isMain = tick % kMainTick == 0;
         const QColor colour = isMain ? Palette::kMainTick : Palette::kTick;
         painter.setPen(QPen(isEnabled() ? colour : colour.darker(200), zoom()));
-        const double y = qRound(along.top + along.length * tick / (kTicks - 1)) + 0.5;
-        const double to = from + (isMain ? 5 : 3) * zoom();
-        painter.drawLine(QPointF(centre - to, y), QPointF(centre - from, y));
-        painter.drawLine(QPointF(centre + from, y), QPointF(centre + to, y));
+        const double at = along.top + along.length * tick / (kTicks - 1);
+        const double y = qRound(at) + 0.5;
+        const double from = to - (isMain ? 4 : 2) * zoom();
+        painter.drawLine(QPointF(from, y), QPointF(to, y));
+        if (isMain) drawNumber(painter, y, measureAt(id(), along.positionAt(at)));
     }
+}
+
+void Slider::drawNumber(QPainter& painter, double y, int number) const {
+    constexpr double kPoints = 6;
+    const double left = middle() + (kGroove / 2 + 1) * zoom();
+    const QRectF place(left, y - middle(), width() - left - kCapInset * zoom(), 2 * middle());
+    const QString text = QString::number(number);
+    painter.setFont(narrowed(toQt(Layout::kArial.sized(kPoints), zoom()), text, place.width()));
+    painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, text);
 }
 
 void Slider::drawGroove(QPainter& painter) const {
     const SliderTrack along = track();
     const double half = kGroove / 2 * zoom();
-    QRectF groove(width() / 2.0 - half, along.top - half, 2 * half, along.length + 2 * half);
+    QRectF groove(middle() - half, along.top - half, 2 * half, along.length + 2 * half);
     painter.setPen(QPen(Palette::kGrooveEdge, zoom()));
     painter.setBrush(Palette::kGroove);
     painter.drawRoundedRect(groove, half, half);

@@ -9,6 +9,11 @@ constexpr QColor kFocus(40, 128, 240);
 constexpr QColor kFocusInside(255, 255, 255, 170);
 
 constexpr QColor kPage(24, 29, 38);
+constexpr QColor kDarkGround(50, 58, 73);
+constexpr QColor kLightGround(240, 242, 246);
+constexpr QColor kBacking(14, 16, 20);
+constexpr QColor kCaptionBand(46, 50, 58);
+constexpr QColor kLampCore(255, 255, 255);
 constexpr QColor kLampRim(136, 144, 158, 150);
 
 constexpr QColor kFaceGleam(255, 255, 255, 90);
@@ -42,6 +47,10 @@ constexpr QColor kCapShadow(0, 0, 0, 130);
 constexpr QColor kCapEdge(24, 27, 32);
 constexpr QColor kCapIndex(176, 24, 24);
 constexpr QColor kDisabledCapIndex(60, 62, 66);
+
+constexpr QColor kBubble(250, 250, 244);
+constexpr QColor kBubbleEdge(24, 27, 32);
+constexpr QColor kBubbleText(20, 24, 32);
 
 constexpr QColor kTabStrip(70, 77, 90);
 constexpr QColor kCommonTab(233, 235, 239);

@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 #include "Orvo/window/drawing/kept_picture.h"
@@ -20,6 +21,9 @@
 namespace Orvo::Window {
 
 namespace {
+
+constexpr int kFadeTime = 80;   // milliseconds
+constexpr int kFrameTime = 16;  // milliseconds
 
 bool isForGround(const Painted& painted) { return painted.isAsLaidOut() && painted.isShown(); }
 
@@ -65,10 +69,40 @@ void Page::noteChange(WidgetId id) {
     Layer& layer = layers_[at];
     const QRect before = std::exchange(layer.ink, layer.painted->ink());
     note(before);
+    noteLight(layer);
     if (layer.isOnGround && !isForGround(*layer.painted)) ground_ = {};
     if (layer.ink == before) return;
     note(layer.ink);
     if (isUnderGround(at)) ground_ = {};
+}
+
+void Page::noteLight(Layer& layer) {
+    const bool wasLit = std::exchange(layer.isLit, layer.painted->isLampLit());
+    if (!layer.isLit) return layer.fade.invalidate();
+    if (wasLit || !isVisible()) return;
+    if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) == 0) return;
+    layer.fade.start();
+    fading_.start(kFrameTime, this);
+}
+
+void Page::timerEvent(QTimerEvent*) {
+    bool goesOn = false;
+    for (Layer& layer : layers_) {
+        if (!layer.fade.isValid()) continue;
+        if (layer.fade.hasExpired(kFadeTime)) layer.fade.invalidate();
+        goesOn |= layer.fade.isValid();
+        update(layer.ink);
+    }
+    if (!goesOn) fading_.stop();
+}
+
+void Page::settle() {
+    if (!fading_.isActive()) return;
+    fading_.stop();
+    for (Layer& layer : layers_) {
+        if (layer.fade.isValid()) update(layer.ink);
+        layer.fade.invalidate();
+    }
 }
 
 // The digits of a readout are one place: each more makes all that painting does with them dearer.
@@ -152,8 +186,13 @@ void Page::paint(QPainter& painter, const QRect& part) {
     ground_.paint(painter, rect(), {[this] { return settleGround(); }, drawGround, Palette::kPage});
     for (const Layer& layer : layers_) {
         if (layer.isOnGround || !part.intersects(layer.ink)) continue;
-        if (layer.painted->isShown()) layer.painted->paint(painter);
+        if (layer.painted->isShown()) paint(painter, layer);
     }
+}
+
+void Page::paint(QPainter& painter, const Layer& layer) {
+    if (!layer.fade.isValid()) return layer.painted->paint(painter);
+    layer.painted->paintFading(painter, qMin(1.0, double(layer.fade.elapsed()) / kFadeTime));
 }
 
 // What lies over something that isn't on the ground isn't either.
@@ -161,7 +200,10 @@ QString Page::settleGround() {
     QRegion above;
     QString key = QString("page %1 %2 ").arg(tab_).arg(scale_.zoom());
     for (Layer& layer : layers_) {
-        if (layer.ink.isNull()) layer.ink = layer.painted->ink();
+        if (layer.ink.isNull()) {
+            layer.ink = layer.painted->ink();
+            layer.isLit = layer.painted->isLampLit();
+        }
         layer.isOnGround &= isForGround(*layer.painted) && !above.intersects(layer.painted->core());
         if (!layer.isOnGround) above += layer.ink;
         key += QChar(layer.isOnGround ? '+' : '-');

@@ -4,6 +4,8 @@
 #include <memory>
 #include <vector>
 
+#include <QBasicTimer>
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include "Orvo/window/drawing/kept_picture.h"
@@ -29,6 +31,8 @@ public:
     void noteChange(WidgetId id);
     /// Has what has been noted painted.
     void repaintChanges();
+    /// Ends what fades in.
+    void settle();
     /// Has the controls made that stand on it: nobody has yet looked at a page without.
     void fill() { fill_(); }
 
@@ -44,6 +48,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     struct Layer {
@@ -51,6 +56,8 @@ private:
         std::unique_ptr<Painted> painted;
         QRect ink{};  // as last asked for; null while all of the page is to be painted
         bool isOnGround = true;
+        bool isLit = false;
+        QElapsedTimer fade{};  // invalid, unless it fades in
     };
 
     /// The number of layers when the widget isn't one.
@@ -58,11 +65,13 @@ private:
     [[nodiscard]] QRect boundsOf(WidgetId id) const;
     void showTip(const QHelpEvent& event);
 
+    void noteLight(Layer& layer);
     void note(const QRect& place);
     [[nodiscard]] bool isUnderGround(std::size_t layer) const;
     /// Decides what is on the ground, and says what that is.
     QString settleGround();
     void paint(QPainter& painter, const QRect& part);
+    static void paint(QPainter& painter, const Layer& layer);
 
     const Runtime::Store& store_;
     const int tab_;
@@ -70,6 +79,7 @@ private:
     Scale scale_{1};
     std::vector<Layer> layers_;
     std::vector<QRect> changed_;
+    QBasicTimer fading_;
     KeptPicture ground_;
 };
 

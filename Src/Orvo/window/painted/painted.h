@@ -27,6 +27,10 @@ public:
     [[nodiscard]] virtual QRect core() const { return ink(); }
     /// Sets what it needs of the painter, and leaves its clip and coordinates as they were.
     virtual void paint(QPainter& painter) const = 0;
+    /// Whether it is a lamp that is lit. Such a one fades in.
+    [[nodiscard]] virtual bool isLampLit() const { return false; }
+    /// The same as `paint`, but with only this share of the light.
+    virtual void paintFading(QPainter& painter, double /*share*/) const { paint(painter); }
     /// Whether it looks as the layout has it, and may well stay so: it can be kept in a picture.
     [[nodiscard]] virtual bool isAsLaidOut() const { return false; }
     /// Called before anything else, and for each change of the zoom.

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "Artwork/Drawings/drawings.h"
+#include "Orvo/window/drawing/contrast.h"
 #include "Orvo/window/drawing/kept_picture.h"
 #include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
@@ -32,7 +33,23 @@ void PaintedLine::paint(QPainter& painter) const {
     painter.drawLine(line());
 }
 
-void PaintedFrame::paint(QPainter& painter) const { painter.fillRect(place(), toQt(looks().back)); }
+// Those that it is too bright for.
+QRect PaintedFrame::captions() const {
+    QRect all;
+    for (const WidgetId id : Layout::kAll<Kind::label>) {
+        const Layout::Widget& label = Layout::describe(id);
+        const bool isOnIt = &Layout::describe(label.container) == &description();
+        const double contrast = contrastOf(toQt(label.style.text), toQt(looks().back));
+        if (isOnIt && contrast < kTextContrast) all |= scale().rect(id);
+    }
+    return all;
+}
+
+void PaintedFrame::paint(QPainter& painter) const {
+    painter.fillRect(place(), toQt(looks().back));
+    const QRect band(place().left(), captions().top(), place().width(), captions().height());
+    painter.fillRect(band, Palette::kCaptionBand);
+}
 
 int PaintedDigit::state() const {
     return int(stored<Runtime::StoredDigit>().digit.value_or(-1)) + 1;
@@ -55,27 +72,30 @@ QPainterPath PaintedDigit::segment(int number) const {
 
 // The unlit ones first, so that the light falls on them.
 void PaintedDigit::draw(QPainter& painter, int state) const {
-    for (const bool lit : {false, true}) {
-        for (int number = 0; number < kSegmentCount; ++number) {
-            if ((state > 0 && isLit(state - 1, number)) != lit) continue;
-            lit ? drawLit(painter, segment(number)) : drawUnlit(painter, segment(number));
-        }
+    QPainterPath lit;
+    QPainterPath unlit;
+    for (int number = 0; number < kSegmentCount; ++number) {
+        (state > 0 && isLit(state - 1, number) ? lit : unlit).addPath(segment(number));
     }
+    drawUnlit(painter, unlit);
+    drawLit(painter, lit);
 }
 
-void PaintedDigit::drawLit(QPainter& painter, const QPainterPath& segment) const {
-    constexpr double kGlow = 1.5;  // pixels, half of it within the segment
-    QColor glow = toQt(looks().text);
-    glow.setAlpha(60);
-    painter.strokePath(segment, QPen(glow, scale().measure(kGlow)));
-    painter.fillPath(segment, toQt(looks().text));
+// Those that hardly differ from the unlit ones are lifted by a dark edge instead of a glow.
+void PaintedDigit::drawLit(QPainter& painter, const QPainterPath& segments) const {
+    constexpr double kAround = 1.6;  // pixels, half of it within the segment
+    QColor around = toQt(looks().text);
+    around.setAlpha(60);
+    if (contrastOf(toQt(looks().text), toQt(looks().back)) < kShapeContrast) around = Qt::black;
+    painter.strokePath(segments, QPen(around, scale().measure(kAround)));
+    painter.fillPath(segments, toQt(looks().text));
 }
 
 // Some are as grey as the frame they are on: it is their engraved edge that shows.
-void PaintedDigit::drawUnlit(QPainter& painter, const QPainterPath& segment) const {
+void PaintedDigit::drawUnlit(QPainter& painter, const QPainterPath& segments) const {
     constexpr double kEdge = 0.6;  // pixels
-    painter.fillPath(segment, toQt(looks().back));
-    painter.strokePath(segment, QPen(toQt(looks().back).darker(125), scale().measure(kEdge)));
+    painter.fillPath(segments, toQt(looks().back));
+    painter.strokePath(segments, QPen(toQt(looks().back).darker(125), scale().measure(kEdge)));
 }
 
 QRect PaintedScopeHeader::bounds() const {

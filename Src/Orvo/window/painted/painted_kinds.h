@@ -35,11 +35,12 @@ private:
     [[nodiscard]] const QFont& font() const;
     [[nodiscard]] QRect textPlace() const;
     [[nodiscard]] int baseline() const;
-    void paintEdge(QPainter& painter, QColor colour) const;
+    [[nodiscard]] bool needsBacking() const;
+    void paintBacking(QPainter& painter) const;
     void paintText(QPainter& painter) const;
 
     [[nodiscard]] QRect withEdge(const QRect& text) const;
-    [[nodiscard]] int edge() const { return scale().thickness(1); }
+    [[nodiscard]] int backing() const { return scale().thickness(3); }
 
     struct Fonts {
         QFont ofFirst;
@@ -52,6 +53,8 @@ private:
 class PaintedShape final : public PaintedStates {
 public:
     using PaintedStates::PaintedStates;
+    [[nodiscard]] bool isLampLit() const override { return state() == 1; }
+    void paintFading(QPainter& painter, double share) const override;
     [[nodiscard]] bool isAsLaidOut() const override { return !isLamp(); }
     [[nodiscard]] QRect bounds() const override;
     [[nodiscard]] QRect ink() const override;
@@ -67,6 +70,7 @@ private:
     [[nodiscard]] QRectF circle() const;
     void drawOutline(QPainter& painter) const;
     void drawLamp(QPainter& painter, bool isLit) const;
+    void drawCore(QPainter& painter, const QRectF& lamp) const;
     void drawGlow(QPainter& painter) const;
     [[nodiscard]] double pen() const { return scale().measure(1); }
     [[nodiscard]] double glow() const;
@@ -89,6 +93,9 @@ public:
     using Painted::Painted;
     [[nodiscard]] bool isAsLaidOut() const override { return true; }
     void paint(QPainter& painter) const override;
+
+private:
+    [[nodiscard]] QRect captions() const;
 };
 
 /// Seven segments.
@@ -105,8 +112,8 @@ protected:
 
 private:
     [[nodiscard]] QPainterPath segment(int number) const;
-    void drawLit(QPainter& painter, const QPainterPath& segment) const;
-    void drawUnlit(QPainter& painter, const QPainterPath& segment) const;
+    void drawLit(QPainter& painter, const QPainterPath& segments) const;
+    void drawUnlit(QPainter& painter, const QPainterPath& segments) const;
 };
 
 /// The header with the one tab above a scope; the scope's surface is a control of its own.

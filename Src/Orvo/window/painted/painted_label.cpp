@@ -1,17 +1,13 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include "Orvo/window/drawing/contrast.h"
+#include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/shown_text.h"
 #include "Orvo/window/drawing/text.h"
 #include "Orvo/window/painted/painted_kinds.h"
 
 namespace Orvo::Window {
-
-namespace {
-
-bool isPale(QColor colour) { return qGray(colour.rgb()) > 160; }
-
-}  // namespace
 
 void PaintedLabel::layOut(const Scale& scale) {
     Painted::layOut(scale);
@@ -68,30 +64,35 @@ QRect PaintedLabel::core() const { return isAsLaidOut() ? place() : bounds(); }
 
 // A pixel more for what italics and antialiasing put outside.
 QRect PaintedLabel::withEdge(const QRect& text) const {
-    const int more = edge() + 1;
+    const int more = (needsBacking() ? backing() : 0) + scale().thickness(1) + 1;
     return text.adjusted(-more, -more, more, more);
 }
 
-// What is laid out dark has a light ground: a pale text would be lost on it without a dark edge.
+// What the layout gives is readable on its ground: a dark text tells of a light one.
+bool PaintedLabel::needsBacking() const {
+    if (isAsLaidOut() || text().isEmpty()) return false;
+    const bool isOnLight = contrastOf(toQt(looks().text), Palette::kLightGround) >= kTextContrast;
+    const QColor ground = isOnLight ? Palette::kLightGround : Palette::kDarkGround;
+    return contrastOf(toQt(stored<Runtime::StoredLabel>().colour), ground) < kTextContrast;
+}
+
 void PaintedLabel::paint(QPainter& painter) const {
-    const QColor colour = toQt(stored<Runtime::StoredLabel>().colour);
-    const QColor laidOut = toQt(looks().text);
+    if (needsBacking()) paintBacking(painter);
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setFont(font());
-    if (isPale(colour) && !isPale(laidOut)) paintEdge(painter, laidOut);
-    painter.setPen(colour);
+    painter.setPen(toQt(stored<Runtime::StoredLabel>().colour));
     paintText(painter);
 }
 
-void PaintedLabel::paintEdge(QPainter& painter, QColor colour) const {
-    painter.setPen(colour);
-    for (const int x : {-edge(), 0, edge()}) {
-        for (const int y : {-edge(), 0, edge()}) {
-            painter.translate(x, y);
-            paintText(painter);
-            painter.translate(-x, -y);
-        }
-    }
+// Around the capitals.
+void PaintedLabel::paintBacking(QPainter& painter) const {
+    const double high = QFontMetricsF(font()).capHeight();
+    const QRectF capitals(place().left(), baseline() - high, widthOf(text(), font()), high);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Palette::kBacking);
+    const int more = backing();
+    painter.drawRoundedRect(capitals.adjusted(-more, -more, more, more), more, more);
 }
 
 void PaintedLabel::paintText(QPainter& painter) const {

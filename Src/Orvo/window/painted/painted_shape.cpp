@@ -44,6 +44,13 @@ QRect PaintedShape::ink() const {
 
 int PaintedShape::state() const { return int(isLamp() && stored<Runtime::StoredShape>().isLit()); }
 
+void PaintedShape::paintFading(QPainter& painter, double share) const {
+    paintState(painter, 0);
+    painter.setOpacity(share);
+    paint(painter);
+    painter.setOpacity(1);
+}
+
 void PaintedShape::draw(QPainter& painter, int state) const {
     if (looks().outline == Layout::Outline::rectangle) return drawOutline(painter);
     if (isLamp()) return drawLamp(painter, state == 1);
@@ -77,6 +84,16 @@ void PaintedShape::drawLamp(QPainter& painter, bool isLit) const {
     painter.setPen(QPen(toQt(looks().border), pen()));
     painter.setBrush(glass);
     painter.drawEllipse(lamp);
+    if (isLit) drawCore(painter, lamp);
+}
+
+// Brighter than any colour, with a dark rim that sets it off from a bright one: who doesn't see the
+// colour sees the shape.
+void PaintedShape::drawCore(QPainter& painter, const QRectF& lamp) const {
+    const double radius = lamp.width() * 0.24;
+    painter.setPen(QPen(toQt(looks().fill).darker(400), radius * 0.4));
+    painter.setBrush(Palette::kLampCore);
+    painter.drawEllipse(lamp.center(), radius, radius);
 }
 
 void PaintedShape::drawGlow(QPainter& painter) const {

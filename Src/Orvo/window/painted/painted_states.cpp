@@ -13,14 +13,14 @@ void PaintedStates::layOut(const Scale& scale) {
     pictures_.clear();
 }
 
-void PaintedStates::paint(QPainter& painter) const {
+void PaintedStates::paintState(QPainter& painter, int state) const {
     pictures_.resize(std::size_t(states()));
-    const int now = state();
-    const auto drawNow = [this, now](QPainter& onto) {
+    const auto drawIt = [this, state](QPainter& onto) {
         onto.setRenderHint(QPainter::Antialiasing);
-        draw(onto, now);
+        draw(onto, state);
     };
-    pictures_[std::size_t(now)].paint(painter, cell_, {[this, now] { return key(now); }, drawNow});
+    pictures_[std::size_t(state)].paint(painter, cell_,
+                                        {[this, state] { return key(state); }, drawIt});
 }
 
 QString PaintedStates::key(int state) const {

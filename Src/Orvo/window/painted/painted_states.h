@@ -13,9 +13,10 @@ class PaintedStates : public Painted {
 public:
     using Painted::Painted;
     void layOut(const Scale& scale) final;
-    void paint(QPainter& painter) const final;
+    void paint(QPainter& painter) const final { paintState(painter, state()); }
 
 protected:
+    void paintState(QPainter& painter, int state) const;
     [[nodiscard]] virtual int states() const = 0;
     /// The one that it is in, from 0.
     [[nodiscard]] virtual int state() const = 0;
