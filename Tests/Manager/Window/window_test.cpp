@@ -82,7 +82,7 @@ TEST_F(WindowTest, SilenceIsToldInWords) {
     window_.session().simulator()->set(Fault::linkLoss, true);
     live(8s);
     EXPECT_EQ(label("Link"), "Link down");
-    EXPECT_TRUE(label("Last word from the amplifier").contains("No word for"));
+    EXPECT_TRUE(label("Last word from the amplifier").contains("No reply for"));
     EXPECT_TRUE(window_.windowTitle().startsWith("Old values: "));
 }
 
