@@ -45,12 +45,15 @@ TEST_F(HostTest, ShowsTheVolumeThatIsConfirmedAndLeavesAHeldSliderAlone) {
     pass(300);
     EXPECT_EQ(readout(), "00");
     EXPECT_EQ(position(channel(1).volumeSlider), 10);
+    EXPECT_FALSE(hasLogged("instead of"));
     store_.perform(Deed::drop(channel(1).volumeSlider));
     pass(20);
     EXPECT_EQ(position(channel(1).volumeSlider), 15);
+    EXPECT_EQ(logged("Channel 1: 0 dB instead of 10 dB"), 1);
     store_.perform(Deed::move(channel(1).volumeSlider, 21));
     pass(200);
     EXPECT_EQ(readout(), "12");
+    EXPECT_EQ(logged("instead of"), 1);
     EXPECT_EQ(caption(channel(1).volume.sign.value()), u"-");
 }
 
