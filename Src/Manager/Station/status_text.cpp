@@ -32,8 +32,12 @@ std::string lastWord(const Situation& situation) {
 }
 
 std::string veil(const Situation& situation) {
+    using namespace std::chrono_literals;
     if (isLive(situation)) return "";
-    if (!situation.connectedTo.empty()) return noReply(situation) + ", trying again";
+    if (!situation.connectedTo.empty()) {
+        const bool isNew = situation.connectedFor < 1s;
+        return isNew ? "Waiting for a reply" : noReply(situation) + ", trying again";
+    }
     if (!situation.silence) return "Nothing connected";
     return "Nothing connected, values of " + inWords(*situation.silence) + " ago";
 }

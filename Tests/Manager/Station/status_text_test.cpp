@@ -32,6 +32,7 @@ TEST(StatusText, TellsHowOldWhatThePanelShowsIsAndVeilsWhatIsNotLive) {
          "No reply for 1 s: old values",
          "No reply for 1 s, trying again",
          true},
+        {{"Amplifier", false, false, 999ms}, "No reply yet", "Waiting for a reply"},
         {{"Amplifier", false, false, 2s}, "No reply yet", "No reply for 2 s, trying again"},
         {{"Amplifier", false, false, 2s, 8s},
          "No reply for 2 s: old values",
