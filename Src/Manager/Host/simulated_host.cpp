@@ -17,7 +17,11 @@ SimulatedHost::SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed, PowerA
       seed_(seed),
       link_(panel.IdDevice(), seed, power),
       mirror_(panel),
-      sliders_(panel),
+      sliders_(panel,
+               [this](Integer channel, Integer asked, Integer confirmed) {
+                   tell("Channel " + std::to_string(channel) + ": " + std::to_string(confirmed) +
+                        " dB instead of " + std::to_string(asked) + " dB");
+               }),
       quickTest_(panel),
       log_(panel),
       connection_(panel.connect(*this)) {

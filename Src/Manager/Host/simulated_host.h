@@ -51,10 +51,10 @@ public:
     /// is lost before the last row.
     void runQuickTest();
 
-    /// Since the last word from the amplifier that could be understood; since the beginning when
-    /// there was none yet. A few tenths of a second at most when all is well.
+    /// Since the last word from the amplifier that could be understood, while connected. A few
+    /// tenths of a second at most when all is well.
     [[nodiscard]] std::optional<Simulator::Milliseconds> sinceLastWord() const override {
-        return now_ - lastWord_;
+        return isConnected_ ? std::optional(now_ - lastWord_) : std::nullopt;
     }
     /// How long the host has lived.
     [[nodiscard]] Simulator::Milliseconds now() const { return now_; }

@@ -32,6 +32,7 @@ void VolumeSliders::settle(Integer channel, Slider& slider) {
     const bool isInPlace = !slider.confirmed || slider.shown == slider.confirmed;
     if (isInPlace || slider.isAwaited) return;
     if (bool(panel_.VolumeSliderButtonDown(channel))) return;
+    if (slider.shown) refused_(channel, *slider.shown, *slider.confirmed);
     panel_.VolumeSlider(channel, *slider.confirmed);
     slider.shown = slider.confirmed;
 }

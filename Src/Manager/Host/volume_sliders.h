@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "Orvo/core/interface.h"
 
@@ -14,7 +16,11 @@ namespace Orvo::Manager {
 /// where it was.
 class VolumeSliders {
 public:
-    explicit VolumeSliders(MarvaneAssistantInterface& panel) : panel_(panel) {}
+    using Refused = std::function<void(Integer channel, Integer asked, Integer confirmed)>;
+
+    /// `refused` is told when what a person asked for isn't what the amplifier has.
+    VolumeSliders(MarvaneAssistantInterface& panel, Refused refused)
+        : panel_(panel), refused_(std::move(refused)) {}
 
     /// A person moved a slider to where this volume is.
     void moved(Integer channel, Integer volume);
@@ -47,6 +53,7 @@ private:
     void settle(Integer channel, Slider& slider);
 
     MarvaneAssistantInterface& panel_;
+    const Refused refused_;
     std::array<Slider, kChannels> sliders_;
 };
 

@@ -100,6 +100,7 @@ void LinkDevice::close() {
     lines_ = {};
     unsent_.clear();
     isBroken_ = false;
+    silence_.reset();
     trouble_ = "not there";
     untilTry_ = kBetweenTries;
     owner_.panel().Connected(false);

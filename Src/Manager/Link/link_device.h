@@ -62,7 +62,7 @@ private:
     const Clock clock_;
     // Hears the panel's events from the beginning, as every device does.
     Script::Session session_;
-    std::optional<std::chrono::milliseconds> silence_;  // none before the first word
+    std::optional<std::chrono::milliseconds> silence_;  // none before a link's first word
     std::chrono::milliseconds untilTry_{0};
     std::string trouble_ = "not there";  // why the link is not open, when it isn't
 

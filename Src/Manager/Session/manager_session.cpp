@@ -31,7 +31,7 @@ ManagerSession::ManagerSession(Script::PanelOwner& owner, Script::Person& person
                     : std::make_unique<Script::Recorder>(
                           Script::RecordFile(settings_.record, settings_.existing), owner,
                           settings_.answers)),
-      station_(owner) {
+      station_(owner, [this](const std::string& what) { observer_.say(what); }) {
     serveFreshPanels();
     listenToErrors();
     setReadOnly(settings_.isReadOnly);

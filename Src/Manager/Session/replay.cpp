@@ -41,7 +41,6 @@ Replay::Replay(Script::PanelOwner& owner, Script::Person& person,
       script_(session_, script.filename().string()) {}
 
 void Replay::advance(std::chrono::milliseconds elapsed) {
-    silence_ += elapsed;
     const auto now = clock_();
     while (!isOver_ && clock_() < now + kLongestMoment) {
         const auto step = std::min(elapsed, left_);
@@ -94,7 +93,6 @@ void Replay::read() {
 }
 
 void Replay::run(const LineSplitter::Line& line) {
-    silence_ = 0ms;
     complaint_ = line.isTooLong ? script_.refuse("the line is too long") : script_.run(line.text);
 }
 

@@ -32,9 +32,9 @@ public:
 
     [[nodiscard]] std::string name() const override { return "Replay of " + script_.name(); }
     void advance(std::chrono::milliseconds elapsed) override;
-    /// Since the last command.
+    /// However long a script waits, it has nothing else to say.
     [[nodiscard]] std::optional<std::chrono::milliseconds> sinceLastWord() const override {
-        return silence_;
+        return std::chrono::milliseconds(0);
     }
 
     [[nodiscard]] bool isOver() const { return isOver_; }
@@ -61,8 +61,7 @@ private:
     Script::Session session_;
     Script::ScriptLines script_;
     std::chrono::milliseconds left_{0};  // of the wait that the script is in
-    std::chrono::milliseconds silence_{0};
-    bool isRead_ = false;  // to the end of the file
+    bool isRead_ = false;                // to the end of the file
     bool isOutOfTime_ = false;
     bool isOver_ = false;
     std::optional<std::string> complaint_;

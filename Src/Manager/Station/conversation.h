@@ -39,6 +39,8 @@ public:
     void failed(const Member& member, const Error& error) override;
     /// An error that no caller waits for.
     void failed(const Error& error);
+    /// What neither of the two did.
+    void remark(const std::string& text) { write("# " + text); }
 
 private:
     bool isWorthALine(const Member& member, std::span<const Value> arguments);

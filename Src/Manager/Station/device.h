@@ -15,7 +15,8 @@ public:
     [[nodiscard]] virtual std::string name() const = 0;
     /// Lets time pass.
     virtual void advance(std::chrono::milliseconds elapsed) = 0;
-    /// The time since the last word from the amplifier; none before the first.
+    /// The time since the last word from the amplifier; none before the first, and from a loss of
+    /// its link on to the next.
     [[nodiscard]] virtual std::optional<std::chrono::milliseconds> sinceLastWord() const = 0;
 };
 

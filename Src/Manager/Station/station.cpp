@@ -6,8 +6,14 @@
 #include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
-Station::Station(Script::PanelOwner& owner)
-    : owner_(owner), renewalsBeforeDevice_(owner.onRenewed([this] { takeFreshPanel(); })) {
+Station::Station(Script::PanelOwner& owner, Reconciler::Tell tell)
+    : owner_(owner),
+      reconciler_(owner,
+                  [this, tell = std::move(tell)](const std::string& what) {
+                      conversation_.remark(what);
+                      tell(what);
+                  }),
+      renewalsBeforeDevice_(owner.onRenewed([this] { takeFreshPanel(); })) {
     hearBeforeDevice();
     plugIn(nullptr);
 }
@@ -26,8 +32,9 @@ void Station::disconnect() {
 }
 
 void Station::plugIn(std::unique_ptr<Device> device) {
-    showsOldValues_ |= isConnected() && device_->sinceLastWord();
+    noteLastWord();
     device_ = std::move(device);
+    connectedAt_ = now_;
     hearAfterDevice();
     renewalsAfterDevice_ = owner_.onRenewed([this] { hearAfterDevice(); });
 }
@@ -35,7 +42,8 @@ void Station::plugIn(std::unique_ptr<Device> device) {
 void Station::takeFreshPanel() {
     conversation_.startAnew();
     traces_.startAnew();
-    showsOldValues_ = false;
+    reconciler_.startAnew();
+    lastWord_.reset();
     hearBeforeDevice();
 }
 
@@ -43,8 +51,10 @@ void Station::hearBeforeDevice() {
     MarvaneAssistant& panel = owner_.panel();
     conversationCalls_ = panel.listen(conversation_);
     traceCalls_ = panel.listen(traces_);
+    reconcilerCalls_ = panel.listen(reconciler_);
     beforeDevice_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
         conversation_.raised(dispatchId, arguments);
+        reconciler_.raised(dispatchId);
     });
 }
 
@@ -63,14 +73,31 @@ void Station::advance(Milliseconds elapsed) {
     now_ += elapsed;
     conversation_.setTime(now_);
     if (isConnected()) device_->advance(elapsed);
+    noteLastWord();
+    reconciler_.advance(elapsed, hearing());
+}
+
+Hearing Station::hearing() const {
+    if (!isConnected()) return Hearing::nobody;
+    return device_->sinceLastWord() ? Hearing::device : Hearing::silentDevice;
+}
+
+std::optional<Station::Milliseconds> Station::silence() const {
+    if (hearing() == Hearing::device) return device_->sinceLastWord();
+    return lastWord_ ? std::optional(now_ - *lastWord_) : std::nullopt;
+}
+
+void Station::noteLastWord() {
+    if (hearing() == Hearing::device) lastWord_ = now_ - *device_->sinceLastWord();
 }
 
 Situation Station::situation() const {
     const auto& lamp = owner_.store().get<Runtime::StoredShape>(Layout::kCommon.linkLamp);
     return {.connectedTo = isConnected() ? device_->name() : "",
             .isLinkUp = lamp.state().isLit(),
-            .silence = isConnected() ? device_->sinceLastWord() : std::nullopt,
-            .showsOldValues = showsOldValues_};
+            .isHeard = hearing() == Hearing::device,
+            .connectedFor = now_ - connectedAt_,
+            .silence = silence()};
 }
 
 }  // namespace Orvo::Manager

@@ -3,10 +3,12 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "Manager/Station/conversation.h"
 #include "Manager/Station/device.h"
 #include "Manager/Station/event_log.h"
+#include "Manager/Station/reconciler.h"
 #include "Manager/Station/status_text.h"
 #include "Manager/Station/traces.h"
 #include "Script/panel_owner.h"
@@ -20,7 +22,9 @@ public:
     using Milliseconds = std::chrono::milliseconds;
     using DeviceMaker = std::function<std::unique_ptr<Device>()>;
 
-    explicit Station(Script::PanelOwner& owner);
+    /// `tell` is told what a person did in vain.
+    explicit Station(
+        Script::PanelOwner& owner, Reconciler::Tell tell = [](const std::string&) {});
 
     /// One device at a time: what was connected is disconnected first.
     void connect(DeviceMaker make);
@@ -44,16 +48,22 @@ private:
     void takeFreshPanel();
     void hearBeforeDevice();
     void hearAfterDevice();
+    [[nodiscard]] Hearing hearing() const;
+    [[nodiscard]] std::optional<Milliseconds> silence() const;
+    void noteLastWord();
 
     Script::PanelOwner& owner_;
     EventLog log_;
     Conversation conversation_{log_};
     Traces traces_;
+    Reconciler reconciler_;
     DeviceMaker makeDevice_;
-    bool showsOldValues_ = false;
     Milliseconds now_{0};
+    Milliseconds connectedAt_{0};
+    std::optional<Milliseconds> lastWord_;  // when
     Connection conversationCalls_;
     Connection traceCalls_;
+    Connection reconcilerCalls_;
 
     // An event goes to the sinks in this order, on a fresh panel too: what the device does lies
     // between the other two.

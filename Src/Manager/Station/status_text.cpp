@@ -1,5 +1,6 @@
 #include "Manager/Station/status_text.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace Orvo::Manager {
@@ -9,17 +10,36 @@ std::string twoDigits(std::int64_t number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
-bool isStale(const Situation& situation) {
-    return situation.silence ? *situation.silence >= kStaleAfter : situation.showsOldValues;
+bool isLive(const Situation& situation) {
+    return situation.isHeard && situation.silence && *situation.silence < kStaleAfter;
+}
+
+bool isStale(const Situation& situation) { return situation.silence && !isLive(situation); }
+
+// A device that is new hasn't been silent for as long as the values are old.
+std::string noReply(const Situation& situation) {
+    const auto silence = situation.silence.value_or(situation.connectedFor);
+    return "No reply for " + inWords(std::min(silence, situation.connectedFor));
 }
 
 std::string lastWord(const Situation& situation) {
     using namespace std::chrono_literals;
-    const std::string oldValues = isStale(situation) ? ": old values" : "";
-    if (!situation.silence) return "No word yet" + oldValues;
-    const std::string silence = inWords(*situation.silence);
-    if (!oldValues.empty()) return "No word for " + silence + oldValues;
-    return *situation.silence < 1s ? "Last word just now" : "Last word " + silence + " ago";
+    if (situation.connectedTo.empty()) return situation.silence ? "Old values" : "";
+    if (!situation.silence) return "No reply yet";
+    if (isStale(situation)) return noReply(situation) + ": old values";
+    if (*situation.silence < 1s) return "Last word just now";
+    return "Last word " + inWords(*situation.silence) + " ago";
+}
+
+std::string veil(const Situation& situation) {
+    using namespace std::chrono_literals;
+    if (isLive(situation)) return "";
+    if (!situation.connectedTo.empty()) {
+        const bool isNew = situation.connectedFor < 1s;
+        return isNew ? "Waiting for a reply" : noReply(situation) + ", trying again";
+    }
+    if (!situation.silence) return "Nothing connected";
+    return "Nothing connected, values of " + inWords(*situation.silence) + " ago";
 }
 
 }  // namespace
@@ -33,16 +53,12 @@ std::string inWords(std::chrono::milliseconds time) {
 }
 
 StatusText statusText(const Situation& situation) {
-    if (situation.connectedTo.empty()) {
-        return {.connection = "Nothing connected",
-                .link = "Link down",
-                .lastWord = situation.showsOldValues ? "Old values" : "",
-                .isStale = situation.showsOldValues};
-    }
-    return {.connection = situation.connectedTo,
-            .link = situation.isLinkUp ? "Link up" : "Link down",
+    const bool isConnected = !situation.connectedTo.empty();
+    return {.connection = isConnected ? situation.connectedTo : "Nothing connected",
+            .link = isConnected && situation.isLinkUp ? "Link up" : "Link down",
             .lastWord = lastWord(situation),
-            .isStale = isStale(situation)};
+            .isStale = isStale(situation),
+            .veil = veil(situation)};
 }
 
 }  // namespace Orvo::Manager

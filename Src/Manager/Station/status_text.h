@@ -10,9 +10,12 @@ namespace Orvo::Manager {
 struct Situation {
     std::string connectedTo;  ///< empty: nothing is connected
     bool isLinkUp = false;
-    /// Since the last word, if there was one.
+    bool isHeard = false;  ///< what is connected has spoken, and its link has not been lost since
+    /// Since it was connected.
+    std::chrono::milliseconds connectedFor{0};
+    /// Since the last word that the panel's values are of, also of what was connected before; none
+    /// when it has no values.
     std::optional<std::chrono::milliseconds> silence = std::nullopt;
-    bool showsOldValues = false;  ///< what was connected before has left values
 };
 
 /// The situation in words (UTF-8).
@@ -21,6 +24,9 @@ struct StatusText {
     std::string link;
     std::string lastWord;  ///< empty when there is nothing to tell
     bool isStale = false;  ///< what the panel shows is old, and must not be taken for live
+    /// What stands over a panel that is veiled, as nothing of what it shows is known at the moment;
+    /// empty when it is live.
+    std::string veil;
 };
 
 /// From so much silence on, the values shown are called old.

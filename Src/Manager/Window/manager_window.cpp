@@ -86,6 +86,7 @@ void ManagerWindow::advance() {
 }
 
 void ManagerWindow::open() {
+    refresh();
     adaptSize();
     show();
     if (options_.isFullScreen) setFullScreen(true);
@@ -102,6 +103,7 @@ void ManagerWindow::refresh() {
 void ManagerWindow::showSituation() {
     const StatusText text = statusText(session_.station().situation());
     statusLine_->showText(text);
+    zoomArea_->veil(QString::fromStdString(text.veil));
     // A status bar doesn't hand on by itself what a line in it needs.
     statusBar()->setMinimumWidth(statusLine_->minimumSizeHint().width());
     const QString title =

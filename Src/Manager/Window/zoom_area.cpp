@@ -28,7 +28,7 @@ int nextSmaller(int zoom) {
 }
 
 ZoomArea::ZoomArea(Window::PanelWidget& panel, QWidget* parent)
-    : QScrollArea(parent), panel_(panel) {
+    : QScrollArea(parent), panel_(panel), veil_(new Veil(this)) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
@@ -68,6 +68,7 @@ void ZoomArea::paintEvent(QPaintEvent* event) {
 void ZoomArea::resizeEvent(QResizeEvent* event) {
     fit();
     QScrollArea::resizeEvent(event);
+    veil_->fill(viewport()->geometry());
 }
 
 void ZoomArea::fit() {

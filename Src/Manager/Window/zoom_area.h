@@ -2,6 +2,7 @@
 
 #include <QScrollArea>
 
+#include "Manager/Window/veil.h"
 #include "Orvo/window/panel_widget.h"
 
 namespace Orvo::Manager {
@@ -29,6 +30,9 @@ public:
     void setFitting(bool isFitting);
     [[nodiscard]] bool isFitting() const { return isFitting_; }
 
+    /// Veils the panel, and says why; an empty text lifts the veil.
+    void veil(const QString& text) { veil_->showText(text); }
+
     /// The panel without scroll bars.
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -44,6 +48,7 @@ private:
     void fit();
 
     Window::PanelWidget& panel_;
+    Veil* const veil_;
     bool isFitting_ = false;
 };
 

@@ -51,6 +51,7 @@ TEST_F(LinkTest, ABreakShowsAndTheLinkComesBackFresh) {
     hangUp();
     station_.advance(25ms);
     EXPECT_FALSE(isLit(kCommon.linkLamp));
+    EXPECT_FALSE(station_.situation().isHeard);
     EXPECT_TRUE(station_.situation().connectedTo.ends_with("(not there)"));
     station_.advance(999ms);
     EXPECT_LT(::accept(listener_, nullptr, nullptr), 0);
@@ -76,7 +77,8 @@ TEST_F(LinkTest, WaitsForWhatIsNotThereYet) {
     connectLink(directory_.path() / "plain");
     station_.advance(25ms);
     EXPECT_TRUE(station_.situation().connectedTo.ends_with("(no serial device, pipe or socket)"));
-    EXPECT_TRUE(station_.situation().showsOldValues) << "the socket's";
+    EXPECT_FALSE(station_.situation().isHeard);
+    EXPECT_TRUE(station_.situation().silence) << "the socket's";
 }
 
 TEST_F(LinkTest, AMegabyteWithoutALineBreakIsOneRefusal) {

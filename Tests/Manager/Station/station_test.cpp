@@ -46,7 +46,9 @@ TEST_F(StationTest, DisconnectingShowsTheLinkDownAndCallsTheValuesOld) {
     station_.disconnect();
     EXPECT_FALSE(station_.situation().isLinkUp);
     EXPECT_EQ(station_.situation().connectedTo, "");
-    EXPECT_TRUE(station_.situation().showsOldValues);
+    station_.advance(3s);
+    EXPECT_EQ(station_.situation().silence, 5s) << "of the values that are left";
+    EXPECT_FALSE(station_.situation().isHeard);
 }
 
 TEST_F(StationTest, WhatTheDeviceAnswersStandsUnderTheEventOnAFreshPanelToo) {
@@ -57,7 +59,7 @@ TEST_F(StationTest, WhatTheDeviceAnswersStandsUnderTheEventOnAFreshPanelToo) {
         EXPECT_EQ(station_.log().lines(), Lines({"event Mute 1", "  let Mute 1 -1", "  get Mute 1",
                                                  "  = -1", "let Clock 1 -1"}));
         station_.startAnew();
-        EXPECT_FALSE(station_.situation().showsOldValues);
+        EXPECT_EQ(station_.situation().silence, 0s);
     }
 }
 

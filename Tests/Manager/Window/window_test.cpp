@@ -82,8 +82,33 @@ TEST_F(WindowTest, SilenceIsToldInWords) {
     window_.session().simulator()->set(Fault::linkLoss, true);
     live(8s);
     EXPECT_EQ(label("Link"), "Link down");
-    EXPECT_TRUE(label("Last word from the amplifier").contains("No word for"));
+    EXPECT_TRUE(label("Last word from the amplifier").contains("No reply for"));
     EXPECT_TRUE(window_.windowTitle().startsWith("Old values: "));
+}
+
+TEST_F(WindowTest, WhatIsNotKnownIsVeiledOnTheScreenButInNoPicture) {
+    const auto* veil = window_.findChild<QLabel*>("Veil");
+    const auto hasGreen = [](const QImage& image) {
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            const QColor colour = image.pixelColor(i % image.width(), i / image.width());
+            if (colour == QColor(0, 255, 0)) return true;
+        }
+        return false;
+    };
+    EXPECT_TRUE(veil->isVisible() && veil->text() == "Waiting for a reply");
+    live(2s);
+    EXPECT_FALSE(veil->isVisible());
+    EXPECT_TRUE(hasGreen(window_.grab().toImage()));
+    window_.session().simulator()->set(Fault::linkLoss, true);
+    live(8s);
+    EXPECT_TRUE(veil->text().startsWith("No reply for 8 s"));
+    EXPECT_FALSE(hasGreen(window_.grab().toImage()));
+    EXPECT_TRUE(hasGreen(pictureOf(window_.panelWidget())));
+    const QPoint under = veil->mapTo(&window_, veil->rect().center());
+    EXPECT_TRUE(window_.panelWidget().isAncestorOf(window_.childAt(under)));
+    window_.session().simulator()->set(Fault::linkLoss, false);
+    live(300ms);
+    EXPECT_FALSE(veil->isVisible());
 }
 
 TEST_F(WindowTest, MenusFollowWhatIsConnected) {
