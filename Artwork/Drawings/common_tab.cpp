@@ -46,8 +46,8 @@ void drawCards(QPainter& painter) {
     constexpr double kStatusEnd = 3660;
     constexpr double kLog = 3825;
     constexpr double kLogEnd = 7965;
-    constexpr double kTest = 8100;
-    constexpr double kTestEnd = 10200;
+    constexpr double kTest = 8070;
+    constexpr double kTestEnd = 10215;
     drawCard(painter, kSettings, kStatusEnd);
     drawHeadingLine(painter, kSettings, kStatus);
     drawHeadingLine(painter, kStatus, kStatusEnd);
@@ -65,13 +65,13 @@ void draw(QPainter& painter) {
     alignToPixels(painter);
     drawGround(painter, kPlace, {233, 235, 239}, {222, 225, 231}, {203, 208, 216});
     drawRule(painter, 510, 3660, 960, kRule);
-    drawRule(painter, 7065, 10200, 960, kRule);
+    drawRule(painter, 7065, 10215, 960, kRule);
     drawCards(painter);
     // The log's frame.
     painter.setPen(QPen(kRule, kPixel));
     painter.setBrush(QColor(58, 66, 80));
     painter.drawRoundedRect(placeOf(Layout::kCommon.log).adjusted(-30, -15, 15, 15), 30, 30);
-    drawPlate(painter, {510, 5520, 9690, 1170}, kPlate);
+    drawPlate(painter, {510, 5520, 9705, 1170}, kPlate);
     drawAmplifierFront(painter, {795, 5723, 4200, 765});
 }
 

@@ -138,6 +138,24 @@ TEST_F(ContrastTest, ALitLampHasACoreThatEverybodyTellsFromADarkLampAndFromItsRi
     }
 }
 
+TEST_F(ContrastTest, ALitSegmentIsToldFromWhatIsAroundIt) {
+    constexpr int kZoom = 4;
+    constexpr int kBeside = 2;  // pixels, beyond the antialiased one
+    widget_.setZoom(kZoom);
+    for (const WidgetId id : Layout::kAll<Kind::digit>) store_[Widgets::DigitRef{id}].setDigit(8);
+    const Pictures pictures = this->pictures();
+    for (const WidgetId id : Layout::kAll<Kind::digit>) {
+        const QImage& picture = pictures[std::size_t(pageOf(id))];
+        const QRect place = Scale(kZoom).rect(id);
+        const QColor lit = toQt(Layout::describe(id).style.text);
+        QPoint at = place.topLeft() + QPoint(6 * kZoom, 0);
+        while (place.contains(at) && picture.pixelColor(at) != lit) at.ry()++;
+        const QColor beside = picture.pixelColor(at - QPoint(0, kBeside));
+        EXPECT_TRUE(place.contains(at));
+        EXPECT_GE(contrastOf(lit, beside), kShapeContrast) << Layout::describe(id).name;
+    }
+}
+
 TEST_F(ContrastTest, EveryTextIsReadableInEachOfItsColours) {
     widget_.setZoom(4);
     const auto fillTests = [&](bool hasPassed) {
