@@ -48,7 +48,9 @@ TEST_F(SessionTest, RecordsFromTheStartAndInFullWhenTheSettingsSaySo) {
     Typist typist;
     begin({.record = file_, .answers = Script::Answers::inFull});
     store().promptWith(&typist);
-    store().perform(Runtime::Deed::slide(pair(1).testSlider, 9));
+    // Nobody is connected, but what is held is left alone.
+    store().perform(Runtime::Deed::hold(pair(1).testSlider));
+    store().perform(Runtime::Deed::move(pair(1).testSlider, 9));
     store().perform(Runtime::Deed::key(kCommon.log, 18));
     // Late by far: the timers tick as often as they came due.
     session_->letPass(7s);

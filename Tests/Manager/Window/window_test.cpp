@@ -98,6 +98,7 @@ TEST_F(WindowTest, WhatIsNotKnownIsVeiledOnTheScreenButInNoPicture) {
     EXPECT_TRUE(veil->isVisible() && veil->text() == "Waiting for a reply");
     live(2s);
     EXPECT_FALSE(veil->isVisible());
+    window_.panelWidget().flush();  // what fades in
     EXPECT_TRUE(hasGreen(window_.grab().toImage()));
     window_.session().simulator()->set(Fault::linkLoss, true);
     live(8s);
