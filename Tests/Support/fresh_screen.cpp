@@ -27,9 +27,9 @@ PanelScreen& screenOf(const QWidget& widget) {
 void takeThePersonAway(PanelScreen& screen) {
     while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
     if (QWidget* focused = QApplication::focusWidget()) focused->clearFocus();
-    for (auto* button : screen.findChildren<QAbstractButton*>()) {
-        button->setDown(false);
-        button->setAttribute(Qt::WA_UnderMouse, false);
+    for (QWidget* widget : screen.findChildren<QWidget*>()) {
+        widget->setAttribute(Qt::WA_UnderMouse, false);
+        if (auto* button = qobject_cast<QAbstractButton*>(widget)) button->setDown(false);
     }
     auto& log = dynamic_cast<QAbstractItemView&>(*screen.control(kCommon.log));
     log.clearSelection();

@@ -57,8 +57,9 @@ void Menus::addFileMenu() {
     auto* menu = addMenu("&File");
     add(menu, "Save &picture of the panel…", "Ctrl+S", [this] { window_.savePicture(); });
     addChannels(menu->addMenu("Save picture of a &scope"), "Ctrl+G",
-                &ManagerWindow::saveScopePicture);
-    addChannels(menu->addMenu("Save samples of a &trace"), "Ctrl+T", &ManagerWindow::saveTrace);
+                [this](Integer channel) { window_.saveScopePicture(channel); });
+    addChannels(menu->addMenu("Save samples of a &trace"), "Ctrl+T",
+                [this](Integer channel) { window_.saveTrace(channel); });
     menu->addSeparator();
     add(menu, "&Copy message log", "Ctrl+L", [this] { window_.copyMessageLog(); });
     add(menu, "Save message &log…", "Ctrl+Shift+L", [this] { window_.saveMessageLog(); });
@@ -83,11 +84,11 @@ void Menus::addSessions(QMenu* menu) {
 }
 
 void Menus::addChannels(QMenu* menu, const QString& firstKey,
-                        void (ManagerWindow::*save)(Integer)) {
+                        const std::function<void(Integer)>& save) {
     for (Integer channel = 1; channel <= kChannels; ++channel) {
         const QString number = QString::number(channel);
         add(menu, "Channel &" + number + "…", firstKey + ", " + number,
-            [this, save, channel] { (window_.*save)(channel); });
+            [save, channel] { save(channel); });
     }
 }
 

@@ -39,7 +39,8 @@ private:
 
     void addFileMenu();
     void addSessions(QMenu* menu);
-    void addChannels(QMenu* menu, const QString& firstKey, void (ManagerWindow::*save)(Integer));
+    void addChannels(QMenu* menu, const QString& firstKey,
+                     const std::function<void(Integer)>& save);
     void addConnectMenu();
     void addAmplifierMenu();
     void addFaults(QMenu* menu);
