@@ -52,17 +52,29 @@ QPlainTextEdit* makeLines() {
 }  // namespace
 
 EventDock::EventDock(const EventLog& log, const QList<QAction*>& actions, QWidget* parent)
-    : QDockWidget("Events", parent), log_(log), lines_(makeLines()) {
-    auto* contents = new QWidget;
-    auto* layout = new QVBoxLayout(contents);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->addWidget(rowOf(actions));
-    layout->addWidget(lines_);
-    setWidget(contents);
+    : QDockWidget("Events", parent), log_(log), actions_(actions) {
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
 }
 
+// Seldom looked at, and a tenth of what a program's start takes.
+void EventDock::setVisible(bool visible) {
+    if (visible && lines_ == nullptr) fill();
+    QDockWidget::setVisible(visible);
+}
+
+void EventDock::fill() {
+    lines_ = makeLines();
+    auto* contents = new QWidget;
+    auto* layout = new QVBoxLayout(contents);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addWidget(rowOf(actions_));
+    layout->addWidget(lines_);
+    setWidget(contents);
+    refresh();
+}
+
 void EventDock::refresh() {
+    if (lines_ == nullptr) return;
     if (clears_ != log_.clears()) {
         lines_->clear();
         clears_ = log_.clears();

@@ -19,16 +19,20 @@ public:
     /// All of the log.
     [[nodiscard]] QString text() const;
 
+    void setVisible(bool visible) override;
+
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void fill();
     void append();
     [[nodiscard]] bool showsNewest() const;
     void showNewest();
 
     const EventLog& log_;
-    QPlainTextEdit* lines_;
+    const QList<QAction*> actions_;
+    QPlainTextEdit* lines_ = nullptr;  // none before it is shown first
     std::uint64_t shown_ = 0;
     std::uint64_t clears_ = 0;
 };
