@@ -37,10 +37,12 @@ LogView::LogView(Runtime::Store& store, WidgetId id, QWidget* parent)
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+// The bar first: the toolkit makes room for it only while the view is seen, or becomes another
+// size.
 void LogView::layOut(const Scale& scale) {
+    bar_.setFixedWidth(scale.thickness(11));
     Control::layOut(scale);
     rowHeight_ = QFontMetrics(font()).height();
-    bar_.setFixedWidth(scale.thickness(11));
     updateGeometries();
 }
 
