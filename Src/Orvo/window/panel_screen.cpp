@@ -14,7 +14,6 @@ namespace Orvo::Window {
 namespace {
 
 constexpr WidgetId kTabs = Layout::kTabs.id;
-constexpr int kFrameTime = 16;  // milliseconds
 
 bool isWithin(WidgetId widget, WidgetId container) {
     while (widget != container && widget != Layout::kPanel) {

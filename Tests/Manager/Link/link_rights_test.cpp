@@ -155,8 +155,8 @@ TEST(LinkLimitsTest, StandInTheDocuments) {
           Limit{"panel-script.md", Script::Session::kMostKept >> 20, " MiB of memory"},
           Limit{"panel-script.md", Replay::kLongestLine >> 10, " KiB ends it"}}) {
         std::ifstream file(std::string(ORVO_DOCS "/") + page);
-        std::string words, word;
-        while (file >> word) words += ' ' + word;
+        std::string words;
+        for (std::string word; file >> word;) words += ' ' + word;
         const std::string sentence = ' ' + std::to_string(number) + text;
         EXPECT_NE(words.find(sentence), std::string::npos) << page << ':' << sentence;
     }

@@ -19,7 +19,7 @@ constexpr double kCapHeight = 11;  // pixels at zoom 1
 constexpr double kCapInset = 2.5;  // pixels at zoom 1
 constexpr double kEnd = 3;         // pixels at zoom 1
 constexpr double kGroove = 4;      // pixels at zoom 1
-constexpr double kMiddle = 9;      // pixels at zoom 1, of the groove from the left
+constexpr double kGrooveLeft = 9;  // pixels at zoom 1, its middle
 constexpr int kTicks = 9;
 constexpr int kMainTick = 4;  // every so many ticks
 
@@ -46,7 +46,7 @@ void Slider::showValue() {
     bubble_->say(valueOf(store(), id()), mapToParent(at), zoom());
 }
 
-double Slider::middle() const { return kMiddle * zoom(); }
+double Slider::middle() const { return kGrooveLeft * zoom(); }
 
 SliderTrack Slider::track() const {
     const double margin = (kEnd + kCapHeight / 2) * zoom();

@@ -22,8 +22,7 @@ namespace Orvo::Window {
 
 namespace {
 
-constexpr int kFadeTime = 80;   // milliseconds
-constexpr int kFrameTime = 16;  // milliseconds
+constexpr int kFadeTime = 80;  // milliseconds
 
 bool isForGround(const Painted& painted) { return painted.isAsLaidOut() && painted.isShown(); }
 

@@ -15,6 +15,9 @@ class QHelpEvent;
 
 namespace Orvo::Window {
 
+/// How often a screen paints at most, in milliseconds.
+inline constexpr int kFrameTime = 16;
+
 /// One tab of the panel: the surface on which everything that takes no input is painted, layered in
 /// the layout's order, and the parent of the controls. It is as large as the panel, so that its
 /// pixels are the panel's; the tab strip covers its top.
