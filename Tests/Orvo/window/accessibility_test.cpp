@@ -55,9 +55,9 @@ bool isLamp(const Layout::Style& style) {
 
 /// How a kind of widget is known.
 struct Known {
-    Kind kind;
-    QAccessible::Role role;
-    const char* says;
+    Kind kind{};
+    QAccessible::Role role{};
+    const char* says = "";
     bool isPressed = false;
 };
 
