@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "Manager/Window/files.h"
@@ -35,10 +36,10 @@ void say(const QString& line) {
 }
 
 // Where whoever built the program finds them, else where nobody has to clean up, in a directory
-// that nobody else has made.
+// that nobody else has made. A link may lead to another's files.
 QDir pictureDirectory() {
-    const QDir directory("build");
-    if (directory.exists()) return directory;
+    const QFileInfo build("build");
+    if (build.isDir() && !build.isSymLink()) return {build.filePath()};
     QTemporaryDir fresh(QDir::tempPath() + "/marvane-manager-XXXXXX");
     fresh.setAutoRemove(false);
     if (!fresh.isValid()) throw std::runtime_error(fresh.errorString().toStdString());
