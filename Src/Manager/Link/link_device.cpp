@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -52,7 +53,8 @@ std::string LinkDevice::name() const {
     return "Link to " + address_.path + speed + (port_ ? "" : " (" + trouble_ + ")");
 }
 
-// A handler that waits lets time pass within time that passes.
+// A handler that waits lets time pass within time that passes. When memory runs out an answer may
+// be missing: the link ends, as soon as it can.
 void LinkDevice::advance(std::chrono::milliseconds elapsed) {
     if (silence_) *silence_ += elapsed;
     if (isListening_) return;
@@ -60,9 +62,13 @@ void LinkDevice::advance(std::chrono::milliseconds elapsed) {
     if (port_ == nullptr && untilTry_ <= 0ms) tryToOpen();
     if (port_ == nullptr) return;
     isListening_ = true;
-    listen();
+    try {
+        if (!isBroken_) listen();
+        if (isBroken_) close();
+    } catch (...) {
+        isBroken_ = true;
+    }
     isListening_ = false;
-    if (isBroken_) close();
 }
 
 // What is no argument of the member is for the panel to refuse.
@@ -91,11 +97,14 @@ void LinkDevice::tryToOpen() {
         port_ = std::make_unique<LinkPort>(address_);
     } catch (const std::system_error& failure) {
         trouble_ = troubleOf(failure.code());
+    } catch (const std::bad_alloc&) {
+        trouble_ = "no memory";
     }
 }
 
 void LinkDevice::close() {
     session_.forgetHandlers();
+    owner_.panel().Connected(false);
     port_.reset();
     lines_ = {};
     unsent_.clear();
@@ -103,7 +112,6 @@ void LinkDevice::close() {
     silence_.reset();
     trouble_ = "not there";
     untilTry_ = kBetweenTries;
-    owner_.panel().Connected(false);
 }
 
 void LinkDevice::listen() {
