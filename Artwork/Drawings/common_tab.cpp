@@ -3,6 +3,7 @@
 #include "Artwork/Drawings/amplifier_front.h"
 #include "Artwork/Drawings/drawings.h"
 #include "Artwork/Drawings/materials.h"
+#include "Orvo/window/drawing/palette.h"
 
 // The "Common" tab: an instrument's light front.
 namespace Orvo::Artwork {
@@ -13,7 +14,8 @@ constexpr QRectF kPlace = placeOf(Layout::kCommon.background);
 constexpr QColor kEdge(182, 188, 199);
 constexpr QColor kRule(150, 155, 170);
 constexpr QColor kFine(224, 227, 233);
-constexpr Finish kPlate{{251, 252, 253}, {240, 242, 246}, kEdge, {255, 255, 255}, {0, 0, 0, 26}};
+constexpr Finish kPlate{
+    {251, 252, 253}, Window::Palette::kLightGround, kEdge, {255, 255, 255}, {0, 0, 0, 26}};
 
 void drawRule(QPainter& painter, double left, double right, double y, QColor colour) {
     painter.setPen(QPen(colour, kPixel));
@@ -63,7 +65,7 @@ void drawCards(QPainter& painter) {
 
 void draw(QPainter& painter) {
     alignToPixels(painter);
-    drawGround(painter, kPlace, {233, 235, 239}, {222, 225, 231}, {203, 208, 216});
+    drawGround(painter, kPlace, kCommonGround);
     drawRule(painter, 510, 3660, 960, kRule);
     drawRule(painter, 7065, 10215, 960, kRule);
     drawCards(painter);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QColor>
+#include <QLinearGradient>
 #include <QRectF>
 
 class QPainter;
@@ -17,6 +19,18 @@ struct Drawing {
 // their own, but every caption stands on them: what is light or dark follows the captions' colours.
 extern const Drawing kCommonTab;
 extern const Drawing kPairTab;
+
+/// What everything on a tab stands on: from the top over the middle to the bottom.
+struct Ground {
+    QColor top;
+    QColor middle;
+    QColor bottom;
+};
+constexpr Ground kCommonGround{{233, 235, 239}, {222, 225, 231}, {203, 208, 216}};
+constexpr Ground kPairGround{{36, 43, 55}, {29, 35, 45}, {20, 24, 32}};
+
+/// The ground of the tab at this place, in any units.
+QLinearGradient groundOf(const Ground& ground, const QRectF& place);
 
 // The button of a pair's power, in pixels.
 extern const Drawing kPowerUp;

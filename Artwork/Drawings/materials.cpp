@@ -1,6 +1,5 @@
 #include "Artwork/Drawings/materials.h"
 
-#include <QLinearGradient>
 #include <QPainter>
 
 #include "Orvo/window/drawing/text.h"
@@ -21,13 +20,17 @@ void drawRounded(QPainter& painter, const QRectF& place, const QPen& pen, const 
 
 void alignToPixels(QPainter& painter) { painter.translate(kPixel / 2, kPixel / 2); }
 
-void drawGround(QPainter& painter, const QRectF& place, QColor top, QColor middle, QColor bottom) {
+QLinearGradient groundOf(const Ground& ground, const QRectF& place) {
     QLinearGradient light(place.topLeft(), place.bottomLeft());
-    light.setColorAt(0, top);
-    light.setColorAt(0.35, middle);
-    light.setColorAt(1, bottom);
-    // The tab in front has the colour of the top, and goes over into it.
-    painter.fillRect(place.adjusted(-kPixel, -kPixel, 0, 0), light);
+    light.setColorAt(0, ground.top);
+    light.setColorAt(0.35, ground.middle);
+    light.setColorAt(1, ground.bottom);
+    return light;
+}
+
+// The tab in front has the colour of the top, and goes over into it.
+void drawGround(QPainter& painter, const QRectF& place, const Ground& ground) {
+    painter.fillRect(place.adjusted(-kPixel, -kPixel, 0, 0), groundOf(ground, place));
 }
 
 void drawPlate(QPainter& painter, const QRectF& place, const Finish& finish) {

@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <QRectF>
 
+#include "Artwork/Drawings/drawings.h"
 #include "Orvo/layout/roles.h"
 
 class QPainter;
@@ -31,8 +32,8 @@ struct Finish {
 /// Onto the middle of the pixels at zoom 1, where an edge is sharp.
 void alignToPixels(QPainter& painter);
 
-/// The ground that everything stands on: from the top over the middle to the bottom.
-void drawGround(QPainter& painter, const QRectF& place, QColor top, QColor middle, QColor bottom);
+/// The ground that everything stands on.
+void drawGround(QPainter& painter, const QRectF& place, const Ground& ground);
 
 /// A sheet that lies on the ground.
 void drawPlate(QPainter& painter, const QRectF& place, const Finish& finish);

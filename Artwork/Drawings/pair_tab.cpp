@@ -3,6 +3,7 @@
 
 #include "Artwork/Drawings/drawings.h"
 #include "Artwork/Drawings/materials.h"
+#include "Orvo/window/drawing/palette.h"
 
 // The pair tabs: the signal's way from the generator to the scopes on a dark front.
 namespace Orvo::Artwork {
@@ -13,7 +14,8 @@ constexpr QRectF kPlace = placeOf(Layout::pair(1).background);
 constexpr QColor kEdge(80, 92, 112);
 constexpr QColor kWire(110, 123, 144);
 constexpr QColor kInk(30, 34, 42);
-constexpr Finish kPlate{{50, 58, 73}, {40, 47, 60}, kEdge, {255, 255, 255, 26}, {0, 0, 0, 80}};
+constexpr Finish kPlate{
+    Window::Palette::kDarkGround, {40, 47, 60}, kEdge, {255, 255, 255, 26}, {0, 0, 0, 80}};
 constexpr Finish kBezel{
     {62, 68, 79}, {40, 45, 54}, {92, 101, 117}, {255, 255, 255, 40}, {0, 0, 0, 90}};
 
@@ -113,7 +115,7 @@ void drawConnections(QPainter& painter) {
 
 void draw(QPainter& painter) {
     alignToPixels(painter);
-    drawGround(painter, kPlace, {36, 43, 55}, {29, 35, 45}, {20, 24, 32});
+    drawGround(painter, kPlace, kPairGround);
     drawPlates(painter);
     drawRecesses(painter);
     drawConnections(painter);

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstdio>
 #include <exception>
 #include <string>
 
@@ -10,6 +9,7 @@
 #include "Script/buffered_output.h"
 #include "Script/completion.h"
 #include "Script/help.h"
+#include "Script/program.h"
 #include "Script/script_runner.h"
 #include "Script/store_panel.h"
 
@@ -62,17 +62,17 @@ int run(const Options& options) {
     return runScript(panel, panel, kGrammar, options.file.value_or("-"), options.atComplaint);
 }
 
-void complain(const std::string& text) { std::fprintf(stderr, "orvo-console: %s\n", text.c_str()); }
-
 }  // namespace
 
 int main(int argc, char** argv) {
+    surviveFailedWrites();
     try {
         return run(readOptions({argv + std::min(argc, 1), argv + argc}));
     } catch (const WrongUsage& wrong) {
-        complain(wrong.text + "\nTry orvo-console --help.");
+        complain("orvo-console: " + wrong.text);
+        complain("Try orvo-console --help.");
     } catch (const std::exception& failure) {
-        complain(failure.what());
+        complain(std::string("orvo-console: ") + failure.what());
     }
     return cannotRun;
 }

@@ -1,28 +1,40 @@
-#include <csignal>
 #include <cstdio>
 #include <stdexcept>
 
 #include <QApplication>
+#include <QDir>
+#include <QSettings>
+#include <QStandardPaths>
 
 #include "Manager/Window/demonstration.h"
+#include "Manager/Window/files.h"
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/options.h"
 #include "Manager/Window/platform.h"
 #include "Manager/Window/run_script.h"
 #include "Orvo/window/emblem.h"
+#include "Script/program.h"
 
 namespace Orvo::Manager {
 namespace {
 
 int end(const Ending& ending) {
     std::FILE* stream = ending.status == 0 ? stdout : stderr;
-    std::fputs(qPrintable(ending.text + '\n'), stream);
-    return ending.status;
+    const bool isSaid = std::fputs(qPrintable(ending.text + '\n'), stream) >= 0;
+    return isSaid && std::fflush(stream) == 0 ? ending.status : kWrongUsage;
 }
 
-int showWindow(const Options& options) {
+std::string logFile() {
+    const QDir directory(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
+    directory.mkpath(".");
+    return nativeName(directory.filePath("messages.txt"));
+}
+
+int showWindow(Options options) {
     try {
-        ManagerWindow window(options);
+        QSettings settings;
+        options.session.log = logFile();
+        ManagerWindow window(options, &settings);
         options.link ? window.connectLink(*options.link) : window.session().connectSimulator();
         window.open();
         const int status = QApplication::exec();
@@ -38,10 +50,11 @@ int showWindow(const Options& options) {
 
 int main(int argc, char** argv) {
     using namespace Orvo::Manager;
-    // What can't be written is told; it doesn't end the program unsaid.
-    for (const int number : {SIGPIPE, SIGXFSZ}) std::signal(number, SIG_IGN);
+    Orvo::Script::surviveFailedWrites();
     choosePlatform();
     const QApplication application(argc, argv);
+    QApplication::setStyle("Fusion");
+    QApplication::setOrganizationName("Marvane");
     QApplication::setApplicationName("marvane-manager");
     QApplication::setApplicationDisplayName("Marvane Manager");
     QApplication::setApplicationVersion(ORVO_VERSION);

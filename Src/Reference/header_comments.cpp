@@ -1,7 +1,6 @@
 #include "Reference/header_comments.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <sstream>
 #include <stdexcept>
 #include <vector>
@@ -29,7 +28,7 @@ std::vector<std::string> linesOf(const std::string& text) {
     return lines;
 }
 
-std::string wrapped(const std::string& paragraph, const std::string& margin) {
+std::string wrappedParagraph(const std::string& paragraph, const std::string& margin) {
     std::string text;
     std::string row = margin;
     std::istringstream words(paragraph);
@@ -39,13 +38,6 @@ std::string wrapped(const std::string& paragraph, const std::string& margin) {
         row = margin;
     }
     return text + row + '\n';
-}
-
-std::string comment(const std::string& text, std::size_t indent) {
-    std::string lines;
-    const std::string margin = std::string(indent, ' ').append(kMark);
-    for (const std::string& paragraph : linesOf(text)) lines += wrapped(paragraph, margin);
-    return lines;
 }
 
 std::string withComments(const std::string& header, const std::vector<Documented>& all) {
@@ -73,6 +65,16 @@ Documented documented(ValueType result, const Row& row) {
 }
 
 }  // namespace
+
+std::string wrapped(const std::string& text, const std::string& margin) {
+    std::string lines;
+    for (const std::string& paragraph : linesOf(text)) lines += wrappedParagraph(paragraph, margin);
+    return lines;
+}
+
+std::string comment(const std::string& text, std::size_t indent) {
+    return wrapped(text, std::string(indent, ' ').append(kMark));
+}
 
 std::string withMemberContracts(const std::string& header) {
     std::vector<Documented> all{{"class MarvaneAssistantInterface", std::string(kMemberRules)}};

@@ -5,8 +5,10 @@
 #include <span>
 
 #include "Orvo/core/event_table.h"
+#include "Reference/bindings.h"
 #include "Reference/header_comments.h"
 #include "Reference/reference_prose.h"
+#include "Reference/widget_interface.h"
 #include "Script/help.h"
 #include "Script/text_of.h"
 
@@ -127,7 +129,11 @@ std::vector<DerivedFile> derivedFiles(const std::filesystem::path& root) {
     return {{root / "Docs/panel-script.md", scriptPage()},
             {root / "Docs/interface.md", interfacePage()},
             {members, withMemberContracts(textIn(members))},
-            {events, withEventContracts(textIn(events))}};
+            {events, withEventContracts(textIn(events))},
+            {root / "Src/Orvo/orvo_ids.h", cIds()},
+            {root / "Src/Orvo/window/panel_interface.h", widgetInterfaceHeader()},
+            {root / "Src/Orvo/window/panel_interface.cpp", widgetInterfaceSource()},
+            {root / "Src/Python/orvo/_members.py", pythonMembers()}};
 }
 
 }  // namespace Orvo::Script

@@ -6,7 +6,8 @@
 
 namespace Orvo::Script {
 
-/// A file of the source tree that is written from the tables: a page, or a header's comments.
+/// A file of the source tree that is written from the tables: a page, a header's
+/// comments, or the panel as a widget has it.
 struct DerivedFile {
     std::filesystem::path path;
     std::string text;

@@ -74,7 +74,8 @@ String or an array as they are; a 16-bit number for a Boolean is passed on uncha
 
 A command that `on` is given has to be understood at that time. A handler that `off` or `new`
 forgets while its event is being raised doesn't run any more; one that is added then runs from the
-next event on. All handlers have 16 MiB of memory; error 7, Out of memory, beyond.
+next event on. All handlers and all that is queued together have 16 MiB of memory; error 7, Out of
+memory, beyond.
 
 )";
 
@@ -107,6 +108,11 @@ key List1 18
 meanwhile let IdDevice 7
 answer "530284"
 ```
+
+Next comes what brings a fresh panel to what this one showed when the recording began, traces and the
+time to the timers' next ticks included. It is derived from the state of the widgets, and tried on a
+fresh panel; what can't be brought there is told of in a comment, `# not brought here: WIDGET …`, with
+what `show` said of it.
 
 )";
 
@@ -159,7 +165,8 @@ show LED3
 
 A session that the window replays takes its time, and the window answers meanwhile. It may not use
 `shot`, also where it stands in an `on`. A line above 1560 KiB ends it, and so does a handler or a
-prompt in whose midst more is done than the window has time for.
+prompt in whose midst more is done than the window has time for, and what there is no room for in
+its 16 MiB, the message log included.
 
 ## Over a link
 

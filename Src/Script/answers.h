@@ -13,7 +13,7 @@ inline std::string resultIs(std::string_view value) { return "= " + std::string(
 
 /// Of a listing, whose rows are written.
 template <class Things, class TextOf>
-std::string listed(Session& session, const Things& things, const TextOf& textOf) {
+std::string listed(const Session& session, const Things& things, const TextOf& textOf) {
     for (const auto& thing : things) session.row(textOf(thing));
     return resultIs(std::to_string(things.size()));
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Script/bounds.h"
 #include "Script/command_table.h"
 #include "Script/text_of.h"
 
@@ -12,11 +13,6 @@ using Verb = Runtime::Deed::Verb;
 
 // Commands that stand in one another: "on EVENT on EVENT …".
 constexpr std::size_t kDeepestNesting = 64;
-
-// Of what is kept of a command: two bytes for a character of its text, and what goes with the
-// least.
-constexpr std::size_t kBytesPerCharacter = 2;
-constexpr std::size_t kLeastKept = 1024;
 
 std::vector<std::string_view> commandNames(const Grammar& grammar) {
     std::vector<std::string_view> names;
@@ -95,7 +91,7 @@ ParsedCommand Arguments::takeCommand() {
     const std::size_t length = words_.empty() ? 0 : end_ - words_.front().offset;
     words_ = {};
     ParsedCommand command = parseRest(rest);
-    command.size = kLeastKept + kBytesPerCharacter * length;
+    command.size = bytesToKeep(length);
     return command;
 }
 

@@ -28,6 +28,9 @@ std::string carryOut(Session& session, const Values&... values) {
     if constexpr (std::is_invocable_v<Function, Person&, const Values&...>) {
         std::invoke(kFunction, session.person(), values...);
         return ok();
+    } else if constexpr (std::is_invocable_v<Function, const Session&, const Values&...>) {
+        // What does nothing but answer.
+        return session.isHeard() ? std::invoke(kFunction, session, values...) : ok();
     } else if constexpr (std::is_invocable_r_v<std::string, Function, Session&, const Values&...>) {
         return std::invoke(kFunction, session, values...);
     } else {

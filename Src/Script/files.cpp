@@ -36,6 +36,12 @@ void expectRegular(const struct stat& status, const std::string& path) {
     fail(path);
 }
 
+void expectRegular(const FileDescriptor& file, const std::string& path) {
+    struct stat status {};
+    checked(::fstat(file.get(), &status), path);
+    expectRegular(status, path);
+}
+
 // Opening neither waits for the other end of a pipe nor takes a terminal over.
 FileDescriptor open(const std::string& path, int mode, mode_t permissions = 0) {
     return FileDescriptor(
@@ -60,19 +66,49 @@ FileDescriptor lockReplaced(const std::string& path, Existing existing) {
     return file;
 }
 
+// However long the file's own name is, there is room for this one.
 std::string nameBeside(const std::string& path) {
-    return path + '.' + std::to_string(std::random_device()());
+    return path.substr(0, path.rfind('/') + 1) + ".orvo-" + std::to_string(std::random_device()());
 }
 
 mode_t permissionsFor(Readers readers) { return readers == Readers::owner ? 0600 : 0666; }
 
+// A name ends at its first NUL for the system, and would be another's then.
+const std::string& whole(const std::string& path) {
+    errno = EINVAL;
+    if (path.find('\0') != std::string::npos) fail(path);
+    return path;
+}
+
+// Who may not read what is replaced may not read what replaces it.
+void takePermissions(const FileDescriptor& file, const FileDescriptor& replaced,
+                     const std::string& path) {
+    struct stat before {};
+    struct stat now {};
+    checked(::fstat(replaced.get(), &before), path);
+    checked(::fstat(file.get(), &now), path);
+    checked(::fchmod(file.get(), now.st_mode & before.st_mode & 0777U), path);
+}
+
 }  // namespace
+
+FileDescriptor openReadable(const std::string& path) {
+    FileDescriptor file = open(path, O_RDONLY);
+    checked(::fcntl(file.get(), F_SETFL, O_RDONLY), path);
+    return file;
+}
 
 FileDescriptor openRegular(const std::string& path) {
     FileDescriptor file = open(path, O_RDONLY);
-    struct stat status {};
-    checked(::fstat(file.get(), &status), path);
-    expectRegular(status, path);
+    expectRegular(file, path);
+    return file;
+}
+
+FileDescriptor openToAppend(const std::string& path) {
+    FileDescriptor file =
+        open(path, O_RDWR | O_APPEND | O_CREAT | O_NOFOLLOW, permissionsFor(Readers::owner));
+    expectRegular(file, path);
+    lock(file, path);
     return file;
 }
 
@@ -94,12 +130,24 @@ std::size_t readFrom(const FileDescriptor& file, std::span<char> bytes) {
     return count > 0 ? static_cast<std::size_t>(count) : 0;
 }
 
+std::size_t readAt(const FileDescriptor& file, std::size_t at, std::span<char> bytes) {
+    std::size_t read = 0;
+    while (read < bytes.size()) {
+        const ssize_t count = ::pread(file.get(), bytes.data() + read, bytes.size() - read,
+                                      static_cast<off_t>(at + read));
+        if (count == 0 || (count < 0 && errno != EINTR)) break;
+        if (count > 0) read += static_cast<std::size_t>(count);
+    }
+    return read;
+}
+
 NewFile::NewFile(const std::string& path, Existing existing, Readers readers)
-    : path_(path), replaced_(lockReplaced(path, existing)) {
-    const bool isBeside = replaced_.get() >= 0;
-    const std::string name = isBeside ? nameBeside(path) : path;
-    file_ = open(name, O_RDWR | O_APPEND | O_CREAT | O_EXCL | O_NOFOLLOW, permissionsFor(readers));
-    current_ = name;
+    : path_(whole(path)), replaced_(lockReplaced(path, existing)) {
+    std::string name = replaced_.get() >= 0 ? nameBeside(path) : path;
+    constexpr int kFresh = O_RDWR | O_APPEND | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    file_ = FileDescriptor(checked(::open(name.c_str(), kFresh, permissionsFor(readers)), path));
+    current_ = std::move(name);
+    if (replaced_.get() >= 0) takePermissions(file_, replaced_, path);
     lock(file_, path);
 }
 

@@ -19,8 +19,14 @@ enum class Existing : std::uint8_t { refused, overwritten };
 /// Who may read a new file: its owner alone, or whoever usually may.
 enum class Readers : std::uint8_t { owner, usual };
 
+/// For reading, whatever it is. To open it waits for nobody, to read from it may.
+FileDescriptor openReadable(const std::string& path);
 /// For reading. A regular file, which may be behind a link; nothing is waited for.
 FileDescriptor openRegular(const std::string& path);
+
+/// For reading, and for writing behind what is there; made, for its owner's eyes alone, when it
+/// isn't. Nobody else may have it so, or replace it, as long as it is open.
+FileDescriptor openToAppend(const std::string& path);
 
 /// A file that nobody had before. What it replaces stays as it is until `keep`. Nobody else may
 /// replace it in turn as long as it is open.
@@ -50,5 +56,7 @@ private:
 std::size_t writeTo(const FileDescriptor& file, std::string_view bytes);
 /// Reads what comes next, and says how much; nothing at the end, or when it can't be read.
 std::size_t readFrom(const FileDescriptor& file, std::span<char> bytes);
+/// Reads from a place on as much as there is room for, and says how much could be read.
+std::size_t readAt(const FileDescriptor& file, std::size_t at, std::span<char> bytes);
 
 }  // namespace Orvo::Script

@@ -10,21 +10,22 @@ std::string call(Session& session, const Call& call) {
     const InvokeResult result =
         session.owner().panel().invoke(call.dispatchId, call.kind, call.arguments);
     if (result.error) throw Error(*result.error);
-    return typeOf(result.value) == ValueType::none ? ok() : resultIs(textOf(result.value));
+    const bool isTold = session.isHeard() && typeOf(result.value) != ValueType::none;
+    return isTold ? resultIs(textOf(result.value)) : ok();
 }
 
-std::string id(Session& /*session*/, Long dispatchId) {
+std::string id(const Session& /*session*/, Long dispatchId) {
     return resultIs(dispatchIdText(dispatchId));
 }
 
-std::string members(Session& session) {
+std::string members(const Session& session) {
     return listed(session, kMembers, [](const Member& member) {
         return std::to_string(member.number) + ' ' + std::string(member.name) + ' ' +
                std::string(nameOf(member.kind)) + ' ' + dispatchIdText(member.dispatchId);
     });
 }
 
-std::string events(Session& session) {
+std::string events(const Session& session) {
     return listed(session, kEvents, [](const Event& event) {
         std::string text = std::to_string(event.dispatchId) + ' ' + std::string(event.name);
         for (const Parameter& parameter : event.parameters())

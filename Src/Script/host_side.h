@@ -8,8 +8,8 @@
 namespace Orvo::Script::HostSide {
 
 std::string call(Session& session, const Call& call);
-std::string id(Session& session, Long dispatchId);
-std::string members(Session& session);
-std::string events(Session& session);
+std::string id(const Session& session, Long dispatchId);
+std::string members(const Session& session);
+std::string events(const Session& session);
 
 }  // namespace Orvo::Script::HostSide

@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include <poll.h>
 #include <unistd.h>
 
 namespace Orvo::Script {
@@ -37,12 +38,22 @@ std::string_view LineReader::take(std::size_t length) {
     return line;
 }
 
+// A pipe that nobody has opened for writing yet would be at its end.
+void LineReader::waitForWriter() const {
+    pollfd file{descriptor_, POLLIN, 0};
+    while (::poll(&file, 1, -1) < 0 && errno == EINTR) continue;
+}
+
 bool LineReader::fill() {
     beforeWaiting_();
     buffer_.erase(0, std::exchange(start_, 0));
     const std::size_t kept = buffer_.size();
-    if (kept > kLongestLine) throw std::runtime_error(name_ + ": A line is longer than 16 MiB");
+    if (kept > kLongestLine) {
+        throw std::runtime_error(name_ + ": A line is longer than " +
+                                 std::to_string(kLongestLine >> 20U) + " MiB");
+    }
     buffer_.resize(kept + kChunk);
+    waitForWriter();
     ssize_t count = 0;
     do {
         count = ::read(descriptor_, buffer_.data() + kept, kChunk);

@@ -25,6 +25,7 @@ public:
 
 private:
     bool fill();
+    void waitForWriter() const;
     std::string_view take(std::size_t length);
 
     int descriptor_;

@@ -125,13 +125,13 @@ std::string describe(const Store& widgets, WidgetId widget) {
            });
 }
 
-std::string show(Session& session, std::optional<WidgetId> widget) {
+std::string show(const Session& session, std::optional<WidgetId> widget) {
     const Store& widgets = session.person().store();
     if (widget) return resultIs(describe(widgets, *widget));
     return resultIs("screen" + property("pointer", static_cast<int>(widgets.pointer())));
 }
 
-std::string items(Session& session, WidgetId widget) {
+std::string items(const Session& session, WidgetId widget) {
     const Store& widgets = session.person().store();
     if (Layout::kindOf(widget) == Kind::combo) {
         return listed(session, widgets.get<StoredCombo>(widget).state().items, textOfItem);
@@ -139,7 +139,7 @@ std::string items(Session& session, WidgetId widget) {
     return listed(session, widgets.get<StoredList>(widget).state().items, textOfItem);
 }
 
-std::string drawing(Session& session, WidgetId picture) {
+std::string drawing(const Session& session, WidgetId picture) {
     Lines lines;
     const Store& widgets = session.person().store();
     for (const Drawn& drawn : widgets.get<StoredPicture>(picture).state().drawing) {
@@ -148,7 +148,7 @@ std::string drawing(Session& session, WidgetId picture) {
     return listed(session, lines, std::identity());
 }
 
-std::string widgets(Session& session) {
+std::string widgets(const Session& session) {
     return listed(session, Layout::kWidgets, [](const Layout::Widget& widget) {
         return std::string(widget.name)
             .append(" ")

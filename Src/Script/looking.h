@@ -13,10 +13,10 @@ namespace Orvo::Script::Looking {
 /// A widget as `show` prints it.
 std::string describe(const Runtime::Store& widgets, WidgetId widget);
 
-std::string show(Session& session, std::optional<WidgetId> widget);
-std::string items(Session& session, WidgetId widget);
-std::string drawing(Session& session, WidgetId picture);
-std::string widgets(Session& session);
+std::string show(const Session& session, std::optional<WidgetId> widget);
+std::string items(const Session& session, WidgetId widget);
+std::string drawing(const Session& session, WidgetId picture);
+std::string widgets(const Session& session);
 void set(Session& session, WidgetId widget, LayoutProperty property, bool value);
 void pointer(Session& session, Widgets::Pointer pointer);
 

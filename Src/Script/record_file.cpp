@@ -9,6 +9,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "Script/bounds.h"
+
 namespace Orvo::Script {
 namespace {
 
@@ -20,12 +22,13 @@ RecordFile::RecordFile(const std::string& path, Existing existing)
     : path_(path), file_(NewFile(path, existing, Readers::owner).keep()) {}
 
 void RecordFile::append(std::string_view lines) {
-    if (!isWhole_) return;
+    if (isLost() || isChanged_) return;
+    if (failure_ && unwritten_.size() + lines.size() > kMostKept) {
+        loss_ = "No more can be kept";
+        return;
+    }
     unwritten_ += lines;
-    if (!failure_) return flush();
-    if (unwritten_.size() <= kMostUnwritten) return;
-    isWhole_ = false;
-    unwritten_ = {};
+    if (!failure_) flush();
 }
 
 void RecordFile::flush() {
@@ -39,18 +42,27 @@ void RecordFile::flush() {
 // A line that is cut off would be taken for another.
 void RecordFile::giveUp(const std::string& reason) {
     static_cast<void>(::ftruncate(file_.get(), static_cast<off_t>(size_)));
-    failure_ = path_ + ": " + reason;
+    failure_ = reason;
 }
 
-const std::optional<std::string>& RecordFile::failure() {
-    if (!isWhole_ && !failure_) failure_ = path_ + ": Out of memory";
-    if (isRemoved() && !failure_) failure_ = path_ + ": The file was removed";
-    return failure_;
+std::optional<std::string> RecordFile::failure() {
+    if (!failure_) look();
+    if (isLost()) return path_ + ": " + loss_;
+    return failure_ ? std::optional(path_ + ": " + *failure_) : std::nullopt;
 }
 
-bool RecordFile::isRemoved() const {
+void RecordFile::look() {
+    isChanged_ = !hasItsSize();
+    if (isChanged_) {
+        failure_ = "Another program has changed the file";
+    } else if (!isAt(path_)) {
+        failure_ = "The file was removed";
+    }
+}
+
+bool RecordFile::hasItsSize() const {
     struct stat status {};
-    return ::fstat(file_.get(), &status) == 0 && status.st_nlink == 0;
+    return ::fstat(file_.get(), &status) == 0 && status.st_size == static_cast<off_t>(size_);
 }
 
 // Whatever the path is spelt like.
@@ -62,7 +74,6 @@ bool RecordFile::isAt(const std::string& path) const {
 }
 
 void RecordFile::moveTo(const std::string& path, Existing existing) {
-    if (!isWhole_) throw std::runtime_error(path + ": Too much has happened since");
     if (isAt(path)) return tryAgain();
     NewFile file(path, existing, Readers::owner);
     copyTo(file);
@@ -77,7 +88,7 @@ void RecordFile::moveTo(const std::string& path, Existing existing) {
 void RecordFile::tryAgain() {
     failure_.reset();
     flush();
-    if (failure_) throw std::runtime_error(*failure_);
+    if (failure_) throw std::runtime_error(path_ + ": " + *failure_);
 }
 
 void RecordFile::copyTo(NewFile& file) const {

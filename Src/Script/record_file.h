@@ -13,24 +13,26 @@ namespace Orvo::Script {
 /// stays there, whatever becomes of the program.
 ///
 /// A file that takes no more, for instance because the disk is full, is left with its full lines,
-/// and the lines that come then are kept for another file, as many as `kMostUnwritten` bytes hold.
+/// and the lines that come then are kept for another file, up to `kMostKept` bytes. What comes
+/// after that is lost, and so is what there was no memory for; then nothing follows any more.
 class RecordFile {
 public:
-    static constexpr std::size_t kMostUnwritten = std::size_t{64} << 20U;
-
     /// For its owner's eyes alone: it may hold passwords. Throws std::runtime_error.
     RecordFile(const std::string& path, Existing existing);
 
     /// Whole lines with their line breaks.
     void append(std::string_view lines);
 
-    /// The file takes no more: there was no memory for a line, and no other file is to go on
-    /// without it.
-    void lose() noexcept { isWhole_ = false; }
+    /// There was no memory for a line, and nothing is to go on without it.
+    void lose() noexcept { loss_ = "Out of memory"; }
+    [[nodiscard]] bool isLost() const { return loss_ != nullptr; }
 
-    /// Why the file takes no more, if so: "FILE: REASON". One that is removed takes no more, which
-    /// shows only when it is looked at here.
-    const std::optional<std::string>& failure();
+    /// Why the file takes no more, or takes what isn't kept any more, if so: "FILE: REASON". That
+    /// it was removed or changed by others shows only when it is looked at here.
+    std::optional<std::string> failure();
+
+    /// Another program has changed what stood in it: there is nothing to go on with.
+    [[nodiscard]] bool isChanged() const { return isChanged_; }
 
     /// Everything from the beginning on, and what comes next, is in another file from now on, or in
     /// the same again, if it can be; else std::runtime_error tells why, and nothing has changed.
@@ -41,15 +43,17 @@ private:
     void giveUp(const std::string& reason);
     void copyTo(NewFile& file) const;
     void tryAgain();
-    [[nodiscard]] bool isRemoved() const;
+    void look();
+    [[nodiscard]] bool hasItsSize() const;
     [[nodiscard]] bool isAt(const std::string& path) const;
 
     std::string path_;
     FileDescriptor file_;
-    std::size_t size_ = 0;   // of the full lines
-    std::string unwritten_;  // lines
-    bool isWhole_ = true;
-    std::optional<std::string> failure_;
+    std::size_t size_ = 0;        // of the full lines
+    std::string unwritten_;       // lines
+    const char* loss_ = nullptr;  // the reason
+    bool isChanged_ = false;
+    std::optional<std::string> failure_;  // the reason
 };
 
 }  // namespace Orvo::Script

@@ -9,6 +9,7 @@
 #include "Orvo/store/stored_widgets.h"
 #include "Orvo/store/user_input.h"
 #include "Script/command.h"
+#include "Script/present_state.h"
 #include "Script/text_of.h"
 
 namespace Orvo::Script {
@@ -24,19 +25,31 @@ bool isText(const Value& value) { return std::holds_alternative<String>(value); 
 
 }  // namespace
 
-Recorder::Recorder(RecordFile file, PanelOwner& owner, Answers answers)
+Recorder::Recorder(PanelOwner& owner, Answers answers)
     : owner_(owner),
-      file_(std::move(file)),
       answers_(answers),
-      renewals_(owner.onRenewed([this] { note([this] { hear(); }); },
-                                [this] { note([this] { panelEnds(); }); })) {
-    file_.append(kHeading);
+      renewals_(owner.onRenewed([this] { hearFreshPanel(); }, [this] { panelEnds(); })) {
     hear();
 }
 
 Recorder::~Recorder() {
+    stop();
     store().input().observeWith(nullptr);
+}
+
+void Recorder::start(RecordFile file) {
+    if (!events_.isConnected()) hear();
+    const Boolean readOnly = owner_.panel().ReadOnly();
+    file.append(std::string(kHeading) + presentState(store(), readOnly));
+    time_ = store().now();
+    ongoing_.clear();
+    resumptions_ = 0;
+    file_.emplace(std::move(file));
+}
+
+void Recorder::stop() {
     writeWait();
+    file_.reset();
 }
 
 void Recorder::hear() {
@@ -48,10 +61,20 @@ void Recorder::hear() {
     });
 }
 
+void Recorder::hearFreshPanel() {
+    try {
+        hear();
+    } catch (...) {
+        if (file_) file_->lose();
+    }
+}
+
 void Recorder::panelEnds() {
     store().input().observeWith(nullptr);
-    wait();
-    write("new");
+    note([this] {
+        wait();
+        write("new");
+    });
     ongoing_.clear();
     resumptions_ = 0;
 }
@@ -70,7 +93,7 @@ void Recorder::called(const Member& member, std::span<const Value> arguments) {
 void Recorder::returned(const Member& /*member*/, const Value& /*result*/) { end(); }
 
 void Recorder::failed(const Member& /*member*/, const Error& error) {
-    note([&] { file_.append("# ! " + textOf(error) + '\n'); });
+    note([&] { file_->append("# ! " + textOf(error) + '\n'); });
     end();
 }
 
@@ -106,7 +129,7 @@ void Recorder::answered(const std::optional<String>& answer) {
     const bool isTold = answer && answers_ == Answers::inFull;
     note([&] {
         wait();
-        file_.append("answer " + (isTold ? textOf(StringView(*answer)) : "cancel") + '\n');
+        file_->append("answer " + (isTold ? textOf(StringView(*answer)) : "cancel") + '\n');
     });
     // No event takes what stands behind an answer that it hasn't got.
     resumptions_ = 0;
@@ -114,11 +137,11 @@ void Recorder::answered(const std::optional<String>& answer) {
 }
 
 void Recorder::raised(const Event& event, std::span<const Value> arguments) {
-    stop();
+    pause();
     const bool isSecret =
         answers_ == Answers::asCancelled && std::any_of(arguments.begin(), arguments.end(), isText);
     const auto told = isSecret ? std::span<const Value>() : arguments;
-    file_.append("# " + eventText(event, told) + (isSecret ? " …\n" : "\n"));
+    file_->append("# " + eventText(event, told) + (isSecret ? " …\n" : "\n"));
 }
 
 void Recorder::begin(std::string_view command, std::optional<Widgets::WidgetId> movedSlider) {
@@ -134,7 +157,7 @@ void Recorder::end() {
 }
 
 // At an event or a prompt; what it was stopped at before is done with.
-void Recorder::stop() {
+void Recorder::pause() {
     wait();
     if (ongoing_.empty() || ongoing_.back().state == State::over) return;
     if (std::exchange(ongoing_.back().state, State::stopped) == State::stopped) ++resumptions_;
@@ -153,7 +176,7 @@ void Recorder::write(std::string_view command) {
         lines += "meanwhile ";
     }
     resumptions_ = 0;
-    file_.append(lines.append(command) += '\n');
+    file_->append(lines.append(command) += '\n');
 }
 
 void Recorder::writeWait() {

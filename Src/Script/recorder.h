@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Orvo/core/call_listener.h"
@@ -18,27 +19,36 @@ namespace Orvo::Script {
 enum class Answers : std::uint8_t { asCancelled, inFull };
 
 /// Writes down what host and person do to a panel, as it happens, as panel script that does the
-/// same to a fresh panel. The events are there as comments. What is done in the midst of an action,
-/// because it raises an event or opens a prompt, stands below it and is said to be done meanwhile.
-/// Only what comes of an answer that it doesn't hold is not repeated.
+/// same to a fresh panel, which it first brings to the state of this one. The events are there as
+/// comments. What is done in the midst of an action, because it raises an event or opens a prompt,
+/// stands below it and is said to be done meanwhile. Only what comes of an answer that it doesn't
+/// hold is not repeated.
 ///
 /// The store's clock must be run by hand: each timer then ticks in the replay as it ticked here.
 class Recorder final : private CallListener, private Runtime::InputObserver {
 public:
-    /// Begins with the panel fresh, and goes on with later ones. It must be the first that hears
-    /// the panel's events.
-    Recorder(RecordFile file, PanelOwner& owner, Answers answers);
+    /// Of the owner's panels. It must be the first that hears their events, long before `start`
+    /// perhaps.
+    Recorder(PanelOwner& owner, Answers answers);
+    Recorder(RecordFile file, PanelOwner& owner, Answers answers) : Recorder(owner, answers) {
+        start(std::move(file));
+    }
     ~Recorder() override;
     Recorder(const Recorder&) = delete;
     Recorder& operator=(const Recorder&) = delete;
+
+    /// While nothing is recorded, nor a handler or a prompt going on.
+    void start(RecordFile file);
+    void stop();
+    [[nodiscard]] bool isRecording() const { return file_.has_value(); }
 
     /// The host has set the screen's pointer.
     void pointerIsSet();
     /// Writes down the time that has passed since.
     void writeWait();
 
-    /// What is recorded; it may fail, and another one may take its place.
-    [[nodiscard]] RecordFile& file() { return file_; }
+    /// While it is recording: it may fail, and another one may take its place.
+    [[nodiscard]] RecordFile& file() { return *file_; }
 
 private:
     /// Where something stands in the script.
@@ -63,7 +73,7 @@ private:
     void does(const Runtime::Deed& deed) override;
     void did() override;
     void asks() override {
-        note([this] { stop(); });
+        note([this] { pause(); });
     }
     void answered(const std::optional<String>& answer) override;
     void ticks() override {
@@ -75,28 +85,30 @@ private:
     /// Whoever tells of something goes on, also when there is no memory to write it down.
     template <class Note>
     void note(const Note& note) {
+        if (!file_) return;
         try {
             note();
         } catch (...) {
-            file_.lose();
+            file_->lose();
         }
     }
 
     void hear();
+    void hearFreshPanel();
     void panelEnds();
     Runtime::Store& store() { return owner_.store(); }
 
     void wait();
     void begin(std::string_view command, std::optional<Widgets::WidgetId> movedSlider = {});
     void end();
-    void stop();
+    void pause();
 
     [[nodiscard]] bool isInTheMidst() const;
     void write(std::string_view command);
     void writeWhatASecretLeft();
 
     PanelOwner& owner_;
-    RecordFile file_;
+    std::optional<RecordFile> file_;
     Answers answers_;
     std::chrono::milliseconds time_{0};
     std::vector<Ongoing> ongoing_;  // each in the midst of the one before

@@ -2,16 +2,15 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <system_error>
 #include <utility>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include "Script/buffered_output.h"
-#include "Script/file_descriptor.h"
+#include "Script/files.h"
 #include "Script/line_reader.h"
+#include "Script/program.h"
 
 namespace Orvo::Script {
 namespace {
@@ -24,13 +23,6 @@ std::ptrdiff_t columnAt(std::string_view line, std::size_t offset) {
     return 1 + std::count_if(before.begin(), before.end(), [](char byte) {
                return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80;
            });
-}
-
-// Anything that can be read, a pipe for instance.
-FileDescriptor open(const std::string& file) {
-    FileDescriptor descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
-    if (descriptor.get() < 0) throw std::system_error(errno, std::generic_category(), file);
-    return descriptor;
 }
 
 struct Source {
@@ -78,7 +70,7 @@ private:
         if (!complaint) return;
         status_ = notUnderstood;
         output_.flush();
-        std::fprintf(stderr, "%s\n", complaint->c_str());
+        complain(*complaint);
     }
 
     BufferedOutput output_;
@@ -132,7 +124,7 @@ Status runScript(PanelOwner& owner, Person& person, const Grammar& grammar, cons
         return ScriptRun(owner, person, grammar, {STDIN_FILENO, "<stdin>"}, beforeWaiting)
             .run(atComplaint);
     }
-    const FileDescriptor opened = open(file);
+    const FileDescriptor opened = openReadable(file);
     return ScriptRun(owner, person, grammar, {opened.get(), file}, beforeWaiting).run(atComplaint);
 }
 

@@ -34,6 +34,8 @@ public:
     [[nodiscard]] bool hasRest() const { return !rest_.empty(); }
 
     [[nodiscard]] const std::string& name() const { return name_; }
+    /// The last line's number, counted from 1.
+    [[nodiscard]] std::size_t lineNumber() const { return lineNumber_; }
 
 private:
     std::optional<std::string> run(std::string_view line, std::size_t number);

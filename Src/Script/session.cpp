@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "Orvo/store/stored_widgets.h"
+#include "Script/bounds.h"
+#include "Script/message_log.h"
 #include "Script/text_of.h"
 
 namespace Orvo::Script {
@@ -15,6 +17,9 @@ constexpr std::size_t kDeepest = 64;
 Error outOfStackSpace() { return {28, "Out of stack space"}; }
 
 std::string failure(const Error& error) { return "! " + textOf(error); }
+
+// Put together while there is memory.
+const std::string kOutOfMemory = failure(Errors::kOutOfMemory);
 
 bool isForNoItem(const Runtime::Deed& deed, const Runtime::Store& store) {
     return deed.verb == Runtime::Deed::Verb::pick && store.acceptsInput(deed.widget) &&
@@ -95,25 +100,31 @@ void Session::connect() {
 std::optional<Misunderstood> Session::run(std::string_view text) {
     firstComplaint_.reset();
     try {
-        const std::vector<Word> words = split(text);
+        const auto words = isTrusted() ? split(text) : split(text, kMostWords);
         if (!words.empty()) perform(parse(words, grammar_));
     } catch (const Misunderstood& misunderstood) {
         line(complaint(misunderstood));
     } catch (const std::bad_alloc&) {
-        output_("! 7 Out of memory");  // put together in advance
+        if (!isHeard()) return Misunderstood{Errors::kOutOfMemory.description()};
+        output_(kOutOfMemory);
     }
     return std::exchange(firstComplaint_, std::nullopt);
 }
 
-void Session::row(std::string_view text) { line("- " + std::string(text)); }
+void Session::row(std::string_view text) const { line("- " + std::string(text)); }
 
 void Session::permit(const Call& call) const {
     if (supervisor_ != nullptr) supervisor_->permit(call);
+    if (isTrusted()) return;
+    if (const std::size_t logged = bytesLogged(call)) expectRoomFor(logged);
 }
 
 void Session::expectRoomFor(std::size_t bytes) const {
     const std::size_t elsewhere = supervisor_ != nullptr ? supervisor_->keptElsewhere() : 0;
-    if (kept_ + elsewhere + bytes > kMostKept) throw Errors::outOfMemory();
+    const std::size_t logged = isTrusted() ? 0 : bytesOfLog(owner_.store());
+    if (kept_ + elsewhere + logged + bytes <= kMostKept) return;
+    if (!isHeard()) throw Misunderstood{"there is no room to keep this"};
+    throw Errors::outOfMemory();
 }
 
 void Session::remember(const Event& event, ParsedCommand command) {
@@ -146,6 +157,25 @@ void Session::renew() {
     owner_.renew();
     forgetHandlers();
     queue_.clear();
+    kept_ = 0;
+}
+
+void Session::queueAnswer(std::optional<String> answer) {
+    const std::size_t size = bytesToKeep(answer ? answer->size() : 0);
+    queue(Answer{std::move(answer)}, size);
+}
+
+void Session::queueCommand(ParsedCommand command) {
+    const std::size_t size = command.size;
+    queue(std::move(command), size);
+}
+
+void Session::queueResumption() { queue(Resumption{}, bytesToKeep(0)); }
+
+void Session::queue(Step step, std::size_t size) {
+    expectRoomFor(size);
+    queue_.push_back({std::move(step), size});
+    kept_ += size;
 }
 
 void Session::startAnswer() {
@@ -155,7 +185,7 @@ void Session::startAnswer() {
 }
 
 void Session::raised(const Event& event, std::span<const Value> arguments) {
-    line(eventText(event, arguments));
+    if (isHeard()) line(eventText(event, arguments));
     const Midst midst(*this);
     handle(Handlers(handlersOf(event)));
     performQueued();
@@ -170,8 +200,9 @@ void Session::handle(const Handlers& handlers) {
 
 template <class What>
 std::optional<What> Session::takeQueued() {
-    if (queue_.empty() || !std::holds_alternative<What>(queue_.front())) return std::nullopt;
-    auto taken = std::get<What>(std::move(queue_.front()));
+    if (queue_.empty() || !std::holds_alternative<What>(queue_.front().step)) return std::nullopt;
+    auto taken = std::get<What>(std::move(queue_.front().step));
+    kept_ -= queue_.front().size;
     queue_.pop_front();
     return taken;
 }
@@ -189,6 +220,7 @@ void Session::failed(const Error& error) {
 
 std::optional<String> Session::ask(const Widgets::Question& question) {
     std::optional<String> answer = queuedAnswer();
+    if (!isHeard()) return answer;
     const std::string typed = answer ? textOf(StringView(*answer)) : "cancel";
     line("prompt " + textOf(StringView(question.text)) + ' ' + textOf(StringView(question.title)) +
          " -> " + typed);
@@ -236,7 +268,8 @@ std::string Session::complaint(const Misunderstood& misunderstood) {
     return "? " + misunderstood.text;
 }
 
-void Session::line(std::string_view text) {
+void Session::line(std::string_view text) const {
+    if (!isHeard()) return;
     if (depth_ == 0) return output_(text);
     output_(std::string(2 * depth_, ' ').append(text));
 }

@@ -29,12 +29,11 @@ enum class UnawaitedErrors : std::uint8_t { closeTheCommand, areTheOwners };
 /// answers as they arise, without line breaks.
 class Session final : private Runtime::Prompter {
 public:
-    /// What handlers may take in all, in bytes; under supervision with all else that is kept.
-    static constexpr std::size_t kMostKept = 1 << 24;
     /// For how long handlers may answer one event, under supervision; what is left of them then
     /// closes with error 18.
     static constexpr std::chrono::milliseconds kLongestAnswer{25};
 
+    /// Without one nobody hears the answers, which aren't composed then.
     using Output = std::function<void(std::string_view line)>;
 
     /// Plays both sides of the panel for as long as it lives: prompts are its own to answer.
@@ -57,23 +56,23 @@ public:
 
     [[nodiscard]] PanelOwner& owner() const { return owner_; }
     [[nodiscard]] Person& person() const { return *person_; }
+    [[nodiscard]] bool isHeard() const { return output_ != nullptr; }
     /// One row of a listing.
-    void row(std::string_view text);
+    void row(std::string_view text) const;
     void permit(const Call& call) const;
-    /// Throws error 7 when there is no room to keep so many bytes more.
+    /// Throws error 7 when so many bytes more would be above `kMostKept`; Misunderstood, when
+    /// nobody hears of errors.
     void expectRoomFor(std::size_t bytes) const;
     void remember(const Event& event, ParsedCommand command);
     void forget(const Event& event);
     /// Of all events.
     void forgetHandlers();
     /// What the person does at the next prompt that has no answer yet.
-    void queueAnswer(std::optional<String> answer) {
-        queue_.emplace_back(Answer{std::move(answer)});
-    }
+    void queueAnswer(std::optional<String> answer);
     /// What is done in the midst of a command, when the panel next raises an event or opens a
     /// prompt; and where that ends for an event.
-    void queueCommand(ParsedCommand command) { queue_.emplace_back(std::move(command)); }
-    void queueResumption() { queue_.emplace_back(Resumption{}); }
+    void queueCommand(ParsedCommand command);
+    void queueResumption();
     /// What is queued is for the command above it; whoever hands out the lines sees to that.
     void becomeChronological() { isChronological_ = true; }
     [[nodiscard]] bool isChronological() const { return isChronological_; }
@@ -97,10 +96,15 @@ private:
         std::optional<String> text;
     };
     struct Resumption {};
-    using Queued = std::variant<Answer, ParsedCommand, Resumption>;
+    using Step = std::variant<Answer, ParsedCommand, Resumption>;
+    struct Queued {
+        Step step;
+        std::size_t size;  // in bytes
+    };
 
     Session(PanelOwner& owner, Person* person, Supervisor* supervisor, const Grammar& grammar,
             Output output, UnawaitedErrors errors);
+    [[nodiscard]] bool isTrusted() const { return grammar_.speaker == Grammar::Speaker::anyone; }
     void connect();
     void startAnswer();
     void raised(const Event& event, std::span<const Value> arguments);
@@ -109,6 +113,7 @@ private:
 
     void handle(const Handlers& handlers);
     bool hasTime() { return person_ == nullptr || person_->hasTime(); }
+    void queue(Step step, std::size_t size);
     void performQueued();
     std::optional<String> queuedAnswer();
     template <class What>
@@ -118,7 +123,7 @@ private:
     void perform(const ParsedCommand& command);
     std::string closingLine(const ParsedCommand& command);
     std::string complaint(const Misunderstood& misunderstood);
-    void line(std::string_view text);
+    void line(std::string_view text) const;
     Handlers& handlersOf(const Event& event);
 
     PanelOwner& owner_;
@@ -130,7 +135,7 @@ private:
     const UnawaitedErrors errors_;
     Runtime::Prompter* prompterBefore_ = nullptr;
     std::array<Handlers, kEvents.size()> handlers_;
-    std::size_t kept_ = 0;  // bytes of handlers
+    std::size_t kept_ = 0;  // bytes of handlers and of what is queued
     std::deque<Queued> queue_;
     Frame* frame_ = nullptr;
     std::size_t depth_ = 0;

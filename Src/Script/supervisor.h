@@ -15,7 +15,7 @@ public:
     /// Before each of its calls, late-bound ones and those of handlers too. Throws Error for one
     /// that isn't to be made.
     virtual void permit(const Call& call) = 0;
-    /// What is kept of what it said, in bytes, the session's own handlers apart.
+    /// What is kept of what it said, in bytes, the message log and the session's own apart.
     [[nodiscard]] virtual std::size_t keptElsewhere() const = 0;
     [[nodiscard]] virtual std::chrono::steady_clock::time_point now() = 0;
 };

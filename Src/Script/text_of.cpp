@@ -52,9 +52,24 @@ std::string escapeOf(char16_t unit) {
     }
 }
 
-bool isEscaped(StringView text, std::size_t at) {
-    const char16_t unit = text[at];
-    return unit == u'"' || unit == u'\\' || isControl(unit) || isLoneSurrogate(text, at);
+bool isUnseen(StringView text, std::size_t at) {
+    return isControl(text[at]) || isLoneSurrogate(text, at);
+}
+
+bool endsOrEscapes(StringView text, std::size_t at) {
+    return text[at] == u'"' || text[at] == u'\\' || isUnseen(text, at);
+}
+
+template <bool (*kIsEscaped)(StringView text, std::size_t at)>
+std::string escaped(StringView text) {
+    std::string out;
+    std::size_t plain = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (!kIsEscaped(text, at)) continue;
+        out += toUtf8(text.substr(plain, at - plain)) + escapeOf(text[at]);
+        plain = at + 1;
+    }
+    return out + toUtf8(text.substr(plain));
 }
 
 template <class Number>
@@ -82,16 +97,9 @@ std::string wordsOf(std::span<const Value> values) {
 
 }  // namespace
 
-std::string textOf(StringView text) {
-    std::string out = "\"";
-    std::size_t plain = 0;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (!isEscaped(text, at)) continue;
-        out += toUtf8(text.substr(plain, at - plain)) + escapeOf(text[at]);
-        plain = at + 1;
-    }
-    return out + toUtf8(text.substr(plain)) + '"';
-}
+std::string textOf(StringView text) { return '"' + escaped<endsOrEscapes>(text) + '"'; }
+
+std::string onOneLine(std::string_view text) { return escaped<isUnseen>(fromUtf8(text)); }
 
 std::string textOf(Colour colour) {
     return std::to_string(colour.red) + ',' + std::to_string(colour.green) + ',' +

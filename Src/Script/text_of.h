@@ -16,6 +16,8 @@ namespace Orvo::Script {
 
 /// In double quotes, with escapes.
 std::string textOf(StringView text);
+/// As it is, but for what would break the line or can't be seen, of which there are escapes.
+std::string onOneLine(std::string_view text);
 std::string textOf(Colour colour);
 /// The shortest decimal form that reads back the same.
 std::string textOf(float value);

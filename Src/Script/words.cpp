@@ -23,11 +23,12 @@ bool isUtf8(std::string_view text) {
 
 class Splitter {
 public:
-    explicit Splitter(std::string_view line) : line_(line) {}
+    Splitter(std::string_view line, std::size_t mostWords) : line_(line), mostWords_(mostWords) {}
 
     std::vector<Word> words() {
         std::vector<Word> words;
         for (skipBlanks(); !isAtEnd(); skipBlanks()) {
+            if (words.size() == mostWords_) fail("there are too many words");
             words.push_back(peek() == '"' ? quoted() : bare());
             if (!isAtEnd() && kBlanks.find(peek()) == std::string_view::npos)
                 fail("a blank is missing");
@@ -135,6 +136,7 @@ private:
     }
 
     std::string_view line_;
+    std::size_t mostWords_;
     std::size_t at_ = 0;
 };
 
@@ -146,12 +148,12 @@ std::string_view firstWord(std::string_view line) {
     return line.substr(0, line.find_first_of(kBlanks));
 }
 
-std::vector<Word> split(std::string_view line) {
+std::vector<Word> split(std::string_view line, std::size_t most) {
     const std::size_t start = line.find_first_not_of(kBlanks);
     if (start == std::string_view::npos || line[start] == '#') return {};
     if (line.ends_with('\r')) line.remove_suffix(1);
     if (!isUtf8(line)) throw Misunderstood{"the line is not UTF-8", start};
-    return Splitter(line).words();
+    return Splitter(line, most).words();
 }
 
 }  // namespace Orvo::Script

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,8 +36,9 @@ struct Word {
 };
 
 /// The words of a line: none when it is empty or a comment. They point into the line. Throws
-/// Misunderstood.
-std::vector<Word> split(std::string_view line);
+/// Misunderstood, also when there are more than so many.
+std::vector<Word> split(std::string_view line,
+                        std::size_t most = std::numeric_limits<std::size_t>::max());
 
 /// What a line begins with, up to the first blank.
 std::string_view firstWord(std::string_view line);

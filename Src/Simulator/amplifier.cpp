@@ -156,7 +156,9 @@ void Amplifier::addPairs(std::vector<Reading>& readings) const {
 std::vector<ScopeFrame> Amplifier::scopeFrames() const {
     std::vector<ScopeFrame> frames;
     for (Integer i = 1; i <= channelCount(); ++i) {
-        frames.push_back({i, pairs_[pairOf(i)].frame(inPair(i))});
+        const ChannelPair& pair = pairs_[pairOf(i)];
+        const double interval = pair.channel(inPair(i)).sampleInterval();
+        frames.push_back({i, pair.frame(inPair(i)), interval});
     }
     return frames;
 }

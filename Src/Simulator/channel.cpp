@@ -16,6 +16,8 @@ using namespace Figures;
 constexpr double kSignalThreshold = 0.02;
 constexpr double kLineLevel = 0.7;
 
+double secondsOnScope(Signal signal) { return cyclesOnScope(signal) / frequency(signal); }
+
 struct Limits {
     double lower;
     double upper;
@@ -39,7 +41,7 @@ struct Lines {
 
 Lines drawLines(Signal signal) {
     const double cycles = cyclesOnScope(signal);
-    const double seconds = cycles / frequency(signal);
+    const double seconds = secondsOnScope(signal);
     return {scopeLine([&](double place) { return carrier(signal, cycles * place); }),
             scopeLine([&](double place) { return hum(seconds * place); })};
 }
@@ -108,5 +110,7 @@ IntegerArray Channel::frame(const Surroundings& pair) const {
     }
     return scopeFrame(volts);
 }
+
+double Channel::sampleInterval() const { return secondsOnScope(signal_) / (kSamplesPerFrame - 1); }
 
 }  // namespace Orvo::Simulator

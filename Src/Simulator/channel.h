@@ -44,6 +44,8 @@ public:
 
     /// The output as a scope shows it.
     [[nodiscard]] IntegerArray frame(const Surroundings& pair) const;
+    /// From one of its samples to the next, in seconds.
+    [[nodiscard]] double sampleInterval() const;
 
 private:
     [[nodiscard]] bool isOpen(const Surroundings& pair) const;

@@ -93,6 +93,7 @@ struct Status {
 struct ScopeFrame {
     Integer channel = 0;
     IntegerArray samples;
+    double interval = 0;  ///< from one sample to the next, in seconds
 };
 
 /// Lines for the message log.

@@ -73,4 +73,16 @@ private:
     std::string_view rest_;
 };
 
+/// Each line, without its line break.
+template <class Act>
+void forLines(std::string_view text, const Act& act) {
+    for (Bytes lines(text); !lines.isAtEnd();) act(lines.takeUntil('\n'));
+}
+
+/// Whether a line of an answer is the last of it.
+inline bool isClosing(std::string_view answer) {
+    return answer == "ok" || answer.starts_with("= ") || answer.starts_with("! ") ||
+           answer.starts_with("? ");
+}
+
 }  // namespace Orvo::Fuzz

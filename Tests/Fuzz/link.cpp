@@ -1,14 +1,11 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <utility>
 
 #include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 #include "Fuzz/anything.h"
 #include "Manager/Link/link_device.h"
@@ -17,7 +14,7 @@
 #include "Script/recordings.h"
 #include "Script/store_panel.h"
 #include "Script/words.h"
-#include "Support/temporary_directory.h"
+#include "Support/socket_stream.h"
 
 // What a device sends, cut anywhere, while the person in front does something. Each command has
 // one closing line; where the bytes are cut makes no difference; read-only mode that the person has
@@ -31,40 +28,17 @@ using Script::FileDescriptor;
 // No text has such a byte.
 constexpr char kPersonsTurn = '\xFF';
 
-/// Where stations find the device.
-class Exchange {
-public:
-    Exchange() {
-        sockaddr_un name{};
-        name.sun_family = AF_UNIX;
-        std::strncpy(name.sun_path, path().c_str(), sizeof name.sun_path - 1);
-        const auto* const generic = reinterpret_cast<const sockaddr*>(&name);
-        const bool listens =
-            ::bind(listener_.get(), generic, sizeof name) == 0 && ::listen(listener_.get(), 1) == 0;
-        expect(listens, "there is no socket");
-    }
-
-    [[nodiscard]] std::string path() const { return directory_.path() / "link"; }
-    [[nodiscard]] FileDescriptor pickUp() const {
-        return FileDescriptor(::accept4(listener_.get(), nullptr, nullptr, SOCK_NONBLOCK));
-    }
-
-private:
-    Tests::TemporaryDirectory directory_;
-    FileDescriptor listener_{::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0)};
-};
-
 /// A device, and the person in front of the panel that it is connected to.
 class Talk {
 public:
-    explicit Talk(const Exchange& exchange) : path_(exchange.path()) {
+    Talk() {
         station_.connect([this] {
             return std::make_unique<Manager::LinkDevice>(
-                owner_, Manager::LinkAddress{path_}, [this] { return isLocked_; },
+                owner_, Manager::LinkAddress{"/dev/link"}, [this] { return isLocked_; },
+                [this](const Manager::LinkAddress&) { return open(); },
                 [] { return std::chrono::steady_clock::time_point(); });
         });
         station_.advance(0ms);
-        device_ = exchange.pickUp();
     }
 
     void lock() {
@@ -98,6 +72,11 @@ public:
     std::string state() { return Tests::stateOf(owner_); }
 
 private:
+    std::unique_ptr<Manager::ByteStream> open() {
+        auto [near, far] = Tests::SocketStream::makePair();
+        device_ = std::move(far);
+        return std::move(near);
+    }
     void hearAnswers() {
         std::array<char, 4096> piece{};
         for (ssize_t count = 1; count > 0;) {
@@ -110,7 +89,6 @@ private:
         expect(!isLocked_ || isLocked, "the device has ended read-only mode", answers_);
     }
 
-    const std::string path_;
     bool isLocked_ = false;
     bool isCutOff_ = false;
     std::string answers_;
@@ -118,21 +96,9 @@ private:
     Connection renewals_ = owner_.onRenewed([this] {
         if (isLocked_) owner_.panel().ReadOnly(true);
     });
-    Manager::Station station_{owner_};
     FileDescriptor device_;
+    Manager::Station station_{owner_};
 };
-
-std::ptrdiff_t closingLines(const std::string& answers) {
-    std::ptrdiff_t count = 0;
-    for (Bytes lines(answers); !lines.isAtEnd();) {
-        const auto line = lines.takeUntil('\n');
-        count += (line == "ok" || (!line.empty() &&
-                                   std::string_view("=!?").find(line[0]) != std::string_view::npos))
-                     ? 1
-                     : 0;
-    }
-    return count;
-}
 
 bool isCommand(std::string_view line) {
     try {
@@ -142,20 +108,17 @@ bool isCommand(std::string_view line) {
     }
 }
 
-std::ptrdiff_t commands(const std::string& sent) {
-    std::ptrdiff_t count = 0;
-    for (Bytes lines(sent); !lines.isAtEnd();) {
-        count += isCommand(lines.takeUntil('\n')) ? 1 : 0;
-    }
+int count(bool (*isOne)(std::string_view line), std::string_view text) {
+    int count = 0;
+    forLines(text, [&](std::string_view line) { count += isOne(line) ? 1 : 0; });
     return count;
 }
 
 }  // namespace
 
 void attackOverLink(std::string_view input) {
-    static const Exchange kExchange;
-    Talk cut(kExchange);
-    Talk whole(kExchange);
+    Talk cut;
+    Talk whole;
     std::string sent;
     if (input.size() % 2 == 1) {
         cut.lock();
@@ -176,7 +139,7 @@ void attackOverLink(std::string_view input) {
     if (cut.isCutOff() || whole.isCutOff()) return;
     expect(cut.answers() == whole.answers(), "answers that depend on the cuts", cut.answers());
     expect(cut.state() == whole.state(), "a panel that depends on the cuts", cut.answers());
-    expect(closingLines(cut.answers()) == commands(sent), "not one closing line each",
+    expect(count(isClosing, cut.answers()) == count(isCommand, sent), "not one closing line each",
            cut.answers());
 }
 

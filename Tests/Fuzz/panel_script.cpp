@@ -14,11 +14,6 @@ namespace {
 
 using namespace Script;
 
-bool isClosing(std::string_view answer) {
-    return answer == "ok" || answer.starts_with("= ") || answer.starts_with("! ") ||
-           answer.starts_with("? ");
-}
-
 class Interview final : Runtime::Screen {
 public:
     Interview() { look(); }

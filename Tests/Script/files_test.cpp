@@ -13,6 +13,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "Script/bounds.h"
+#include "Script/log_file.h"
 #include "Script/record_file.h"
 #include "Support/approved.h"
 #include "Support/temporary_directory.h"
@@ -114,6 +116,7 @@ TEST_F(FilesTest, WhatIsReadIsARegularFileAndNothingIsWaitedFor) {
     for (const char* name : {"pipe", "directory", "nowhere", "/dev/null"}) {
         EXPECT_THROW(openRegular(directory_.path() / name), std::runtime_error) << name;
     }
+    EXPECT_GE(openReadable(at("pipe")).get(), 0);
 }
 
 TEST_F(FilesTest, WhatIsNotKeptHasNotHappened) {
@@ -139,7 +142,12 @@ TEST_F(FilesTest, ARecordingThatStoppedGoesOnWithNothingLeftOut) {
         std::filesystem::remove(at("session"));
         file.append(big + '\n');
     };
+    const auto onceMoved = [&](RecordFile& file) {
+        std::filesystem::rename(at("session"), at("moved"));
+        file.append(big + '\n');
+    };
     const Row rows[] = {
+        {"The file was removed", "elsewhere", onceMoved},
         {"File too large", "elsewhere", onFullDisk},
         {"File too large", "./session", onFullDisk},
         {"The file was removed", "elsewhere", onceRemoved},
@@ -161,6 +169,77 @@ TEST_F(FilesTest, ARecordingThatStoppedGoesOnWithNothingLeftOut) {
         EXPECT_EQ(file.failure(), std::nullopt) << reason;
         EXPECT_EQ(textIn(at(place)), "first\n" + big + "\nsecond\nthird\n") << reason;
         std::filesystem::remove(at("session"));
+    }
+}
+
+TEST_F(FilesTest, ALogIsKeptInTwoFilesAndWhatTheDiskDoesNotTakeInMemory) {
+    directory_.add({"log.txt = earlier\n"});
+    LogFile log(at("log.txt"), 20);
+    LogFile other(at("log.txt"), 20);
+    for (const char* line : {"one\n", "two\n", "three\n", "four\n"}) {
+        log.append(line);
+        log.flush();
+    }
+    EXPECT_EQ(log.text(), "one\ntwo\nthree\nfour\n");
+    EXPECT_EQ(textIn(at("log.txt.before")), "earlier\none\ntwo\n");
+    EXPECT_EQ(textIn(at("log.txt")), "three\nfour\n");
+    {
+        const FullDisk full(12);
+        log.append("five\n");
+        for (int i = 0; i < 2; ++i) log.flush();
+    }
+    EXPECT_EQ(textIn(at("log.txt")), "three\nfour\n") << "no line is cut off";
+    EXPECT_EQ(log.takeFailure(), at("log.txt") + ": File too large");
+    EXPECT_EQ(log.takeFailure(), std::nullopt);
+    EXPECT_TRUE(log.text().ends_with("four\nfive\n"));
+    log.flush();
+    EXPECT_EQ(textIn(at("log.txt")), "three\nfour\nfive\n");
+    other.append("another's\n");
+    other.flush();
+    EXPECT_EQ(textIn(at("log-2.txt")), "another's\n");
+    for (const char* name : {"link", "pipe", "directory", "nowhere/log"}) {
+        LogFile none(at(name));
+        none.append("kept\n");
+        EXPECT_EQ(std::pair(none.text(), none.takeFailure().has_value()),
+                  std::pair(std::string("kept\n"), name == std::string_view("nowhere/log")))
+            << name;
+    }
+}
+
+TEST_F(FilesTest, ARecordingKeepsSoMuchForAnotherFileAndEndsThere) {
+    RecordFile file(at("session"), Existing::refused);
+    std::filesystem::remove(at("session"));
+    std::string whole;
+    for (int i = 0; whole.size() < 2 * kMostKept; ++i) {
+        const std::string line = std::to_string(i) + std::string(100'000, 'x') + '\n';
+        whole += line;
+        file.append(line);
+        EXPECT_EQ(file.failure(), at("session") + (file.isLost() ? ": No more can be kept"
+                                                                 : ": The file was removed"));
+    }
+    EXPECT_TRUE(file.isLost());
+    file.moveTo(at("elsewhere"), Existing::refused);
+    file.append("not after a gap\n");
+    const std::string kept = textIn(at("elsewhere"));
+    EXPECT_EQ(file.failure(), at("elsewhere") + ": No more can be kept");
+    EXPECT_TRUE(whole.starts_with(kept) && kept.ends_with('\n'));
+    EXPECT_NEAR(double(kept.size()), double(kMostKept), 200'000);
+}
+
+TEST_F(FilesTest, ARecordingThatOthersChangeIsOver) {
+    for (const std::uintmax_t size : {std::uintmax_t{0}, std::uintmax_t{5}, std::uintmax_t{99}}) {
+        RecordFile file(at("session"), Existing::overwritten);
+        file.append("first\nsecond\n");
+        std::filesystem::resize_file(at("session"), size);
+        EXPECT_EQ(file.failure(), at("session") + ": Another program has changed the file");
+        EXPECT_TRUE(file.isChanged());
+    }
+}
+
+TEST_F(FilesTest, ThereIsRoomBesideTheLongestName) {
+    const std::string name(255, 'x');
+    for (const Existing existing : {Existing::refused, Existing::overwritten}) {
+        EXPECT_EQ(refusal(name, existing), "");
     }
 }
 

@@ -22,7 +22,7 @@ protected:
         const Recorder recorder(RecordFile(file_, Existing::overwritten), owner_, answers);
         const std::string heading = textIn(file_);
         act();
-        EXPECT_TRUE(heading.ends_with("\nchronological\n")) << heading;
+        EXPECT_NE(heading.find("\nchronological\n"), std::string::npos) << heading;
         return textIn(file_).substr(heading.size());
     }
 
@@ -72,16 +72,6 @@ TEST_F(RecorderTest, WritesWhatThePersonDoesAndThePanelTakes) {
               "hold ZelvinSlider2\ndrop ZelvinSlider2\n");
 }
 
-TEST_F(RecorderTest, GoesOnWithAFreshPanel) {
-    const std::string text = recorded(Answers::inFull, [this] {
-        store().advance(5ms);
-        owner_.renew();
-        panel().Mute(1, true);
-        click(channel(1).muteButton);
-    });
-    EXPECT_EQ(text, "wait 5\nnew\nlet Mute 1 -1\nclick Command12\n# event Mute 1\n");
-}
-
 TEST_F(RecorderTest, CallsOfAHandlerAreMadeMeanwhile) {
     const std::string text = recorded(Answers::inFull, [this] {
         const auto host = panel().connect([this](Long, std::span<Value>) {
@@ -95,29 +85,11 @@ TEST_F(RecorderTest, CallsOfAHandlerAreMadeMeanwhile) {
               "meanwhile let Mute 1 -1\nmeanwhile let VNPower 1 -5\n# ! 13 Type mismatch\n");
 }
 
-// Each time an event is raised its host does something else, now and then something that raises
-// another.
-TEST_F(RecorderTest, AnEventThatIsRaisedAgainIsAnsweredAnew) {
-    int count = 0;
-    const std::string script = recorded(Answers::inFull, [&] {
-        const auto host = panel().connect([&](Long, std::span<Value>) {
-            if (++count % 3 == 0) return;
-            panel().Mute(1, count % 2 == 0);
-            if (count % 5 == 0) store().perform(Deed::slide(channel(2).volumeSlider, count));
-        });
-        store().perform(Deed::slide(pair(1).testSlider, 40));
-        store().perform(Deed::slide(pair(2).testSlider, 60));
-        for (int position = 1; position < 20; ++position) {
-            store().perform(Deed::slide(channel(1).volumeSlider, position));
-            click(channel(1).muteButton);
-            store().advance(7777ms);
-        }
-    });
-    StorePanel fresh;
-    const std::string answers = answersOn(fresh, "chronological\n" + script);
-    EXPECT_EQ(eventsIn(answers), eventsIn(script));
-    EXPECT_EQ(stateOf(fresh), stateOf(owner_));
-    EXPECT_GT(count, 100) << "events";
+TEST_F(RecorderTest, WhatAFreshPanelCannotBeBroughtToIsTold) {
+    EXPECT_EQ(errorOf([this] { panel().VNPower(1, -5); }), 13) << "the first digit is written";
+    const Recorder recorder(RecordFile(file_, Existing::refused), owner_, Answers::inFull);
+    EXPECT_TRUE(textIn(file_).ends_with(
+        "\nchronological\n# not brought here: LED3 digit visible=true value=0\n"));
 }
 
 TEST_F(RecorderTest, TheFileIsCompleteWhileAPromptIsOpen) {

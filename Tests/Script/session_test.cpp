@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Orvo/store/operation.h"
+#include "Script/bounds.h"
 #include "Script/store_panel.h"
 #include "Script/text_of.h"
 
@@ -73,6 +74,32 @@ TEST_F(SessionTest, CommandsMayBeNestedButNotWithoutEnd) {
     EXPECT_EQ(answersTo(nested(64)), Lines{"ok"});
     EXPECT_EQ(answersTo(nested(65)), Lines{"? this is nested too deeply"});
     EXPECT_EQ(answersTo(nested(100000)), Lines{"? this is nested too deeply"});
+}
+
+TEST_F(SessionTest, KeepsNoMoreThanThereIsRoomFor) {
+    std::string last;
+    Session session(panel, panel, {}, [&last](std::string_view line) { last = line; });
+    const std::string text = ' ' + std::string(100'000, 'x');
+    for (const std::string& command :
+         {"on Mute call TrimStr" + text, "meanwhile call TrimStr" + text, "answer" + text,
+          std::string("meanwhile quit"), std::string("resume")}) {
+        const auto fill = [&] {
+            std::size_t kept = 0;
+            for (session.run(command); last == "ok"; session.run(command)) kept += command.size();
+            EXPECT_EQ(last, "! 7 Out of memory") << command;
+            return kept;
+        };
+        const std::size_t kept = fill();
+        EXPECT_LT(kept, kMostKept) << command;
+        session.run("new");
+        EXPECT_EQ(fill(), kept) << command;
+        session.run("new");
+    }
+    for (int i = 0; i < 20'000; ++i) {
+        session.run("meanwhile get Mute 1");
+        session.run("click Command12");
+    }
+    EXPECT_EQ(last, "ok") << "what is done takes no room";
 }
 
 TEST_F(SessionTest, ALineThatIsNotUtf8IsRefused) {

@@ -18,6 +18,16 @@ using namespace std::chrono_literals;
 
 constexpr auto kPatience = 20s;
 
+int newSocket() { return ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0); }
+
+sockaddr_in loopback(int port) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<in_port_t>(port));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    return address;
+}
+
 short eventOf(int socket, int events, std::chrono::milliseconds patience) {
     pollfd file{socket, static_cast<short>(events), 0};
     return ::poll(&file, 1, static_cast<int>(patience.count())) > 0 ? file.revents : short{0};
@@ -30,10 +40,16 @@ bool canSay(int client, std::string_view text) {
 
 }  // namespace
 
-LoopbackPort::LoopbackPort() : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+bool letsConnect(int port) {
+    sockaddr_in address = loopback(port);
+    const int client = newSocket();
+    const int result = ::connect(client, reinterpret_cast<sockaddr*>(&address), sizeof address);
+    ::close(client);
+    return result == 0;
+}
+
+LoopbackPort::LoopbackPort() : socket_(newSocket()) {
+    sockaddr_in address = loopback(0);
     socklen_t size = sizeof address;
     auto* const generic = reinterpret_cast<sockaddr*>(&address);
     if (::bind(socket_, generic, size) == 0 && ::getsockname(socket_, generic, &size) == 0) {

@@ -6,6 +6,9 @@
 
 namespace Orvo::Tests {
 
+/// Whether somebody listens at a port of the loopback.
+bool letsConnect(int port);
+
 /// A TCP port of the loopback, taken for as long as this is there. Connections are let in, and then
 /// never answered, once it listens; before, they are refused.
 class LoopbackPort {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Orvo/store/shown.h"
 #include "Script/store_panel.h"
 #include "Support/bench.h"
 
@@ -12,9 +13,7 @@ protected:
     Runtime::Store& store() { return owner_.store(); }
     Runtime::UserInput& input() { return store().input(); }
     void click(Widgets::WidgetId widget) { store().perform(Deed::click(widget)); }
-    bool isLit(Widgets::ShapeRef lamp) {
-        return store().get<Runtime::StoredShape>(lamp).state().isLit();
-    }
+    bool isLit(Widgets::ShapeRef lamp) { return Runtime::isLit(store(), lamp); }
 
     Script::StorePanel owner_;
 };

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QHelpEvent>
@@ -63,6 +65,17 @@ bool isAboutFiles(const QWidget* dialog) {
 }
 
 }  // namespace
+
+bool liveOn(int deeds, int deedsBetweenLooks, const std::function<void()>& act,
+            const std::function<void()>& look) {
+    for (int deed = 1; deed <= deeds; ++deed) {
+        act();
+        QApplication::processEvents();
+        if (deed % deedsBetweenLooks == 0) look();
+        if (testing::Test::HasFailure()) return false;
+    }
+    return true;
+}
 
 RandomPerson::RandomPerson(Chance& chance, std::function<void()> meanwhile)
     : chance_(chance), meanwhile_(std::move(meanwhile)) {

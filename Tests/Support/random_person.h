@@ -11,6 +11,10 @@
 
 namespace Orvo::Tests {
 
+/// So many deeds, with a look now and then at what has come of them. False at the first failure.
+bool liveOn(int deeds, int deedsBetweenLooks, const std::function<void()>& act,
+            const std::function<void()>& look);
+
 /// A person who does whatever comes to mind, with mouse and keys as the window system tells of
 /// them, in the window in front; and sooner or later answers every dialog.
 class RandomPerson final : public QObject {

@@ -4,14 +4,11 @@
 #include <string>
 
 #include "Orvo/values/text.h"
-#include "Simulator/internal_data.h"
 
 namespace Orvo::Manager {
 namespace {
 
 using namespace Simulator;
-
-constexpr int kMostLines = 1000;
 
 struct Change {
     Item item;
@@ -19,31 +16,25 @@ struct Change {
     std::string_view whenCleared;
 };
 
-constexpr std::array<Change, 4> kChanges{{
+constexpr std::array<Change, 5> kChanges{{
     {Item::power, "Amplifier on", "Amplifier off"},
     {Item::mains, "Mains present", "Mains failure"},
     {Item::secondPair, "Channels 3 and 4 present", "Channels 3 and 4 missing"},
     {Item::protection, "protection tripped", "protection cleared"},
+    {Item::mute, "muted", "unmuted"},
 }};
 
 }  // namespace
 
 void HostLog::tell(Milliseconds now, std::string_view text) {
-    add(clockText(now) + "  " + std::string(text));
+    add(clock_(now) + "  " + std::string(text));
 }
 
-void HostLog::add(std::string_view line) {
-    if (lines_ == kMostLines) {
-        panel_.CancellaTesto();
-        lines_ = 0;
-    }
-    panel_.AggiugiTesto(fromUtf8(line));
-    ++lines_;
-}
+void HostLog::add(std::string_view line) { panel_.AggiugiTesto(fromUtf8(line)); }
 
 void HostLog::tell(Milliseconds now, const Reading& reading) {
     // The amplifier's own protection follows from that of its channels.
-    const bool isChannel = reading.item == Item::protection;
+    const bool isChannel = reading.item == Item::protection || reading.item == Item::mute;
     if (isChannel && reading.index == 0) return;
     for (const Change& change : kChanges) {
         if (change.item != reading.item) continue;

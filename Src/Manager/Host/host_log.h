@@ -1,6 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <string>
 #include <string_view>
+#include <utility>
 
 #include "Orvo/core/interface.h"
 #include "Simulator/figures.h"
@@ -8,24 +11,25 @@
 
 namespace Orvo::Manager {
 
-/// What the host writes into the panel's message log. It begins afresh before the log gets too
-/// long, as the panel keeps every line.
+/// What time it is, when the host has lived for so long.
+using HostClock = std::function<std::string(Simulator::Milliseconds life)>;
+
+/// What the host writes into the panel's message log.
 class HostLog {
 public:
-    explicit HostLog(MarvaneAssistantInterface& panel) : panel_(panel) {}
+    HostLog(MarvaneAssistantInterface& panel, HostClock clock)
+        : panel_(panel), clock_(std::move(clock)) {}
 
-    /// A line with the time of the host's life before it.
+    /// A line with the time before it.
     void tell(Simulator::Milliseconds now, std::string_view text);
     /// A line as it is.
     void add(std::string_view line);
     /// A reading that changed, if it is one that is worth a line.
     void tell(Simulator::Milliseconds now, const Simulator::Reading& reading);
-    /// The panel has emptied the log.
-    void emptied() { lines_ = 0; }
 
 private:
     MarvaneAssistantInterface& panel_;
-    int lines_ = 0;
+    const HostClock clock_;
 };
 
 }  // namespace Orvo::Manager

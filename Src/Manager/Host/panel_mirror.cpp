@@ -65,9 +65,14 @@ PanelMirror::Effect PanelMirror::show(const Reading& reading) {
 
 void PanelMirror::show(const ScopeFrame& frame) {
     const auto [shown, isNew] = frames_.try_emplace(frame.channel);
-    if (!isNew && shown->second == frame.samples) return;
-    shown->second = frame.samples;
-    panel_.DisegnaFormaDOnda(frame.channel, frame.samples);
+    const bool isShown = !isNew && shown->second.samples == frame.samples;
+    shown->second = frame;
+    if (!isShown) panel_.DisegnaFormaDOnda(frame.channel, frame.samples);
+}
+
+std::optional<double> PanelMirror::sampleInterval(Integer channel) const {
+    const auto frame = frames_.find(channel);
+    return frame != frames_.end() ? std::optional(frame->second.interval) : std::nullopt;
 }
 
 void PanelMirror::clearSecondPair() {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "Orvo/core/interface.h"
@@ -21,6 +22,8 @@ public:
     Effect show(const Simulator::Reading& reading);
     /// The same for a frame of a scope.
     void show(const Simulator::ScopeFrame& frame);
+    /// Of the last frame of a channel.
+    [[nodiscard]] std::optional<double> sampleInterval(Integer channel) const;
     /// Nothing is lit, measured or drawn any more of a second pair that is missing. Its volumes
     /// stay: there is none that means nothing.
     void clearSecondPair();
@@ -41,7 +44,7 @@ private:
 
     MarvaneAssistantInterface& panel_;
     std::map<std::pair<Simulator::Item, Integer>, Shown> readings_;
-    std::map<Integer, IntegerArray> frames_;
+    std::map<Integer, Simulator::ScopeFrame> frames_;
 };
 
 }  // namespace Orvo::Manager

@@ -1,18 +1,17 @@
 #include "Manager/Host/request_text.h"
 
-#include <array>
 #include <cstddef>
 #include <string_view>
 #include <variant>
+
+#include "Manager/Station/signal_names.h"
 
 namespace Orvo::Manager {
 namespace {
 
 using namespace Simulator;
 
-// In the order of the signals.
-constexpr std::array<std::string_view, kSignalCount> kSignalNames{"100 Hz", "1 kHz", "10 kHz",
-                                                                  "EIAJ", "Line in"};
+static_assert(kSignalNames.size() == kSignalCount);
 
 std::string numbered(std::string_view what, Integer number) {
     return std::string(what) + ' ' + std::to_string(number) + ": ";
@@ -37,7 +36,9 @@ std::string text(const StartGenerator& request) {
 }
 
 std::string text(const SetVirtualTemperature& request) {
-    return numbered("Pair", request.pair) + std::to_string(request.degrees) + " C";
+    const std::string channels = request.pair == 1 ? "Channels 1 and 2: " : "Channels 3 and 4: ";
+    const std::string degrees = "thermal test at " + std::to_string(request.degrees) + " °C";
+    return channels + (request.degrees == 0 ? "thermal test ended" : degrees);
 }
 
 std::string text(const SetInformation& /*request*/) { return "Information"; }

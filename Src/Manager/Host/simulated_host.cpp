@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <variant>
 
 #include "Manager/Host/request_text.h"
@@ -12,7 +13,8 @@ namespace Orvo::Manager {
 using namespace Simulator;
 using namespace LinkFigures;
 
-SimulatedHost::SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed, PowerAtStart power)
+SimulatedHost::SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed, PowerAtStart power,
+                             HostClock clock)
     : panel_(panel),
       seed_(seed),
       link_(panel.IdDevice(), seed, power),
@@ -23,7 +25,7 @@ SimulatedHost::SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed, PowerA
                         " dB instead of " + std::to_string(asked) + " dB");
                }),
       quickTest_(panel),
-      log_(panel),
+      log_(panel, std::move(clock)),
       connection_(panel.connect(*this)) {
     disconnect();
 }
@@ -72,7 +74,17 @@ void SimulatedHost::VolumeChange(Integer& intChannel, Integer& intVolume) {
 
 // Not awaited: the panel repeats it as long as the test lasts.
 void SimulatedHost::SetTemp(Integer& intChannel, Integer& intValue) {
-    if (isConnected_) link_.send(SetVirtualTemperature{intChannel, intValue});
+    if (!isConnected_) return;
+    const SetVirtualTemperature request{intChannel, intValue};
+    link_.send(request);
+    follow(thermalTests_.at(std::size_t(intChannel - 1)), request);
+}
+
+// A slider that is on its way is not worth a line for each step.
+void SimulatedHost::follow(ThermalTest& test, const SetVirtualTemperature& request) {
+    const bool isSteady = std::exchange(test.asked, request.degrees) == request.degrees;
+    if (!isSteady && request.degrees != 0) return;
+    if (std::exchange(test.told, request.degrees) != request.degrees) tell(describe(request));
 }
 
 void SimulatedHost::WaveForm(Integer& intNChannel, Integer& intTypeWaveForm, Integer& intPosNeg) {
@@ -88,7 +100,6 @@ void SimulatedHost::GeneralInformations(Integer& /*intIdDevice*/, String& strInf
 }
 
 void SimulatedHost::ChangeAmpId(Integer& intIdDevice) {
-    log_.emptied();
     disconnect();
     mirror_.forget();
     status_ = {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -13,6 +14,7 @@
 #include "Manager/Station/device.h"
 #include "Orvo/core/marvane_assistant.h"
 #include "Simulator/fault.h"
+#include "Simulator/internal_data.h"
 #include "Simulator/message.h"
 #include "Simulator/simulated_link.h"
 
@@ -30,12 +32,14 @@ namespace Orvo::Manager {
 /// - nothing is waited for for ever: in the end a question is asked again, but an order is given
 ///   up, and the log says so.
 ///
-/// The same seed, panel and calls give the same life. It ends before the panel does, and is used
+/// The same seed, panel and calls give the same life, which is the clock of its log unless there is
+/// another. It ends before the panel does, and is used
 /// on the panel's thread.
 class SimulatedHost final : public Device, private MarvaneAssistantEvents {
 public:
     explicit SimulatedHost(MarvaneAssistant& panel, std::uint32_t seed = 1,
-                           Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
+                           Simulator::PowerAtStart power = Simulator::PowerAtStart::on,
+                           HostClock clock = Simulator::clockText);
 
     [[nodiscard]] std::string name() const override;
 
@@ -55,6 +59,9 @@ public:
     /// tenths of a second at most when all is well.
     [[nodiscard]] std::optional<Simulator::Milliseconds> sinceLastWord() const override {
         return isConnected_ ? std::optional(now_ - lastWord_) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<double> sampleInterval(Integer channel) const override {
+        return mirror_.sampleInterval(channel);
     }
     /// How long the host has lived.
     [[nodiscard]] Simulator::Milliseconds now() const { return now_; }
@@ -103,7 +110,15 @@ private:
     Simulator::Milliseconds lastSound_{0};
     Simulator::Milliseconds lastWord_{0};
 
+    // Of a pair: what was asked for last, and what the log says of it.
+    struct ThermalTest {
+        Integer asked = 0;
+        Integer told = 0;
+    };
+    void follow(ThermalTest& test, const Simulator::SetVirtualTemperature& request);
+
     AwaitedRequests awaited_;
+    std::array<ThermalTest, 2> thermalTests_;
     Simulator::Status status_;
     PanelMirror mirror_;
     VolumeSliders sliders_;

@@ -1,35 +1,13 @@
 #include "Manager/Link/link_address.h"
 
-#include <algorithm>
-#include <array>
 #include <charconv>
-#include <string_view>
-#include <utility>
-
-#include <termios.h>
 
 namespace Orvo::Manager {
 namespace {
 
-constexpr auto kSpeeds = std::to_array<std::pair<unsigned, speed_t>>({
-    {300, B300},
-    {600, B600},
-    {1200, B1200},
-    {2400, B2400},
-    {4800, B4800},
-    {9600, B9600},
-    {19200, B19200},
-    {38400, B38400},
-    {57600, B57600},
-    {115200, B115200},
-    {230400, B230400},
-#ifdef B460800
-    {460800, B460800},
-#endif
-#ifdef B921600
-    {921600, B921600},
-#endif
-});
+constexpr std::string_view kDigits = "0123456789";
+constexpr std::string_view kParities = "NEOMS";  // in the order of Parity
+constexpr std::string_view kUsualFormat = "8N1";
 
 std::optional<unsigned> numberIn(std::string_view text) {
     unsigned number = 0;
@@ -39,24 +17,53 @@ std::optional<unsigned> numberIn(std::string_view text) {
     return number;
 }
 
+// A number, and perhaps a comma with more.
+bool isMeantForLine(std::string_view text) {
+    const auto rest = text.find_first_not_of(kDigits);
+    return !text.empty() && rest != 0 && (rest == std::string_view::npos || text[rest] == ',');
+}
+
+bool isFormat(std::string_view text) {
+    return text.size() == 3 && text[0] >= '5' && text[0] <= '8' &&
+           kParities.find(text[1]) != std::string_view::npos && (text[2] == '1' || text[2] == '2');
+}
+
+unsigned digit(char character) { return static_cast<unsigned>(character - '0'); }
+
 }  // namespace
 
-std::optional<unsigned> speedConstant(unsigned bitsPerSecond) {
-    const auto* row = std::find_if(kSpeeds.begin(), kSpeeds.end(),
-                                   [&](const auto& speed) { return speed.first == bitsPerSecond; });
-    if (row == kSpeeds.end()) return std::nullopt;
-    return row->second;
+std::optional<LineSettings> LineSettings::read(std::string_view text) {
+    const auto comma = text.find(',');
+    const auto speed = numberIn(text.substr(0, comma));
+    const auto format = comma == std::string_view::npos ? kUsualFormat : text.substr(comma + 1);
+    if (!speed || *speed < kSlowest || *speed > kFastest || !isFormat(format)) return std::nullopt;
+    return LineSettings{.speed = *speed,
+                        .dataBits = digit(format[0]),
+                        .parity = static_cast<Parity>(kParities.find(format[1])),
+                        .stopBits = digit(format[2])};
+}
+
+std::string LineSettings::text() const {
+    const std::string format = this->format();
+    return std::to_string(speed) + (format == kUsualFormat ? "" : ',' + format);
+}
+
+std::string LineSettings::format() const {
+    return std::to_string(dataBits) + kParities[static_cast<std::size_t>(parity)] +
+           std::to_string(stopBits);
 }
 
 std::optional<LinkAddress> LinkAddress::read(const std::string& text) {
-    const std::size_t at = text.rfind('@');
-    const auto speed =
-        at == std::string::npos ? std::nullopt : numberIn(std::string_view(text).substr(at + 1));
-    LinkAddress address{speed ? text.substr(0, at) : text, speed};
-    if (address.path.empty() || (speed && !speedConstant(*speed))) return std::nullopt;
+    const auto at = text.rfind('@');
+    const std::string line = at == std::string::npos ? "" : text.substr(at + 1);
+    if (!isMeantForLine(line)) {
+        return text.empty() ? std::nullopt : std::optional(LinkAddress{text});
+    }
+    LinkAddress address{text.substr(0, at), LineSettings::read(line)};
+    if (address.path.empty() || !address.line) return std::nullopt;
     return address;
 }
 
-std::string LinkAddress::text() const { return speed ? path + '@' + std::to_string(*speed) : path; }
+std::string LinkAddress::text() const { return line ? path + '@' + line->text() : path; }
 
 }  // namespace Orvo::Manager

@@ -6,8 +6,7 @@
 #include <system_error>
 #include <utility>
 
-#include "Orvo/layout/roles.h"
-#include "Orvo/store/stored_widgets.h"
+#include "Script/message_log.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -22,35 +21,50 @@ constexpr std::size_t kPiece = 16384;  // bytes
 constexpr std::size_t kMuchUnread = 65536;  // bytes
 
 constexpr const Member& kReadOnlyLet = memberNamed<Boolean>("ReadOnly");
-constexpr const Member& kAddToLog = memberNamed<String>("AggiugiTesto");
 
-// The only one, as the panel takes it.
-template <class Type>
-Type argument(const Script::Call& call, const Member& member) {
-    return std::get<Type>(convert(call.arguments.front(), member.parameters().front().type));
-}
+struct Trouble {
+    std::errc reason;
+    const char* words;
+};
+
+constexpr auto kTroubles = std::to_array<Trouble>({
+    {std::errc::no_such_file_or_directory, "not there"},
+    {std::errc::not_a_directory, "not there"},
+    {std::errc::no_such_device, "not there"},
+    {std::errc::no_such_device_or_address, "not there"},
+    {std::errc::permission_denied, "you may not open it"},
+    {std::errc::operation_not_permitted, "you may not open it"},
+    {std::errc::device_or_resource_busy, "in use by another program"},
+    {std::errc::inappropriate_io_control_operation, "no serial device, pipe or socket"},
+    {std::errc::connection_refused, "nobody listens there"},
+    {std::errc::resource_unavailable_try_again, "whoever listens there is busy"},
+    {std::errc::not_supported, "no such speed or format on this device"},
+    {std::errc::io_error, "the device does not work"},
+});
 
 std::string troubleOf(std::error_code reason) {
-    if (reason == std::errc::no_such_file_or_directory) return "not there";
-    const bool isOfAnotherKind = reason == std::errc::inappropriate_io_control_operation;
-    return isOfAnotherKind ? "no serial device, pipe or socket" : reason.message();
+    const auto* row = std::find_if(kTroubles.begin(), kTroubles.end(),
+                                   [&](const Trouble& each) { return reason == each.reason; });
+    return row != kTroubles.end() ? row->words : reason.message();
 }
 
 }  // namespace
 
 LinkDevice::LinkDevice(Script::PanelOwner& owner, LinkAddress address, ReadOnlyLock isLocked,
-                       Clock clock)
+                       OpenStream open, Clock clock)
     : owner_(owner),
       address_(std::move(address)),
       isLocked_(std::move(isLocked)),
+      open_(std::move(open)),
       clock_(std::move(clock)),
       session_(owner, *this, kGrammar, [this](std::string_view line) { say(line); }) {
     owner_.panel().Connected(false);
 }
 
 std::string LinkDevice::name() const {
-    const std::string speed = address_.speed ? " at " + std::to_string(*address_.speed) : "";
-    return "Link to " + address_.path + speed + (port_ ? "" : " (" + trouble_ + ")");
+    const std::string line = address_.line ? " at " + address_.line->text() : "";
+    const std::string state = trouble_.empty() ? "opening" : trouble_ + ", trying again";
+    return "Link to " + address_.path + line + (isOpen() ? "" : " (" + state + ")");
 }
 
 // A handler that waits lets time pass within time that passes. When memory runs out an answer may
@@ -59,8 +73,8 @@ void LinkDevice::advance(std::chrono::milliseconds elapsed) {
     if (silence_) *silence_ += elapsed;
     if (isListening_) return;
     untilTry_ -= elapsed;
-    if (port_ == nullptr && untilTry_ <= 0ms) tryToOpen();
-    if (port_ == nullptr) return;
+    if (stream_ == nullptr && untilTry_ <= 0ms) tryToOpen();
+    if (stream_ == nullptr) return;
     isListening_ = true;
     try {
         if (!isBroken_) listen();
@@ -73,28 +87,19 @@ void LinkDevice::advance(std::chrono::milliseconds elapsed) {
 
 // What is no argument of the member is for the panel to refuse.
 void LinkDevice::permit(const Script::Call& call) {
-    const Member& member = findMember(call.dispatchId, call.kind);
-    if (call.arguments.size() != member.parameterCount) return;
-    if (&member == &kReadOnlyLet && isLocked_()) {
-        const bool isKept = argument<Boolean>(call, member) == Boolean(true);
-        if (!isKept) throw Errors::permissionDenied();
-    }
-    if (&member == &kAddToLog) {
-        session_.expectRoomFor(sizeof(String) +
-                               sizeof(char16_t) * argument<String>(call, member).size());
-    }
+    const bool isMode = &findMember(call.dispatchId, call.kind) == &kReadOnlyLet &&
+                        call.arguments.size() == kReadOnlyLet.parameterCount;
+    if (!isMode || !isLocked_()) return;
+    const bool isKept = Script::argumentOf<Boolean>(call, kReadOnlyLet) == Boolean(true);
+    if (!isKept) throw Errors::permissionDenied();
 }
 
-std::size_t LinkDevice::keptElsewhere() const {
-    const auto& log = owner_.store().get<Runtime::StoredList>(Layout::kCommon.log).state();
-    return lines_.size() + unsent_.size() + log.items.size() * sizeof(String) +
-           log.text * sizeof(char16_t);
-}
+std::size_t LinkDevice::keptElsewhere() const { return lines_.size() + unsent_.size(); }
 
 void LinkDevice::tryToOpen() {
     untilTry_ = kBetweenTries;
     try {
-        port_ = std::make_unique<LinkPort>(address_);
+        stream_ = open_(address_);
     } catch (const std::system_error& failure) {
         trouble_ = troubleOf(failure.code());
     } catch (const std::bad_alloc&) {
@@ -105,7 +110,7 @@ void LinkDevice::tryToOpen() {
 void LinkDevice::close() {
     session_.forgetHandlers();
     owner_.panel().Connected(false);
-    port_.reset();
+    stream_.reset();
     lines_ = {};
     unsent_.clear();
     isBroken_ = false;
@@ -129,7 +134,7 @@ void LinkDevice::listen() {
 
 bool LinkDevice::hear() {
     std::array<char, kPiece> bytes{};
-    const auto count = port_->read(bytes);
+    const auto count = stream_->read(bytes);
     isBroken_ = isBroken_ || !count;
     if (!count || *count == 0) return false;
     lines_.add({bytes.data(), *count});
@@ -143,14 +148,14 @@ void LinkDevice::answer(const LineSplitter::Line& line) {
 }
 
 void LinkDevice::say(std::string_view line) {
-    if (isBroken_ || port_ == nullptr) return;
+    if (isBroken_ || stream_ == nullptr) return;
     unsent_.append(line).append("\n");
     isBroken_ = unsent_.size() > kMostUnread;
 }
 
 void LinkDevice::flush() {
     if (unsent_.empty()) return;
-    const auto count = port_->write(unsent_);
+    const auto count = stream_->write(unsent_);
     isBroken_ = isBroken_ || !count;
     unsent_.erase(0, count.value_or(0));
 }

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "Manager/Link/byte_stream.h"
 #include "Manager/Link/line_splitter.h"
-#include "Manager/Link/link_port.h"
 #include "Manager/Station/device.h"
 #include "Script/session.h"
 
@@ -21,7 +21,7 @@ namespace Orvo::Manager {
 /// Nothing that the other side does holds up the window: it is heard for a moment at a time, what
 /// it answers an event with is ended, a line beyond LineSplitter::kLongestLine is refused as a
 /// whole, and whoever doesn't read the answers is cut off. All that is kept of what it said, the
-/// panel's message log included, has Session::kMostKept bytes; error 7 beyond. What the person in
+/// panel's message log included, has Script::kMostKept bytes; error 7 beyond. What the person in
 /// front has made read-only stays so: error 70.
 class LinkDevice final : public Device, private Script::Supervisor {
 public:
@@ -35,13 +35,17 @@ public:
     using ReadOnlyLock = std::function<bool()>;
 
     LinkDevice(Script::PanelOwner& owner, LinkAddress address, ReadOnlyLock isLocked,
-               Clock clock = std::chrono::steady_clock::now);
+               OpenStream open, Clock clock = std::chrono::steady_clock::now);
 
     [[nodiscard]] std::string name() const override;
     void advance(std::chrono::milliseconds elapsed) override;
     [[nodiscard]] std::optional<std::chrono::milliseconds> sinceLastWord() const override {
         return silence_;
     }
+
+    [[nodiscard]] bool isOpen() const { return stream_ != nullptr; }
+    /// Why it could not be opened, or is open no more, in words; empty before the first try.
+    [[nodiscard]] const std::string& trouble() const { return trouble_; }
 
 private:
     void permit(const Script::Call& call) override;
@@ -59,15 +63,16 @@ private:
     Script::PanelOwner& owner_;
     const LinkAddress address_;
     const ReadOnlyLock isLocked_;
+    const OpenStream open_;
     const Clock clock_;
     // Hears the panel's events from the beginning, as every device does.
     Script::Session session_;
     std::optional<std::chrono::milliseconds> silence_;  // none before a link's first word
     std::chrono::milliseconds untilTry_{0};
-    std::string trouble_ = "not there";  // why the link is not open, when it isn't
+    std::string trouble_;
 
     // While the link is open.
-    std::unique_ptr<LinkPort> port_;
+    std::unique_ptr<ByteStream> stream_;
     LineSplitter lines_;
     std::string unsent_;
     bool isBroken_ = false;

@@ -1,6 +1,7 @@
 #include "Manager/Session/manager_session.h"
 
 #include <filesystem>
+#include <new>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -8,36 +9,68 @@
 #include "Manager/Link/link_device.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/stored_widgets.h"
+#include "Script/present_state.h"
 
 namespace Orvo::Manager {
 namespace {
 
 using namespace std::chrono_literals;
 
+constexpr auto kKept =
+    "What happens from now on is kept until there is another file for the recording.";
+constexpr auto kNothing = "What happens from now on is not recorded.";
+constexpr auto kLost =
+    "What happens from now on is lost. What has happened until now can be kept in another file.";
+
+// Nobody above would know what to do: what there is no memory for is left out.
+template <class Act>
+void asFarAsMemoryGoes(const Act& act) {
+    try {
+        act();
+    } catch (const std::bad_alloc&) {
+    } catch (const Error& error) {
+        if (error.number() != Errors::kOutOfMemory.number()) throw;
+    }
+}
+
 std::string nameOf(const std::string& file) {
     return std::filesystem::path(file).filename().string();
 }
 
+std::string clock() { return timeOfDay(std::chrono::system_clock::now()); }
+
 }  // namespace
 
 ManagerSession::ManagerSession(Script::PanelOwner& owner, Script::Person& person,
-                               SessionSettings settings, SessionObserver& observer)
+                               SessionSettings settings, SessionObserver& observer,
+                               OpenStream openStream)
     : owner_(owner),
       person_(person),
       settings_(std::move(settings)),
       observer_(observer),
-      recorder_(settings_.record.empty()
-                    ? nullptr
-                    : std::make_unique<Script::Recorder>(
-                          Script::RecordFile(settings_.record, settings_.existing), owner,
-                          settings_.answers)),
-      station_(owner, [this](const std::string& what) { observer_.say(what); }) {
+      openStream_(std::move(openStream)),
+      recorder_(owner, settings_.answers),
+      log_(owner, settings_.log),
+      station_(owner, [this](const std::string& what) { say(what); }) {
+    if (!settings_.record.empty()) {
+        recorder_.start(Script::RecordFile(settings_.record, settings_.existing));
+    }
+    station_.conversation().setClock(clock);
     serveFreshPanels();
     listenToErrors();
-    setReadOnly(settings_.isReadOnly);
+    if (settings_.isReadOnly) setReadOnly(true);
+    log_.add("The program has started");
 }
 
-ManagerSession::~ManagerSession() { owner_.panel().setErrorHandler({}); }
+ManagerSession::~ManagerSession() {
+    owner_.panel().setErrorHandler({});
+    log_.flush();
+}
+
+void ManagerSession::say(const std::string& message) {
+    log_.add(message);
+    observer_.say(message);
+}
 
 // After the recorder, which is to hear what a fresh panel is told.
 void ManagerSession::serveFreshPanels() {
@@ -56,17 +89,32 @@ void ManagerSession::setReadOnly(bool isReadOnly) {
 
 void ManagerSession::listenToErrors() {
     owner_.panel().setErrorHandler([this](const Error& error) {
-        station_.conversation().failed(error);
-        observer_.say("Error " + std::to_string(error.number()) + ": " + error.what());
+        asFarAsMemoryGoes([&] {
+            station_.conversation().failed(error);
+            say("Error " + std::to_string(error.number()) + ": " + error.what());
+        });
     });
 }
 
 void ManagerSession::letPass(std::chrono::milliseconds time) {
-    if (!isReplaying()) owner_.store().advance(time);
-    station_.advance(time);
-    endHourglass(time);
-    endReplayThatIsOver();
-    watchRecording();
+    asFarAsMemoryGoes([&] {
+        if (!isReplaying()) owner_.store().advance(time);
+        station_.advance(time);
+        endHourglass(time);
+        endReplayThatIsOver();
+        watchRecording();
+        keepLog();
+    });
+}
+
+// The simulator's host leaves it to its program how much the panel shows; a link's keeps house
+// itself, and so does a script.
+void ManagerSession::keepLog() {
+    const bool isLinkUp = station_.situation().isLinkUp;
+    if (std::exchange(wasLinkUp_, isLinkUp) != isLinkUp && !isReplaying())
+        log_.add(isLinkUp ? "Link up" : "Link down");
+    if (simulator() != nullptr) log_.shorten();
+    if (const auto reason = log_.flush()) say("The log is in memory alone: " + *reason);
 }
 
 // The panel leaves it to its host to take the hourglass away again: when the amplifier has spoken
@@ -79,30 +127,42 @@ void ManagerSession::endHourglass(std::chrono::milliseconds time) {
     const bool isAwaited = station_.isConnected() && silence >= hourglass_ && silence < kStaleAfter;
     if (isAwaited || isReplaying()) return;
     store.mousePointer().setPointer(Widgets::Pointer::standard);
-    if (isRecording()) recorder_->pointerIsSet();
+    recorder_.pointerIsSet();
 }
 
 void ManagerSession::connectSimulator(Simulator::PowerAtStart power) {
     stopReplay();
-    station_.connect([this, power] {
-        return std::make_unique<SimulatedHost>(owner_.panel(), settings_.seed, power);
+    connect([this, power] {
+        return std::make_unique<SimulatedHost>(owner_.panel(), settings_.seed, power,
+                                               [](auto) { return clock(); });
     });
 }
 
 void ManagerSession::connectLink(const LinkAddress& address) {
     stopReplay();
-    station_.connect([this, address] {
-        return std::make_unique<LinkDevice>(owner_, address, [this] { return isKeptReadOnly_; });
+    connect([this, address] {
+        return std::make_unique<LinkDevice>(
+            owner_, address, [this] { return isKeptReadOnly_; }, openStream_);
     });
+}
+
+void ManagerSession::connect(const Station::DeviceMaker& make) {
+    station_.connect(make);
+    log_.add("Connecting: " + station_.device()->name());
 }
 
 void ManagerSession::connectNothing() {
     stopReplay();
+    if (station_.isConnected()) log_.add("Disconnecting: " + station_.device()->name());
     station_.disconnect();
 }
 
 SimulatedHost* ManagerSession::simulator() const {
     return dynamic_cast<SimulatedHost*>(station_.device());
+}
+
+const LinkDevice* ManagerSession::link() const {
+    return dynamic_cast<const LinkDevice*>(station_.device());
 }
 
 // Where nothing can be recorded, nothing is given up.
@@ -115,55 +175,53 @@ void ManagerSession::startRecording(const std::string& file) {
     }
     stopReplay();
     stopRecording();
-    const bool wasReadOnly = isReadOnly();
-    const auto tab = owner_.store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current;
-    recorder_ = std::make_unique<Script::Recorder>(std::move(*made), owner_, settings_.answers);
-    serveFreshPanels();
-    station_.startAnew();
-    if (wasReadOnly && !isReadOnly()) owner_.panel().ReadOnly(true);
-    owner_.store().perform(Runtime::Deed::tab(Layout::kTabs.id, tab));
-    observer_.say("Recording from a fresh start to " + nameOf(file));
+    recorder_.start(std::move(*made));
+    for (const std::string& generator : station_.generators()) {
+        if (generator.empty()) continue;
+        recorder_.file().append("# " + std::string(Script::kNotBrought) + generator + '\n');
+    }
+    say("Recording to " + nameOf(file));
 }
 
 void ManagerSession::stopRecording() {
-    const bool wasRecording = recorder_ != nullptr;
+    const bool wasRecording = recorder_.isRecording();
     const auto reason = endRecording();
     if (!wasRecording) return;
-    if (!reason) return observer_.say("The session is recorded");
-    observer_.warn({"Not all is recorded", "The end of the session is not recorded.", *reason});
+    if (!reason) return say("The session is recorded");
+    observer_.warn({"Not all is recorded", "Not all of the session is recorded.", *reason});
 }
 
 std::optional<std::string> ManagerSession::endRecording() {
-    if (recorder_ == nullptr) return std::nullopt;
-    recorder_->writeWait();
-    auto reason = recorder_->file().failure();
-    recorder_.reset();
-    hasStopped_ = false;
+    if (!recorder_.isRecording()) return std::nullopt;
+    recorder_.writeWait();
+    auto reason = recorder_.file().failure();
+    recorder_.stop();
+    stopReason_.reset();
     return reason;
 }
 
 void ManagerSession::watchRecording() {
-    if (!isRecording()) return;
-    const auto reason = recorder_->file().failure();
-    if (!reason) return;
-    hasStopped_ = true;
-    observer_.say("The recording stopped: " + *reason);
-    observer_.recordingStopped({"The recording stopped",
-                                "What happens from now on is kept until there is another file for "
-                                "the recording.",
-                                *reason});
+    if (!recorder_.isRecording()) return;
+    Script::RecordFile& file = recorder_.file();
+    const auto reason = file.failure();
+    if (!reason || reason == stopReason_) return;
+    stopReason_ = reason;
+    say("The recording stopped: " + *reason);
+    if (file.isChanged()) return observer_.warn({"The recording ended", kNothing, *reason});
+    observer_.recordingStopped({"The recording stopped", file.isLost() ? kLost : kKept, *reason});
 }
 
 void ManagerSession::continueRecording(const std::string& file) {
     if (!hasRecordingStopped()) return;
     try {
-        recorder_->file().moveTo(file, Script::Existing::overwritten);
+        recorder_.file().moveTo(file, Script::Existing::overwritten);
     } catch (const std::runtime_error& failure) {
         return observer_.recordingStopped(
             {"Not recorded", "The recording can't go on there.", failure.what()});
     }
-    hasStopped_ = false;
-    observer_.say("The recording goes on in " + nameOf(file));
+    if (recorder_.file().isLost()) return stopRecording();
+    stopReason_.reset();
+    say("The recording goes on in " + nameOf(file));
 }
 
 void ManagerSession::startReplay(const std::string& file) {
@@ -173,20 +231,20 @@ void ManagerSession::startReplay(const std::string& file) {
         return observer_.warn({"Not replayed", "The session can't be read.", failure.what()});
     }
     stopRecording();
-    station_.connect([this, file] { return std::make_unique<Replay>(owner_, person_, file); });
+    log_.mark("Replayed: ");
+    connect([this, file] { return std::make_unique<Replay>(owner_, person_, file); });
     owner_.renew();
 }
 
 void ManagerSession::stopReplay() {
     if (!isReplaying()) return;
     station_.disconnect();
+    log_.mark("");
     if (isKeptReadOnly_) owner_.panel().ReadOnly(true);
-    observer_.say("The replay is over");
+    say("The replay is over");
 }
 
-const Replay* ManagerSession::replay() const {
-    return dynamic_cast<const Replay*>(station_.device());
-}
+Replay* ManagerSession::replay() const { return dynamic_cast<Replay*>(station_.device()); }
 
 void ManagerSession::endReplayThatIsOver() {
     const Replay* replay = this->replay();

@@ -3,15 +3,19 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "Manager/Host/simulated_host.h"
-#include "Manager/Link/link_address.h"
+#include "Manager/Link/pipe_stream.h"
 #include "Manager/Session/replay.h"
+#include "Manager/Session/session_log.h"
 #include "Manager/Station/station.h"
 #include "Script/recorder.h"
 
 namespace Orvo::Manager {
+
+class LinkDevice;
 
 struct SessionSettings {
     std::uint32_t seed = 1;                                 ///< the simulator's
@@ -19,6 +23,7 @@ struct SessionSettings {
     std::string record{};                                   ///< a file; empty: none
     Script::Existing existing = Script::Existing::refused;  ///< what has the file's name already
     Script::Answers answers = Script::Answers::asCancelled;
+    std::string log{};  ///< the file of the session's log; empty: it is in memory alone
 };
 
 /// What a person wanted and couldn't have; in UTF-8.
@@ -40,13 +45,13 @@ public:
 
 /// What a person works with while the program runs: the panel, what plays its host, and what is
 /// kept of it. One thing at a time plays the host: what is connected ends a replay, and a replay
-/// ends a recording.
+/// ends a recording. Nothing else ends one.
 class ManagerSession final {
 public:
-    /// All must live as long. Throws std::runtime_error when the session is to be recorded in a
-    /// file that can't be made.
+    /// All must live as long; `openStream` is what opens a link. Throws std::runtime_error when the
+    /// session is to be recorded in a file that can't be made.
     ManagerSession(Script::PanelOwner& owner, Script::Person& person, SessionSettings settings,
-                   SessionObserver& observer);
+                   SessionObserver& observer, OpenStream openStream = openPipe);
     ~ManagerSession();
     ManagerSession(const ManagerSession&) = delete;
     ManagerSession& operator=(const ManagerSession&) = delete;
@@ -58,26 +63,30 @@ public:
     void connectSimulator(Simulator::PowerAtStart power = Simulator::PowerAtStart::on);
     void connectLink(const LinkAddress& address);
     void connectNothing();
-    /// Null when it isn't what is connected.
+    /// Each is null when it isn't what is connected.
     [[nodiscard]] SimulatedHost* simulator() const;
+    [[nodiscard]] const LinkDevice* link() const;
 
-    /// From a fresh panel on, to which what is connected is connected anew; the tab in front stays.
-    /// A file that is there already is overwritten.
+    /// From what the panel shows on, which the file begins with. One that is there already is
+    /// overwritten.
     void startRecording(const std::string& file);
     void stopRecording();
     /// Why the recording isn't whole, if so.
     std::optional<std::string> endRecording();
-    [[nodiscard]] bool isRecording() const { return recorder_ != nullptr && !hasStopped_; }
+    [[nodiscard]] bool isRecording() const { return recorder_.isRecording() && !stopReason_; }
 
     /// The recording takes no more, because of its file. It waits for another one, until it is
-    /// stopped, and goes on there with nothing left out.
-    [[nodiscard]] bool hasRecordingStopped() const { return hasStopped_; }
+    /// stopped, and goes on there with nothing left out; or ends there, when that would leave a
+    /// gap. One that others have changed only waits for its end.
+    [[nodiscard]] bool hasRecordingStopped() const { return stopReason_.has_value(); }
     void continueRecording(const std::string& file);
 
     /// On a fresh panel, with nothing else connected.
     void startReplay(const std::string& file);
     void stopReplay();
     [[nodiscard]] bool isReplaying() const { return replay() != nullptr; }
+    /// Null when none is going on.
+    [[nodiscard]] Replay* replay() const;
 
     /// As the person in front wants it: then no device ends it, nor does a fresh panel but for a
     /// replay's.
@@ -86,11 +95,17 @@ public:
 
     [[nodiscard]] Station& station() { return station_; }
 
+    /// In UTF-8: every line that the message log had since the program started, what was connected,
+    /// recorded and replayed, with the time before each.
+    [[nodiscard]] std::string log() const { return log_.text(); }
+
 private:
+    void say(const std::string& message);
+    void connect(const Station::DeviceMaker& make);
+    void keepLog();
     void serveFreshPanels();
     void takeFreshPanel();
     void listenToErrors();
-    [[nodiscard]] const Replay* replay() const;
     void endHourglass(std::chrono::milliseconds time);
     void endReplayThatIsOver();
     void watchRecording();
@@ -99,8 +114,11 @@ private:
     Script::Person& person_;
     const SessionSettings settings_;
     SessionObserver& observer_;
-    std::unique_ptr<Script::Recorder> recorder_;  // null when nothing is recorded
-    bool hasStopped_ = false;
+    const OpenStream openStream_;
+    Script::Recorder recorder_;
+    std::optional<std::string> stopReason_;  // of the recording
+    SessionLog log_;
+    bool wasLinkUp_ = false;
     Station station_;
     Connection renewals_;
     bool isKeptReadOnly_ = false;             // as the person wants it

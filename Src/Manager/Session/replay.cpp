@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <stdexcept>
 #include <utility>
 
 #include "Script/files.h"
+#include "Simulator/internal_data.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -34,26 +36,56 @@ Replay::Replay(Script::PanelOwner& owner, Script::Person& person,
     : clock_(std::move(clock)),
       file_(opened(script)),
       person_(person),
-      session_(
-          owner, *this,
-          {.speaker = Script::Grammar::Speaker::recording, .place = Script::Place::inWindow},
-          [](std::string_view) {}, Script::UnawaitedErrors::areTheOwners),
-      script_(session_, script.filename().string()) {}
+      session_(owner, *this,
+               {.speaker = Script::Grammar::Speaker::recording, .place = Script::Place::inWindow},
+               {}, Script::UnawaitedErrors::areTheOwners),
+      script_(session_, script.filename().string()),
+      length_(script) {}
 
+std::string Replay::position() const {
+    const auto total = length_.total();
+    return Simulator::clockText(played_) + (total ? " of " + Simulator::clockText(*total) : "") +
+           ", " + (isPaused_ ? "paused" : std::string(speed_->name)) + ", line " +
+           std::to_string(script_.lineNumber());
+}
+
+std::chrono::milliseconds Replay::atSpeed(std::chrono::milliseconds elapsed) {
+    const auto quarters = elapsed.count() * speed_->quarters + quarters_;
+    quarters_ = static_cast<int>(quarters % kRealTime.quarters);
+    return std::chrono::milliseconds(quarters / kRealTime.quarters);
+}
+
+// All that is done in the midst of something in one moment has that moment's time.
 void Replay::advance(std::chrono::milliseconds elapsed) {
+    length_.look();
+    if (isPaused_) return;
+    startMidst();
+    isPlaying_ = true;
+    try {
+        play(atSpeed(elapsed));
+    } catch (const std::bad_alloc&) {
+        complaint_ = Errors::kOutOfMemory.description();
+    }
+    isPlaying_ = false;
+    if (isOutOfTime_) {
+        complaint_ =
+            script_.placed("more is done in the midst of a command than there is time for");
+    }
+    isOver_ = isOver_ || complaint_;
+}
+
+void Replay::play(std::chrono::milliseconds elapsed) {
     const auto now = clock_();
     while (!isOver_ && clock_() < now + kLongestMoment) {
         const auto step = std::min(elapsed, left_);
         person_.wait(step);
         elapsed -= step;
         left_ -= step;
+        played_ += step;
         if (left_ > 0ms) break;
         goOn();
-        isOver_ = isOver_ || complaint_ || session_.hasQuit();
+        isOver_ = isOver_ || complaint_ || isOutOfTime_ || session_.hasQuit();
     }
-    if (!isOutOfTime_) return;
-    isOver_ = true;
-    complaint_ = script_.placed("more is done in the midst of a command than there is time for");
 }
 
 // A handler's wait is over when the handler goes on; the script's own takes its time.
@@ -69,7 +101,9 @@ void Replay::wait(std::chrono::milliseconds time) {
     }
 }
 
-void Replay::startMidst() { endOfPatience_ = clock_() + kPatience; }
+void Replay::startMidst() {
+    if (!isPlaying_) endOfPatience_ = clock_() + kPatience;
+}
 
 bool Replay::hasTime() {
     isOutOfTime_ = isOutOfTime_ || clock_() >= endOfPatience_;

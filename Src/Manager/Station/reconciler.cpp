@@ -6,7 +6,7 @@
 
 #include "Orvo/core/event_table.h"
 #include "Orvo/monitor/volume.h"
-#include "Orvo/store/stored_widgets.h"
+#include "Orvo/store/shown.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -62,8 +62,7 @@ void Reconciler::advance(Milliseconds elapsed, Hearing hearing) {
 
 // The lamp is the host's alone. A key flips a button without asking.
 void Reconciler::reconcilePower() {
-    const auto& lamp = owner_.store().get<Runtime::StoredShape>(Layout::kCommon.powerLamp);
-    const Boolean isOn = lamp.state().isLit();
+    const Boolean isOn = Runtime::isLit(owner_.store(), Layout::kCommon.powerLamp);
     const Integer differing = countOfButtonsThatDiffer(bool(isOn));
     if (differing == 0) isPowerAsked_ = false;
     if (!isOverdue(power_, differing, 0, isPowerAsked_ ? answerIsDue() : 0ms)) return;

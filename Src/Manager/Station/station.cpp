@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "Orvo/layout/roles.h"
-#include "Orvo/store/stored_widgets.h"
+#include "Orvo/store/shown.h"
 
 namespace Orvo::Manager {
 Station::Station(Script::PanelOwner& owner, Reconciler::Tell tell)
@@ -18,15 +18,13 @@ Station::Station(Script::PanelOwner& owner, Reconciler::Tell tell)
     plugIn(nullptr);
 }
 
-void Station::connect(DeviceMaker make) {
+void Station::connect(const DeviceMaker& make) {
     disconnect();
-    makeDevice_ = std::move(make);
-    plugIn(makeDevice_());
+    plugIn(make());
 }
 
 void Station::disconnect() {
     if (!isConnected()) return;
-    makeDevice_ = {};
     plugIn(nullptr);
     owner_.panel().Connected(false);
 }
@@ -34,6 +32,7 @@ void Station::disconnect() {
 void Station::plugIn(std::unique_ptr<Device> device) {
     noteLastWord();
     device_ = std::move(device);
+    notices_.startAnew();
     connectedAt_ = now_;
     hearAfterDevice();
     renewalsAfterDevice_ = owner_.onRenewed([this] { hearAfterDevice(); });
@@ -42,6 +41,7 @@ void Station::plugIn(std::unique_ptr<Device> device) {
 void Station::takeFreshPanel() {
     conversation_.startAnew();
     traces_.startAnew();
+    notices_.startAnew();
     reconciler_.startAnew();
     lastWord_.reset();
     hearBeforeDevice();
@@ -55,6 +55,7 @@ void Station::hearBeforeDevice() {
     beforeDevice_ = panel.connect([this](Long dispatchId, std::span<Value> arguments) {
         conversation_.raised(dispatchId, arguments);
         reconciler_.raised(dispatchId);
+        if (hearing() == Hearing::device) notices_.raised(dispatchId, arguments);
     });
 }
 
@@ -63,17 +64,15 @@ void Station::hearAfterDevice() {
         owner_.panel().connect([this](Long, std::span<Value>) { conversation_.handled(); });
 }
 
-void Station::startAnew() {
-    device_.reset();
-    owner_.renew();
-    if (makeDevice_) plugIn(makeDevice_());
-}
-
 void Station::advance(Milliseconds elapsed) {
     now_ += elapsed;
+    // There may have been no memory for it when the panel was fresh.
+    if (!beforeDevice_.isConnected()) hearBeforeDevice();
+    if (!afterDevice_.isConnected()) hearAfterDevice();
     conversation_.setTime(now_);
     if (isConnected()) device_->advance(elapsed);
     noteLastWord();
+    noteIntervals();
     reconciler_.advance(elapsed, hearing());
 }
 
@@ -91,10 +90,22 @@ void Station::noteLastWord() {
     if (hearing() == Hearing::device) lastWord_ = now_ - *device_->sinceLastWord();
 }
 
+std::optional<std::vector<Notice>> Station::notices() const {
+    if (!statusText(situation()).veil.empty()) return std::nullopt;
+    return notices_.on(owner_.store());
+}
+
+// What was drawn by one that is silent, or gone, keeps the time that it had.
+void Station::noteIntervals() {
+    if (hearing() != Hearing::device) return;
+    for (Integer channel = 1; channel <= kChannels; ++channel) {
+        traces_.setInterval(channel, device_->sampleInterval(channel));
+    }
+}
+
 Situation Station::situation() const {
-    const auto& lamp = owner_.store().get<Runtime::StoredShape>(Layout::kCommon.linkLamp);
     return {.connectedTo = isConnected() ? device_->name() : "",
-            .isLinkUp = lamp.state().isLit(),
+            .isLinkUp = Runtime::isLit(owner_.store(), Layout::kCommon.linkLamp),
             .isHeard = hearing() == Hearing::device,
             .connectedFor = now_ - connectedAt_,
             .silence = silence()};

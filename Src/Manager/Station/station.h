@@ -8,6 +8,7 @@
 #include "Manager/Station/conversation.h"
 #include "Manager/Station/device.h"
 #include "Manager/Station/event_log.h"
+#include "Manager/Station/notices.h"
 #include "Manager/Station/reconciler.h"
 #include "Manager/Station/status_text.h"
 #include "Manager/Station/traces.h"
@@ -27,17 +28,18 @@ public:
         Script::PanelOwner& owner, Reconciler::Tell tell = [](const std::string&) {});
 
     /// One device at a time: what was connected is disconnected first.
-    void connect(DeviceMaker make);
+    void connect(const DeviceMaker& make);
     /// The panel shows that the link is down, and for the rest what it showed last.
     void disconnect();
     [[nodiscard]] bool isConnected() const { return device_ != nullptr; }
     /// Null when nothing is connected.
     [[nodiscard]] Device* device() const { return device_.get(); }
-    /// A fresh panel, to which what is connected is connected as if for the first time.
-    void startAnew();
 
     void advance(Milliseconds elapsed);
     [[nodiscard]] Situation situation() const;
+    /// Null while nothing is known of the amplifier.
+    [[nodiscard]] std::optional<std::vector<Notice>> notices() const;
+    [[nodiscard]] const auto& generators() const { return notices_.generators(); }
 
     [[nodiscard]] Conversation& conversation() { return conversation_; }
     [[nodiscard]] EventLog& log() { return log_; }
@@ -51,13 +53,14 @@ private:
     [[nodiscard]] Hearing hearing() const;
     [[nodiscard]] std::optional<Milliseconds> silence() const;
     void noteLastWord();
+    void noteIntervals();
 
     Script::PanelOwner& owner_;
     EventLog log_;
     Conversation conversation_{log_};
     Traces traces_;
+    Notices notices_;
     Reconciler reconciler_;
-    DeviceMaker makeDevice_;
     Milliseconds now_{0};
     Milliseconds connectedAt_{0};
     std::optional<Milliseconds> lastWord_;  // when

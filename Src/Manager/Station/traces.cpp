@@ -2,11 +2,10 @@
 
 #include <charconv>
 #include <cstddef>
+#include <utility>
 
-#include "Orvo/generator/grid.h"
 #include "Orvo/layout/roles.h"
 #include "Orvo/store/stored_widgets.h"
-#include "Orvo/widgets/trace.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -22,18 +21,58 @@ constexpr int kPictureHeight =
     Layout::describe(Layout::channel(1).scope).place.height / Layout::kTwipsPerPixel;
 constexpr float kSurfaceHeight = kPictureHeight - 2 * Runtime::kPictureBorder;
 
-double voltsOf(Integer sample) {
-    return voltsAt(Widgets::traceY(sample, double{kSurfaceHeight}), kSurfaceHeight);
-}
-
-std::string withTwoDecimals(double value) {
+template <class... Format>
+std::string text(double value, Format... format) {
     std::array<char, 64> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
-                                   std::chars_format::fixed, 2);
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, format...);
     return {digits.data(), end.ptr};
 }
 
+std::string withTwoDecimals(double value) { return text(value, std::chars_format::fixed, 2); }
+std::string withSixDigits(double value) { return text(value, std::chars_format::general, 6); }
+
+std::string headerOf(std::span<const ScopeTrace> traces) {
+    std::string header = "# level (V) = " + withSixDigits(scopeScale().atZero) + " + sample * " +
+                         withSixDigits(scopeScale().perCount) + '\n';
+    for (const ScopeTrace& trace : traces) {
+        header += "# channel " + std::to_string(trace.channel) + ": " +
+                  (trace.interval ? withSixDigits(*trace.interval) + " s from sample to sample"
+                                  : "time unknown") +
+                  '\n';
+    }
+    return header + "channel,index,time (s),sample (counts),level (V)\n";
+}
+
+std::string lineOf(const ScopeTrace& trace, std::size_t place) {
+    const Integer sample = trace.drawn()[place];
+    const auto time = static_cast<double>(place) * trace.interval.value_or(0);
+    return std::to_string(trace.channel) + ',' + std::to_string(place + 1) + ',' +
+           (trace.interval ? withSixDigits(time) : "") + ',' + std::to_string(sample) + ',' +
+           withTwoDecimals(scopeScale().volts(sample)) + '\n';
+}
+
 }  // namespace
+
+std::span<const Integer> ScopeTrace::drawn() const { return samples.elementsFrom(kFirstDrawn); }
+std::optional<WaveFigures> ScopeTrace::figures() const {
+    return waveFigures(drawn(), scopeScale());
+}
+
+const SampleScale& scopeScale() {
+    static const SampleScale scale = sampleScale(kSurfaceHeight);
+    return scale;
+}
+
+Traces::Traces() {
+    for (std::size_t i = 0; i < traces_.size(); ++i) {
+        traces_[i].channel = static_cast<Integer>(i + 1);
+    }
+}
+
+void Traces::startAnew() {
+    for (ScopeTrace& trace : traces_) trace.samples = {};
+    ++revision_;
+}
 
 void Traces::called(const Member& member, std::span<const Value> arguments) {
     if (&member == &kDrawTrace) {
@@ -45,20 +84,22 @@ void Traces::called(const Member& member, std::span<const Value> arguments) {
 }
 
 void Traces::draw(Integer channel, const IntegerArray& samples) {
-    if (isChannel(channel)) samples_[at(channel)] = samples;
+    if (!isChannel(channel)) return;
+    traces_[at(channel)].samples = samples;
+    ++revision_;
 }
 
-const IntegerArray& Traces::samples(Integer channel) const { return samples_[at(channel)]; }
-bool Traces::has(Integer channel) const {
-    return !samples(channel).elementsFrom(kFirstDrawn).empty();
+void Traces::setInterval(Integer channel, std::optional<double> interval) {
+    if (std::exchange(traces_[at(channel)].interval, interval) != interval) ++revision_;
 }
 
-std::string traceCsv(const IntegerArray& samples) {
-    const auto values = samples.elementsFrom(kFirstDrawn);
-    std::string csv = "index,sample (counts),level (V)\n";
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        csv += std::to_string(i + 1) + ',' + std::to_string(values[i]) + ',' +
-               withTwoDecimals(voltsOf(values[i])) + '\n';
+const ScopeTrace& Traces::trace(Integer channel) const { return traces_[at(channel)]; }
+bool Traces::has(Integer channel) const { return !trace(channel).drawn().empty(); }
+
+std::string traceCsv(std::span<const ScopeTrace> traces) {
+    std::string csv = headerOf(traces);
+    for (const ScopeTrace& trace : traces) {
+        for (std::size_t i = 0; i < trace.drawn().size(); ++i) csv += lineOf(trace, i);
     }
     return csv;
 }

@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <string>
 
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -17,8 +19,8 @@
 #include "Manager/Window/manager_window.h"
 #include "Manager/Window/pictures.h"
 #include "Orvo/layout/roles.h"
+#include "Orvo/store/shown.h"
 #include "Orvo/store/store.h"
-#include "Orvo/store/stored_widgets.h"
 
 namespace Orvo::Manager {
 namespace {
@@ -35,11 +37,17 @@ void say(const QString& line) {
     std::fflush(stdout);
 }
 
+// Not everybody can put something there.
+bool isOurs(const QFileInfo& directory) {
+    return directory.isDir() && !directory.isSymLink() && directory.ownerId() == ::geteuid() &&
+           !directory.permission(QFile::WriteOther);
+}
+
 // Where whoever built the program finds them, else where nobody has to clean up, in a directory
 // that nobody else has made. A link may lead to another's files.
 QDir pictureDirectory() {
     const QFileInfo build("build");
-    if (build.isDir() && !build.isSymLink()) return {build.filePath()};
+    if (isOurs(build) && isOurs(QFileInfo("."))) return {build.filePath()};
     QTemporaryDir fresh(QDir::tempPath() + "/marvane-manager-XXXXXX");
     fresh.setAutoRemove(false);
     if (!fresh.isValid()) throw std::runtime_error(fresh.errorString().toStdString());
@@ -47,8 +55,12 @@ QDir pictureDirectory() {
 }
 
 class Demonstration {
+    Q_DECLARE_TR_FUNCTIONS(Orvo::Manager::Demonstration)
+
 public:
-    explicit Demonstration(const Options& options) : window_(options) {}
+    explicit Demonstration(const Options& options) : window_(options) {
+        window_.setZoom(options.zoom.value_or(kPlainZoom));
+    }
 
     void run();
 
@@ -58,7 +70,7 @@ private:
     void play();
     void savePictures();
 
-    void waitFor(const char* what, const std::function<bool()>& isDone);
+    void waitFor(const QString& what, const std::function<bool()>& isDone);
     void letPass(std::chrono::milliseconds time);
     [[nodiscard]] bool isLit(Widgets::ShapeRef lamp);
     void click(Widgets::ButtonRef button) { store().perform(Runtime::Deed::click(button)); }
@@ -81,21 +93,21 @@ void Demonstration::run() {
 }
 
 void Demonstration::comeUp() {
-    waitFor("the link", [this] { return isLit(Layout::kCommon.linkLamp); });
-    waitFor("the mains", [this] { return isLit(Layout::pair(1).mainsLamp); });
+    waitFor(tr("the link"), [this] { return isLit(Layout::kCommon.linkLamp); });
+    waitFor(tr("the mains"), [this] { return isLit(Layout::pair(1).mainsLamp); });
 }
 
 void Demonstration::switchOn() {
     click(Layout::kCommon.powerButton);
-    waitFor("the power", [this] { return isLit(Layout::kCommon.powerLamp); });
+    waitFor(tr("the power"), [this] { return isLit(Layout::kCommon.powerLamp); });
     for (const auto& pair : Layout::kPairs) {
-        waitFor("both pairs to be ready", [&] { return isLit(pair.readyLamp); });
+        waitFor(tr("both pairs to be ready"), [&] { return isLit(pair.readyLamp); });
     }
 }
 
 void Demonstration::play() {
     for (const auto& pair : Layout::kPairs) click(pair.startButton);
-    waitFor("the traces", [this] {
+    waitFor(tr("the traces"), [this] {
         return window_.session().station().traces().has(1) &&
                window_.session().station().traces().has(3);
     });
@@ -111,28 +123,27 @@ void Demonstration::savePictures() {
     }
 }
 
-void Demonstration::waitFor(const char* what, const std::function<bool()>& isDone) {
+void Demonstration::waitFor(const QString& what, const std::function<bool()>& isDone) {
     const QDeadlineTimer deadline(kPatience);
     while (!isDone()) {
         if (deadline.hasExpired())
-            throw std::runtime_error(std::string("waited in vain for ") + what);
+            throw std::runtime_error(tr("waited in vain for %1").arg(what).toStdString());
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }
 
 void Demonstration::letPass(std::chrono::milliseconds time) {
     const QDeadlineTimer end(time);
-    waitFor("the time to pass", [&] { return end.hasExpired(); });
+    waitFor(tr("the time to pass"), [&] { return end.hasExpired(); });
 }
 
-bool Demonstration::isLit(Widgets::ShapeRef lamp) {
-    return store().get<Runtime::StoredShape>(lamp).state().isLit();
-}
+bool Demonstration::isLit(Widgets::ShapeRef lamp) { return Runtime::isLit(store(), lamp); }
 
 }  // namespace
 
 int demonstrate(const Options& options) {
-    say("marvane-manager: no display here, so a short demonstration runs offscreen. Pictures:");
+    say("marvane-manager: " +
+        Demonstration::tr("no display here, so a short demonstration runs offscreen. Pictures:"));
     try {
         Demonstration(options).run();
         return 0;

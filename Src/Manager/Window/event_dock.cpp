@@ -8,17 +8,20 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "Orvo/window/drawing/shown_text.h"
+
 namespace Orvo::Manager {
 namespace {
 
-constexpr int kWidth = 46;  // characters
+constexpr int kNarrowest = 24;  // characters
 
 // More would be noticed where lines are long; the rest comes with the next time.
 constexpr std::uint64_t kMostAtOnce = 400;
 
-QString joined(const std::deque<std::string>& lines, std::uint64_t from, std::uint64_t count) {
+QString shownLines(const std::deque<std::string>& lines, std::uint64_t from, std::uint64_t count) {
     QStringList texts;
-    for (std::uint64_t i = 0; i < count; ++i) texts += QString::fromStdString(lines[from + i]);
+    for (std::uint64_t i = 0; i < count; ++i)
+        texts += Window::shown(QString::fromStdString(lines[from + i]));
     return texts.join('\n');
 }
 
@@ -37,7 +40,7 @@ QWidget* rowOf(const QList<QAction*>& actions) {
 
 QPlainTextEdit* makeLines() {
     auto* lines = new QPlainTextEdit;
-    lines->setAccessibleName("Events");
+    lines->setAccessibleName(EventDock::tr("Events"));
     lines->setReadOnly(true);
     lines->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     lines->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -45,14 +48,14 @@ QPlainTextEdit* makeLines() {
     lines->setTabChangesFocus(true);
     lines->setMaximumBlockCount(int(EventLog::kMostLines));
     lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    lines->setMinimumWidth(lines->fontMetrics().horizontalAdvance(QString(kWidth, '0')));
+    lines->setMinimumWidth(lines->fontMetrics().horizontalAdvance(QString(kNarrowest, '0')));
     return lines;
 }
 
 }  // namespace
 
 EventDock::EventDock(const EventLog& log, const QList<QAction*>& actions, QWidget* parent)
-    : QDockWidget("Events", parent), log_(log), actions_(actions) {
+    : QDockWidget(tr("Events"), parent), log_(log), actions_(actions) {
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
 }
 
@@ -101,11 +104,15 @@ void EventDock::append() {
     const auto missing = std::min<std::uint64_t>(log_.added() - shown_, lines.size());
     const auto count = std::min<std::uint64_t>(missing, kMostAtOnce);
     const bool wasNewestShown = showsNewest();
-    if (count > 0) lines_->appendPlainText(joined(lines, lines.size() - missing, count));
+    if (count > 0) lines_->appendPlainText(shownLines(lines, lines.size() - missing, count));
     if (wasNewestShown) showNewest();
     shown_ = log_.added() - missing + count;
 }
 
-QString EventDock::text() const { return joined(log_.lines(), 0, log_.lines().size()); }
+QString EventDock::text() const {
+    QStringList texts;
+    for (const std::string& line : log_.lines()) texts += QString::fromStdString(line);
+    return texts.join('\n');
+}
 
 }  // namespace Orvo::Manager

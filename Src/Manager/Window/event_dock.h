@@ -10,6 +10,8 @@ namespace Orvo::Manager {
 /// The event view: the log's lines beside the panel, the newest in sight from its first letter on
 /// unless a person has scrolled up.
 class EventDock final : public QDockWidget {
+    Q_OBJECT
+
 public:
     /// The actions stand above the lines.
     EventDock(const EventLog& log, const QList<QAction*>& actions, QWidget* parent = nullptr);

@@ -1,5 +1,6 @@
 #include "Manager/Window/files.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -11,6 +12,10 @@
 namespace Orvo::Manager {
 namespace {
 
+class FileDialogs {
+    Q_DECLARE_TR_FUNCTIONS(Orvo::Manager::FileDialogs)
+};
+
 using Use = std::function<void(const QString& path)>;
 using Otherwise = std::function<void()>;
 
@@ -18,8 +23,8 @@ using Otherwise = std::function<void()>;
 // window.
 void askToOverwrite(QWidget& window, const QString& path, const Otherwise& agreed,
                     const Otherwise& refused) {
-    auto* box = new QMessageBox(QMessageBox::Question, "Overwrite the file?",
-                                "There is a file of this name already.",
+    auto* box = new QMessageBox(QMessageBox::Question, FileDialogs::tr("Overwrite the file?"),
+                                FileDialogs::tr("There is a file of this name already."),
                                 QMessageBox::Yes | QMessageBox::No, &window);
     explain(*box, path);
     QObject::connect(box, &QDialog::finished, &window, [agreed, refused](int answer) {
@@ -37,9 +42,12 @@ void askForFile(QWidget& window, const FileQuestion& question, const Use& use,
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->setAcceptMode(question.mode);
     const bool isOpening = question.mode == QFileDialog::AcceptOpen;
-    dialog->setFileMode(isOpening ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    // Whoever opens one that is not there says so: a box of the toolkit has a loop of its own, from
+    // which it comes back to a dialog that may be gone.
+    dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setDefaultSuffix(question.ending);
-    dialog->setNameFilters({question.kind + " (*." + question.ending + ")", "All files (*)"});
+    dialog->setNameFilters(
+        {question.kind + " (*." + question.ending + ")", FileDialogs::tr("All files (*)")});
     dialog->setDirectory(question.directory.isEmpty() ? QDir::homePath() : question.directory);
     dialog->selectFile(question.name);
     QObject::connect(dialog, &QFileDialog::fileSelected, &window,

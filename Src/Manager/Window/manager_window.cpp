@@ -3,15 +3,20 @@
 #include <algorithm>
 #include <chrono>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
+#include <QWindow>
 
+#include "Manager/Ports/open_link.h"
 #include "Manager/Window/warning.h"
 #include "Orvo/ports/machine_platform.h"
+#include "Orvo/window/drawing/scale.h"
 #include "Orvo/window/drawing/shown_text.h"
 
 namespace Orvo::Manager {
@@ -26,21 +31,24 @@ constexpr qint64 kLongestTick = 1000;
 
 }  // namespace
 
-ManagerWindow::ManagerWindow(const Options& options)
+ManagerWindow::ManagerWindow(const Options& options, QSettings* settings)
     : options_(options),
+      settings_(settings),
+      contrast_(contrastOf(QApplication::palette())),
       // Whoever plays the host here, a device or a session's file, may not make the window wait.
       // What is recorded must tick in the replay as it did here, and that can begin at any time.
       panel_(new Window::PanelWidget(Runtime::machinePlatform(Runtime::PrintServers::leftAlone),
                                      this, Window::Clock::byHand)),
       zoomArea_(new ZoomArea(*panel_, this)),
       statusLine_(new StatusLine),
+      notices_(new NoticeBar([this](Widgets::WidgetId widget) { leadTo(widget); }, this)),
+      fullScreenExit_(new QToolButton),
       owner_(*panel_),
-      session_(owner_, owner_, options.session, *this),
+      session_(owner_, owner_, options.session, *this, openLink),
       menus_(new Menus(*this)),
       events_(new EventDock(session_.station().log(), menus_->eventActions(), this)) {
     layOut();
-    selectTab(options.tab);
-    zoomArea_->setZoom(options.zoom);
+    takeUp(choicesOfLastTime());
     startClock();
     refresh();
 }
@@ -66,9 +74,15 @@ void ManagerWindow::layOut() {
     setCentralWidget(zoomArea_);
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addPermanentWidget(statusLine_, 1);
+    addToolBar(Qt::BottomToolBarArea, notices_);
     addDockWidget(Qt::RightDockWidgetArea, events_);
     events_->hide();
-    connect(events_, &QDockWidget::topLevelChanged, this, &ManagerWindow::adaptSize);
+    events_->setObjectName("Events");
+    fullScreenExit_->setText(tr("Leave full screen"));
+    fullScreenExit_->setObjectName("Leave full screen");
+    fullScreenExit_->hide();
+    statusBar()->addPermanentWidget(fullScreenExit_);
+    connect(fullScreenExit_, &QToolButton::clicked, this, [this] { setFullScreen(false); });
 }
 
 void ManagerWindow::startClock() {
@@ -87,9 +101,11 @@ void ManagerWindow::advance() {
 
 void ManagerWindow::open() {
     refresh();
-    adaptSize();
+    restoreGeometry(geometry_) ? keepOnScreen() : adaptSize();
     show();
+    connect(windowHandle(), &QWindow::screenChanged, this, &ManagerWindow::keepOnScreen);
     if (options_.isFullScreen) setFullScreen(true);
+    if (opensScopes_) showScopes(true);
 }
 
 void ManagerWindow::refresh() {
@@ -104,36 +120,60 @@ void ManagerWindow::showSituation() {
     const StatusText text = statusText(session_.station().situation());
     statusLine_->showText(text);
     zoomArea_->veil(QString::fromStdString(text.veil));
+    notices_->show(session_.station().notices());
     // A status bar doesn't hand on by itself what a line in it needs.
     statusBar()->setMinimumWidth(statusLine_->minimumSizeHint().width());
-    const QString title =
-        Window::asTitle(QString::fromStdString(text.connection)) + " - Marvane Manager";
+    QString title =
+        tr("%1 - Marvane Manager").arg(Window::asTitle(QString::fromStdString(text.connection)));
     const QString recording = recordingText();
-    setWindowTitle((text.isStale ? "Old values: " : "") + recording +
-                   (recording.isEmpty() ? "" : ": ") + title);
+    if (!recording.isEmpty()) title = tr("%1: %2").arg(recording, title);
+    setWindowTitle(text.isStale ? tr("Old values: %1").arg(title) : title);
 }
 
 QString ManagerWindow::recordingText() const {
-    if (session_.hasRecordingStopped()) return "Recording stopped";
-    return session_.isRecording() ? "Recording" : "";
+    if (session_.hasRecordingStopped()) return tr("Recording stopped");
+    return session_.isRecording() ? tr("Recording") : "";
+}
+
+void ManagerWindow::leadTo(Widgets::WidgetId widget) {
+    selectTab(Window::pageOf(widget) + 1);
+    if (QWidget* control = panel_->control(widget)) control->setFocus(Qt::TabFocusReason);
 }
 
 void ManagerWindow::showModes() {
     QStringList modes;
-    if (session_.isReadOnly()) modes += "Read-only";
+    if (session_.isReadOnly()) modes += tr("Read-only");
     if (!recordingText().isEmpty()) modes += recordingText();
+    if (const auto* replay = session_.replay()) modes += QString::fromStdString(replay->position());
     statusLine_->showMode(modes.join(", "));
 }
 
-// As large as the panel needs, where the screen has room for it.
+// What the desktop adds around the window isn't known before it is shown.
+QSize ManagerWindow::largestSize() const {
+    const QSize likely(8, style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8);
+    return screen()->availableSize() - (frameGeometry().size() - size()).expandedTo(likely);
+}
+
+// At the first start: as large as the panel needs, where the screen has room for it.
 void ManagerWindow::adaptSize() {
-    if (isFullScreen() || isMaximized()) return;
+    if (!zoomArea_->chosenZoom()) zoomArea_->suit(largestSize());
     layout()->activate();
-    const QSize frame = frameGeometry().size() - size();
-    resize(zoomArea_->bounded(sizeHint(), screen()->availableSize() - frame));
+    resize(zoomArea_->bounded(sizeHint(), largestSize()));
+}
+
+void ManagerWindow::keepOnScreen() {
+    if (isFullScreen() || isMaximized()) return;
+    resize(size().boundedTo(largestSize()));
+    const QRect room = screen()->availableGeometry();
+    const QPoint last = room.bottomRight() - QPoint(frameSize().width(), frameSize().height());
+    const auto within = [](int place, int first, int end) {
+        return std::max(first, std::min(place, end + 1));
+    };
+    move(within(x(), room.left(), last.x()), within(y(), room.top(), last.y()));
 }
 
 void ManagerWindow::closeEvent(QCloseEvent* event) {
+    if (settings_ != nullptr) keep(choices(), *settings_);
     session_.stopReplay();
     tick_.stop();
     refreshes_.stop();

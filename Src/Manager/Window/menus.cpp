@@ -5,6 +5,8 @@
 
 #include "Manager/Window/manager_window.h"
 #include "Orvo/layout/common_tab.h"
+#include "Orvo/layout/roles.h"
+#include "Orvo/service/information_entry.h"
 #include "Orvo/store/store.h"
 #include "Orvo/store/stored_widgets.h"
 #include "Simulator/fault.h"
@@ -53,73 +55,57 @@ void Menus::enableWhile(QAction* action, const Condition& condition) {
     refreshes_.emplace_back([action, condition] { action->setEnabled(condition()); });
 }
 
-void Menus::addFileMenu() {
-    auto* menu = addMenu("&File");
-    add(menu, "Save &picture of the panel…", "Ctrl+S", [this] { window_.savePicture(); });
-    addChannels(menu->addMenu("Save picture of a &scope"), "Ctrl+G",
-                [this](Integer channel) { window_.saveScopePicture(channel); });
-    addChannels(menu->addMenu("Save samples of a &trace"), "Ctrl+T",
-                [this](Integer channel) { window_.saveTrace(channel); });
-    menu->addSeparator();
-    add(menu, "&Copy message log", "Ctrl+L", [this] { window_.copyMessageLog(); });
-    add(menu, "Save message &log…", "Ctrl+Shift+L", [this] { window_.saveMessageLog(); });
-    menu->addSeparator();
-    addSessions(menu);
-    menu->addSeparator();
-    add(menu, "&Quit", "Ctrl+Q", [this] { window_.close(); })->setMenuRole(QAction::QuitRole);
-}
-
-void Menus::addSessions(QMenu* menu) {
-    const auto record = [this](bool isOn) {
-        isOn ? window_.askForRecording() : session_.stopRecording();
-    };
-    const auto replay = [this](bool isOn) {
-        isOn ? window_.askForReplay() : session_.stopReplay();
-    };
-    const auto isReplaying = [this] { return session_.isReplaying(); };
-    addSwitch(menu, "&Record a session…", "F3", record, [this] { return session_.isRecording(); });
-    addSwitch(menu, "R&eplay a session…", "F5", replay, isReplaying);
-    enableWhile(add(menu, "St&op the replay", "Esc", [this] { session_.stopReplay(); }),
-                isReplaying);
-}
-
-void Menus::addChannels(QMenu* menu, const QString& firstKey,
-                        const std::function<void(Integer)>& save) {
-    for (Integer channel = 1; channel <= kChannels; ++channel) {
-        const QString number = QString::number(channel);
-        add(menu, "Channel &" + number + "…", firstKey + ", " + number,
-            [save, channel] { save(channel); });
-    }
-}
-
 void Menus::addConnectMenu() {
-    auto* menu = addMenu("&Connect");
+    auto* menu = addMenu(tr("&Connect"));
     const auto isConnected = [this] { return session_.station().isConnected(); };
     const auto isLink = [this, isConnected] {
         return isConnected() && !isSimulated() && !session_.isReplaying();
     };
     auto* group = new QActionGroup(this);
     group->addAction(addSwitch(
-        menu, "&Simulated amplifier", "F6", [this](bool) { session_.connectSimulator(); },
+        menu, tr("&Simulated amplifier"), "F6",
+        [this](bool) {
+            if (!isSimulated()) session_.connectSimulator();
+        },
         [this] { return isSimulated(); }));
     group->addAction(addSwitch(
-        menu, "&Link…", "F7", [this](bool) { window_.askForLink(); }, isLink));
+        menu, tr("&Link…"), "F7", [this](bool) { window_.askForLink(); }, isLink));
     group->addAction(addSwitch(
-        menu, "&Nothing", "F8", [this](bool) { session_.connectNothing(); },
+        menu, tr("&Nothing"), "F8", [this](bool) { session_.connectNothing(); },
         [isConnected] { return !isConnected(); }));
 }
 
 void Menus::addAmplifierMenu() {
-    auto* menu = addMenu("&Amplifier");
-    auto* quickTest = add(menu, "Run the &quick test", "F9", [this] {
+    auto* menu = addMenu(tr("&Amplifier"));
+    addButtons(menu);
+    menu->addSeparator();
+    auto* quickTest = add(menu, tr("Run the &quick test"), "F9", [this] {
         if (auto* simulator = session_.simulator()) simulator->runQuickTest();
     });
     enableWhile(quickTest, [this] { return isSimulated(); });
-    addFaults(menu->addMenu("&Faults of the simulator"));
+    addFaults(menu->addMenu(tr("&Faults of the simulator")));
     menu->addSeparator();
     addSwitch(
-        menu, "&Read-only mode", "F2", [this](bool isOn) { session_.setReadOnly(isOn); },
+        menu, tr("&Read-only mode"), "F2", [this](bool isOn) { session_.setReadOnly(isOn); },
         [this] { return session_.isReadOnly(); });
+}
+
+// What a person does on the "Common" tab, from wherever they are.
+void Menus::addButtons(QMenu* menu) {
+    using Runtime::Deed;
+    const auto addButton = [&](const QString& text, const QString& keys, const Deed& deed) {
+        auto* action =
+            add(menu, text, keys, [this, deed] { window_.panelWidget().store().perform(deed); });
+        enableWhile(action, [this, widget = deed.widget] {
+            return window_.panelWidget().store().acceptsInput(widget);
+        });
+    };
+    using Layout::kCommon;
+    addButton(tr("&Power on or off"), "Ctrl+Shift+P", Deed::click(kCommon.powerButton));
+    addButton(tr("&Mute all channels or none"), "Ctrl+Shift+M", Deed::click(kCommon.muteButton));
+    addButton(tr("Read the internal &data"), "Ctrl+D", Deed::click(kCommon.internalDataButton));
+    addButton(tr("&Enter information…"), "Ctrl+I",
+              Deed::key(kCommon.log, char16_t(InformationEntry::kStartKey)));
 }
 
 void Menus::addFaults(QMenu* menu) {
@@ -141,7 +127,7 @@ void Menus::addFaults(QMenu* menu) {
 }
 
 void Menus::addViewMenu() {
-    auto* menu = addMenu("&View");
+    auto* menu = addMenu(tr("&View"));
     int tab = 1;
     for (const auto caption : Layout::kTabCaptions) {
         const QString text = QString::fromUtf16(caption.data(), qsizetype(caption.size()));
@@ -156,43 +142,80 @@ void Menus::addViewMenu() {
     menu->addSeparator();
     addZoom(menu);
     menu->addSeparator();
+    addSwitch(
+        menu, tr("Sco&pe window"), "F4", [this](bool isOn) { window_.showScopes(isOn); },
+        [this] { return window_.areScopesShown(); });
     addEvents(menu);
 }
 
 void Menus::addZoom(QMenu* menu) {
-    add(menu, "Zoom &in", "Ctrl++", [this] {
+    add(menu, tr("Zoom &in"), "Ctrl++", [this] {
         window_.zoomIn();
     })->setShortcuts({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")});
-    add(menu, "Zoom &out", "Ctrl+-", [this] { window_.zoomOut(); });
-    add(menu, "Zoom &100 %", "Ctrl+0", [this] { window_.setZoom(kPlainZoom); });
+    add(menu, tr("Zoom &out"), "Ctrl+-", [this] { window_.zoomOut(); });
+    addSizes(menu->addMenu(tr("&Zoom to")));
     addSwitch(
-        menu, "&Full screen", "F11", [this](bool isOn) { window_.setFullScreen(isOn); },
+        menu, tr("&Full screen"), "F11", [this](bool isOn) { window_.setFullScreen(isOn); },
         [this] { return window_.isFullScreen(); });
+    addSwitch(
+        menu, tr("&Light frame"), "Ctrl+Shift+I",
+        [this](bool isOn) { window_.setFrame(isOn ? Frame::light : Frame::dark); },
+        [this] { return window_.frame() == Frame::light; });
+}
+
+// Those that a person may choose, one of them or none being ticked.
+void Menus::addSizes(QMenu* menu) {
+    auto* group = new QActionGroup(this);
+    group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    const auto add = [&](const QString& text, const QString& keys, std::optional<int> percent) {
+        auto* action = addSwitch(
+            menu, text, keys, [this, percent](bool) { window_.setZoom(percent); },
+            [this, percent] { return window_.zoom() == percent; });
+        group->addAction(action);
+        return action;
+    };
+    add(tr("&Fit the window"), "Ctrl+9", {});
+    int number = 1;
+    for (const int percent : kPresets) {
+        const QString keys = QString("Ctrl+Z, %1").arg(number++);
+        auto* action = add(tr("%1 %").arg(percent), keys, percent);
+        if (percent == kPlainZoom) action->setShortcuts({{"Ctrl+0"}, {keys}});
+    }
 }
 
 void Menus::addEvents(QMenu* menu) {
     auto& station = session_.station();
     addSwitch(
-        menu, "&Event view", "Ctrl+E", [this](bool isOn) { window_.showEvents(isOn); },
+        menu, tr("&Event view"), "Ctrl+E", [this](bool isOn) { window_.showEvents(isOn); },
         [this] { return window_.areEventsShown(); });
     auto* detail = addSwitch(
-        menu, "Events with &readings", "Ctrl+Shift+E",
+        menu, tr("Events with &readings"), "Ctrl+Shift+E",
         [&station](bool isOn) {
             station.conversation().setDetail(isOn ? Detail::everything : Detail::changes);
         },
         [&station] { return station.conversation().detail() == Detail::everything; });
-    auto* copy = add(menu, "&Copy events", "Ctrl+Shift+C", [this] { window_.copyEvents(); });
-    auto* clear = add(menu, "C&lear events", "Ctrl+Shift+X", [&station] { station.log().clear(); });
-    copy->setIconText("Copy");
-    clear->setIconText("Clear");
-    detail->setIconText("With readings");
-    eventActions_ = {copy, clear, detail};
+    auto* script = addSwitch(
+        menu, tr("Events as panel &script"), "Ctrl+Shift+D",
+        [&station](bool isOn) {
+            station.conversation().setForm(isOn ? Form::script : Form::words);
+        },
+        [&station] { return station.conversation().form() == Form::script; });
+    auto* copy = add(menu, tr("&Copy events"), "Ctrl+Shift+C", [this] { window_.copyEvents(); });
+    auto* save = add(menu, tr("Save e&vents…"), "Ctrl+Shift+S", [this] { window_.saveEvents(); });
+    auto* clear =
+        add(menu, tr("C&lear events"), "Ctrl+Shift+X", [&station] { station.log().clear(); });
+    copy->setIconText(tr("Copy"));
+    save->setIconText(tr("Save…"));
+    clear->setIconText(tr("Clear"));
+    detail->setIconText(tr("With readings"));
+    script->setIconText(tr("As script"));
+    eventActions_ = {copy, save, clear, detail, script};
 }
 
 void Menus::addHelpMenu() {
-    auto* menu = addMenu("&Help");
-    add(menu, "&Keyboard shortcuts", "F1", [this] { window_.showShortcuts(); });
-    add(menu, "&About Marvane Manager", "Shift+F1", [this] {
+    auto* menu = addMenu(tr("&Help"));
+    add(menu, tr("&Keyboard shortcuts"), "F1", [this] { window_.showShortcuts(); });
+    add(menu, tr("&About Marvane Manager"), "Shift+F1", [this] {
         window_.showAbout();
     })->setMenuRole(QAction::AboutRole);
 }

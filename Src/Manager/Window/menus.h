@@ -16,6 +16,8 @@ class ManagerWindow;
 
 /// The window's menus. Every action has keys of its own, which work in full screen too.
 class Menus final : public QObject {
+    Q_OBJECT
+
 public:
     explicit Menus(ManagerWindow& window);
 
@@ -39,13 +41,16 @@ private:
 
     void addFileMenu();
     void addSessions(QMenu* menu);
+    void addReplay(QMenu* menu);
     void addChannels(QMenu* menu, const QString& firstKey,
                      const std::function<void(Integer)>& save);
     void addConnectMenu();
     void addAmplifierMenu();
+    void addButtons(QMenu* menu);
     void addFaults(QMenu* menu);
     void addViewMenu();
     void addZoom(QMenu* menu);
+    void addSizes(QMenu* menu);
     void addEvents(QMenu* menu);
     void addHelpMenu();
 

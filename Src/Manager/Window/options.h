@@ -13,8 +13,9 @@ namespace Orvo::Manager {
 
 /// How a person wants the program to start.
 struct Options {
-    int zoom = 100;  ///< percent
-    int tab = 1;     ///< counted from 1
+    std::optional<int> zoom{};  ///< percent; none: as fits the window
+    std::optional<int> tab{};   ///< counted from 1
+    bool forgets = false;       ///< what is remembered of the last time
     SessionSettings session{};
     bool isFullScreen = false;
     QString script{};  ///< a file, "-" for standard input; empty: none
@@ -32,7 +33,7 @@ struct Ending {
 constexpr int kWrongUsage = 2;
 
 /// What LinkAddress takes, in words.
-constexpr auto kLinkAddressRule = "a path, or a path and a speed that serial devices have";
+QString linkAddressRule();
 
 /// Says in one line on standard error what ends the program, and returns the status for that.
 int complain(const std::exception& failure);

@@ -35,8 +35,7 @@ private:
 
 QImage pictureOf(Window::PanelWidget& panel) {
     panel.flush();
-    const QSize spare = (panel.size() - panel.sizeHint()).expandedTo({0, 0}) / 2;
-    return panel.grab({{spare.width(), spare.height()}, panel.sizeHint()}).toImage();
+    return panel.grab(panel.childrenRect()).toImage();
 }
 
 QImage pictureOfScope(Window::PanelWidget& panel, int channel) {

@@ -10,6 +10,7 @@
 
 #include "Manager/Window/files.h"
 #include "Manager/Window/window_panel.h"
+#include "Manager/Window/zoom_area.h"
 #include "Script/script_runner.h"
 
 namespace Orvo::Manager {
@@ -46,7 +47,7 @@ void live(const QWidget& window, int descriptor) {
 int runScript(const Options& options) {
     try {
         Window::PanelWidget window(Platform{}, nullptr, Window::Clock::byHand);
-        window.setZoom(options.zoom / 100.0);
+        window.setZoom(options.zoom.value_or(kPlainZoom) / 100.0);
         WindowPanel panel(window, options.session.existing);
         window.show();
         const auto atComplaint =

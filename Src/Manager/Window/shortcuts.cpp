@@ -2,12 +2,14 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -19,9 +21,13 @@ namespace {
 
 using Shortcuts = std::vector<Shortcut>;
 
+class ShortcutsDialog {
+    Q_DECLARE_TR_FUNCTIONS(Orvo::Manager::ShortcutsDialog)
+};
+
 // "Save &picture of the panel…" without what only a menu needs.
 QString plain(QString text) {
-    static const QRegularExpression leadingNumber("^&\\d (?=\\D)");
+    static const QRegularExpression leadingNumber("^&\\d ");
     return text.remove(leadingNumber).remove('&').remove("…");
 }
 
@@ -30,7 +36,7 @@ QString keysOf(const QAction& action) {
     for (const QKeySequence& sequence : action.shortcuts()) {
         keys += sequence.toString(QKeySequence::NativeText);
     }
-    return keys.join(" or ");
+    return keys.join(ShortcutsDialog::tr(" or "));
 }
 
 void addMenu(Shortcuts& rows, const QMenu& menu, const QString& group, const QString& before) {
@@ -48,7 +54,7 @@ void addMenu(Shortcuts& rows, const QMenu& menu, const QString& group, const QSt
 void addButtons(Shortcuts& rows) {
     for (Widgets::WidgetId widget = 0; widget < Layout::kWidgetCount; ++widget) {
         const QKeySequence keys(Window::keysOf(widget));
-        const Shortcut row{"Panel", Window::nameOf(widget),
+        const Shortcut row{ShortcutsDialog::tr("Panel"), Window::nameOf(widget),
                            keys.toString(QKeySequence::NativeText)};
         const bool isKnown = std::any_of(rows.begin(), rows.end(), [&](const Shortcut& known) {
             return known.group == row.group && known.keys == row.keys;
@@ -57,9 +63,17 @@ void addButtons(Shortcuts& rows) {
     }
 }
 
+// Of the further windows, such as that of the scopes.
+void addWindow(Shortcuts& rows, const QMainWindow& window) {
+    for (const QAction* action : window.findChildren<QAction*>()) {
+        const QString keys = keysOf(*action);
+        if (!keys.isEmpty()) rows.push_back({window.windowTitle(), plain(action->text()), keys});
+    }
+}
+
 QTreeWidget* makeTable(const Shortcuts& rows) {
     auto* table = new QTreeWidget;
-    table->setHeaderLabels({"Action", "Keys"});
+    table->setHeaderLabels({ShortcutsDialog::tr("Action"), ShortcutsDialog::tr("Keys")});
     table->setRootIsDecorated(false);
     QTreeWidgetItem* group = nullptr;
     for (const Shortcut& row : rows) {
@@ -82,19 +96,20 @@ std::vector<Shortcut> shortcutsOf(const QMainWindow& window) {
         addMenu(rows, *action->menu<QMenu*>(), plain(action->text()), {});
     }
     addButtons(rows);
+    for (const auto* further : window.findChildren<QMainWindow*>()) addWindow(rows, *further);
     return rows;
 }
 
 void openShortcutsDialog(QMainWindow& window) {
     auto* dialog = new QDialog(&window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle("Keyboard shortcuts");
+    dialog->setWindowTitle(ShortcutsDialog::tr("Keyboard shortcuts"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     auto* layout = new QVBoxLayout(dialog);
     layout->addWidget(makeTable(shortcutsOf(window)));
     layout->addWidget(buttons);
-    dialog->resize(560, 560);
+    dialog->resize(QSize(560, 560).boundedTo(window.screen()->availableSize() * 9 / 10));
     dialog->open();
 }
 

@@ -4,16 +4,14 @@
 
 #include <QHBoxLayout>
 
+#include "Manager/Window/frame_palette.h"
+
 namespace Orvo::Manager {
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr auto kMessageStays = 8s;
-
-// Readable in a dark and in a light desktop.
-constexpr auto kWarning =
-    "QLabel { background: #ffcc33; color: black; font-weight: bold; border-radius: 3px; }";
 
 }  // namespace
 
@@ -37,6 +35,7 @@ StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
     message_ = add<ElidedLabel>("Message");
     row->setStretchFactor(message_, 1);
     mode_ = add<ElidedLabel>("Mode");
+    mode_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     mode_->hide();
     zoom_ = add<QLabel>("Zoom");
     messageEnds_.setSingleShot(true);
@@ -52,7 +51,7 @@ void StatusLine::showText(const StatusText& text) {
     connection_->setFullText(QString::fromStdString(text.connection));
     const QString lastWord = QString::fromStdString(text.lastWord);
     lastWord_->setText(text.isStale ? " \u26a0 " + lastWord + " " : lastWord);
-    lastWord_->setStyleSheet(text.isStale ? kWarning : "");
+    lastWord_->setStyleSheet(text.isStale ? warningLook() : "");
     if (!std::exchange(isStale_, text.isStale) && isStale_) lastWord_->alert();
 }
 
@@ -64,10 +63,6 @@ void StatusLine::showMode(const QString& mode) {
 void StatusLine::say(const QString& message) {
     message_->setFullText(message);
     messageEnds_.start(kMessageStays);
-}
-
-void StatusLine::unsay(const QString& message) {
-    if (message_->text() == message) message_->setFullText({});
 }
 
 }  // namespace Orvo::Manager

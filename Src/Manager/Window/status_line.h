@@ -13,16 +13,16 @@ namespace Orvo::Manager {
 /// seconds what has just been done. Where it is narrow, the link, the last word and the zoom stay
 /// whole.
 class StatusLine final : public QWidget {
+    Q_OBJECT
+
 public:
     explicit StatusLine(QWidget* parent = nullptr);
 
     void showText(const StatusText& text);
     /// What else a person has to know all the time: "Read-only"; mostly nothing.
     void showMode(const QString& mode);
-    void showZoom(int percent) { zoom_->setText(QString::number(percent) + " %"); }
+    void showZoom(int percent) { zoom_->setText(tr("%1 %").arg(percent)); }
     void say(const QString& message);
-    /// Takes the message back, if it is still there.
-    void unsay(const QString& message);
 
     /// As narrow as it can be: no text widens the window that has room for it.
     [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }

@@ -5,6 +5,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "Manager/Window/frame_palette.h"
+
 namespace Orvo::Manager {
 namespace {
 
@@ -15,7 +17,6 @@ constexpr int kTop = 20;
 constexpr int kTextHeight = 26;
 
 constexpr QRgb kFog = 0xC2767A80;
-constexpr QRgb kBanner = 0xFFFFCC33;
 
 }  // namespace
 
@@ -28,7 +29,7 @@ Veil::Veil(QWidget* parent) : QWidget(parent), banner_(new QLabel(this)) {
     banner_->setWordWrap(true);
     banner_->setMargin(kMargin);
     banner_->setAutoFillBackground(true);
-    banner_->setPalette(QPalette(Qt::black, QColor(kBanner)));
+    banner_->setPalette(QPalette(kWarningText, kWarningGround));
     hide();
 }
 

@@ -1,6 +1,5 @@
 #include "Manager/Window/warning.h"
 
-#include <QLabel>
 #include <QMessageBox>
 
 #include "Orvo/window/drawing/shown_text.h"
@@ -16,7 +15,7 @@ constexpr auto kReadable = "#qt_msgbox_informativelabel { min-width: 22em; }";
 void explain(QMessageBox& box, const QString& details) {
     box.setAttribute(Qt::WA_DeleteOnClose);
     box.setInformativeText(Window::onLines(details, box.font()));
-    for (QLabel* label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+    Window::makePlain(box);
     box.setStyleSheet(kReadable);
 }
 

@@ -1,19 +1,19 @@
 #include "Manager/Window/zoom_area.h"
 
 #include <algorithm>
-#include <array>
 
-#include <QPaintEvent>
-#include <QPainter>
 #include <QScrollBar>
+#include <QWheelEvent>
+
+#include "Orvo/window/drawing/scale.h"
 
 namespace Orvo::Manager {
 namespace {
 
-constexpr QRgb kSurround = 0xFF15181D;
+constexpr auto kStops =
+    std::to_array({kSmallestZoom, 75, kPlainZoom, 125, 150, 200, 300, 400, 600, kLargestZoom});
 
-constexpr auto kStops = std::to_array(
-    {kSmallestZoom, 75, kPlainZoom, 125, 150, 175, 200, 250, 300, 400, 500, 600, kLargestZoom});
+QSize sizeAt(int percent) { return Window::Scale(percent / 100.0).panelSize(); }
 
 }  // namespace
 
@@ -32,22 +32,34 @@ ZoomArea::ZoomArea(Window::PanelWidget& panel, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
+    setMinimumSize(sizeAt(kSmallestZoom));
     setWidget(&panel);
-    // Not by a palette, which the panel's controls would inherit.
+    // It paints what is around it.
     panel.setAutoFillBackground(false);
+    panel.setFitsToSize(true);
 }
 
 int ZoomArea::zoom() const { return qRound(panel_.zoom() * 100); }
 
-void ZoomArea::setZoom(int percent) {
-    isFitting_ = false;
-    panel_.setZoom(std::clamp(percent, kSmallestZoom, kLargestZoom) / 100.0);
+std::optional<int> ZoomArea::chosenZoom() const {
+    return panel_.fitsToSize() ? std::nullopt : std::optional(zoom());
+}
+
+void ZoomArea::choose(std::optional<int> percent) {
+    panel_.setFitsToSize(!percent);
+    percent ? panel_.setZoom(*percent / 100.0) : panel_.resize(maximumViewportSize());
     updateGeometry();
 }
 
-void ZoomArea::setFitting(bool isFitting) {
-    isFitting_ = isFitting;
-    fit();
+void ZoomArea::suit(const QSize& room) {
+    const auto isTooLarge = [&](int percent) {
+        const QSize size = sizeAt(percent) * 3 / 2;
+        return size.width() > room.width() || size.height() > room.height();
+    };
+    const auto* first = std::ranges::find(kPresets, kPlainZoom);
+    const auto* next = std::find_if(first + 1, kPresets.end(), isTooLarge);
+    panel_.setZoom(*std::prev(next) / 100.0);
+    updateGeometry();
 }
 
 QSize ZoomArea::sizeHint() const { return panel_.sizeHint(); }
@@ -61,21 +73,19 @@ QSize ZoomArea::bounded(const QSize& window, const QSize& room) const {
     return wanted.boundedTo(room);
 }
 
-void ZoomArea::paintEvent(QPaintEvent* event) {
-    QPainter(viewport()).fillRect(event->rect(), QColor(kSurround));
-}
-
 void ZoomArea::resizeEvent(QResizeEvent* event) {
-    fit();
     QScrollArea::resizeEvent(event);
     veil_->fill(viewport()->geometry());
 }
 
-void ZoomArea::fit() {
-    if (!isFitting_) return;
-    const QSizeF plain = QSizeF(panel_.sizeHint()) / panel_.zoom();
-    const double zoom = std::min(width() / plain.width(), height() / plain.height());
-    panel_.setZoom(int(zoom * 100) / 100.0);
+void ZoomArea::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) return QScrollArea::wheelEvent(event);
+    wheel_ += event->angleDelta().y();
+    for (; wheel_ >= QWheelEvent::DefaultDeltasPerStep; wheel_ -= QWheelEvent::DefaultDeltasPerStep)
+        zoomIn();
+    for (; wheel_ <= -QWheelEvent::DefaultDeltasPerStep;
+         wheel_ += QWheelEvent::DefaultDeltasPerStep)
+        zoomOut();
 }
 
 }  // namespace Orvo::Manager

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <span>
 #include <string>
 #include <system_error>
 
@@ -22,6 +23,7 @@ struct DeviceClass {
     const char16_t* description;  // unless its product has one
 };
 
+// The serial ones first.
 constexpr auto kDeviceClasses = std::to_array<DeviceClass>({
     {"tty", "", "/dev/", u"Serial port"},
     {"printer", "lp", "/dev/", u"Parallel port"},
@@ -66,32 +68,42 @@ std::string nodeOf(const DeviceClass& deviceClass, std::string entryName) {
     return deviceClass.nodes + entryName;
 }
 
-// Consoles and pseudo terminals have no device, an 8250 port that is not there has type 0.
-void addPort(Ports& ports, const DeviceClass& deviceClass, const fs::path& entry) {
+// Consoles and pseudo terminals have no device, an 8250 port that is not there has type 0. A
+// container sees the machine's devices, but has no nodes of theirs.
+void addPort(Ports& ports, const DeviceClass& deviceClass, const fs::path& entry,
+             const fs::path& root) {
     const std::string name = entry.filename().string();
     std::error_code error;
     const fs::path device = fs::canonical(entry / "device", error);
     if (error || !name.starts_with(deviceClass.prefix) || firstLine(entry / "type") == "0") return;
+    const std::string node = nodeOf(deviceClass, name);
+    if (!fs::exists(root / fs::path(node).relative_path(), error)) return;
     const String product = fromUtf8(productOf(device));
-    ports.push_back({fromUtf8(nodeOf(deviceClass, name)), fromUtf8(driverOf(device)),
+    ports.push_back({fromUtf8(node), fromUtf8(driverOf(device)),
                      product.empty() ? deviceClass.description : product, kPortType});
 }
 
-}  // namespace
-
-Ports devicePorts(const fs::path& root) {
+Ports portsOf(std::span<const DeviceClass> classes, const fs::path& root) {
     Ports ports;
-    for (const DeviceClass& deviceClass : kDeviceClasses) {
+    for (const DeviceClass& deviceClass : classes) {
         std::error_code error;
         fs::directory_iterator entry(root / "sys/class" / deviceClass.directory, error);
         for (; entry != fs::directory_iterator(); entry.increment(error)) {
-            addPort(ports, deviceClass, entry->path());
+            addPort(ports, deviceClass, entry->path(), root);
         }
     }
     std::sort(ports.begin(), ports.end(), [](const PortRecord& left, const PortRecord& right) {
         return naturallyBefore(left.PortName, right.PortName);
     });
     return ports;
+}
+
+}  // namespace
+
+Ports devicePorts(const fs::path& root) { return portsOf(kDeviceClasses, root); }
+
+Ports serialPorts(const fs::path& root) {
+    return portsOf(std::span(kDeviceClasses).first<1>(), root);
 }
 
 }  // namespace Orvo::Runtime

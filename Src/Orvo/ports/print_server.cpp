@@ -72,10 +72,16 @@ void Inquiry::end() {
     if (socket_ >= 0) ::shutdown(socket_, SHUT_RDWR);
 }
 
-bool mustEncrypt() { return cups().cupsEncryption() == HTTP_ENCRYPTION_REQUIRED; }
+bool mustEncrypt() {
+    const auto encryption = cups().cupsEncryption();
+    return encryption == HTTP_ENCRYPTION_REQUIRED || encryption == HTTP_ENCRYPTION_ALWAYS;
+}
 
-// Where encryption is asked for by a request, that comes once the connection can be ended.
+// Encryption is asked for by a request, which comes once the connection can be ended. On the port
+// where the library begins with it, nobody could end that.
 Connection connectTo(const std::string& host, int port, Milliseconds limit) {
+    constexpr int kBeginsEncrypted = 443;
+    if (port == kBeginsEncrypted) return {};
     const auto encryption = mustEncrypt() ? HTTP_ENCRYPTION_IF_REQUESTED : cups().cupsEncryption();
     return Connection(cups().httpConnect2(host.c_str(), port, nullptr, AF_UNSPEC, encryption, 1,
                                           static_cast<int>(limit.count()), nullptr));

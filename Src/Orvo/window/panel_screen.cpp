@@ -4,9 +4,13 @@
 
 #include <QApplication>
 #include <QHideEvent>
+#include <QPainter>
 #include <QShortcut>
 
+#include "Artwork/Drawings/drawings.h"
+#include "Orvo/layout/roles.h"
 #include "Orvo/window/accessible/accessibility.h"
+#include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/spoken/hints.h"
 
 namespace Orvo::Window {
@@ -32,6 +36,7 @@ PanelScreen::PanelScreen(std::shared_ptr<Runtime::Store> store, QWidget* parent,
     connect(&frame_, &QTimer::timeout, this, &PanelScreen::bringFrame);
     installAccessibility();
     setAccessibleName("Amplifier panel");
+    setLayoutDirection(Qt::LeftToRight);  // of what is laid out in pixels
     build();
     layOut();
     bringTabToFront();
@@ -139,6 +144,7 @@ void PanelScreen::bringFrame() {
         if (due.test(id)) bringToScreen(id);
     }
     for (Page* page : pages_) page->repaintChanges();
+    if (due.test(Layout::kCommon.powerButton.id)) Q_EMIT readOnlyWritten();
 }
 
 // What a container allows holds for all that it contains, and an option's fellows share the
@@ -169,6 +175,20 @@ void PanelScreen::bringTabToFront() {
         if (!isInFront && page->isAncestorOf(QApplication::focusWidget())) tabs_->setFocus();
         page->setVisible(isInFront);
     }
+    if (parentWidget() != nullptr && parentWidget()->size() != size()) parentWidget()->update();
+}
+
+// So that neither the strip nor the tab in front ends anywhere.
+void PanelScreen::paintAround(QPainter& painter, const QRect& place) const {
+    const bool isCommon = tabs_->currentIndex() == 0;
+    const auto& background =
+        isCommon ? Layout::kCommon.background.id : Layout::pair(1).background.id;
+    QRectF page = scale_.rect(background);
+    page.setTop(page.top() + scale_.measure(0.5));
+    page.setBottom(page.bottom() + scale_.measure(0.5));
+    painter.fillRect(place,
+                     groundOf(isCommon ? Artwork::kCommonGround : Artwork::kPairGround, page));
+    painter.fillRect(QRect(place.left(), 0, place.width(), tabs_->height()), Palette::kTabStrip);
 }
 
 // A window that is only minimised comes back, and the prompt with it.

@@ -23,6 +23,8 @@ namespace Orvo::Window {
 /// The screen of a store: the tab strip, the three pages and the controls on them. What the store
 /// reports as changed is noted and brought to the screen once per frame.
 class PanelScreen final : public QWidget, public Runtime::Screen {
+    Q_OBJECT
+
 public:
     explicit PanelScreen(std::shared_ptr<Runtime::Store> store, QWidget* parent = nullptr,
                          Clock clock = Clock::real);
@@ -34,10 +36,17 @@ public:
     /// Null for what is only painted.
     [[nodiscard]] QWidget* control(WidgetId widget);
 
+    /// What goes on around the panel on a larger widget, in this one's coordinates.
+    void paintAround(QPainter& painter, const QRect& place) const;
+
     /// Brings what has changed to the screen now, as it is in the end.
     void flush();
     void changed(WidgetId widget) override;
     void pointerChanged() override;
+
+Q_SIGNALS:
+    /// A frame shows that the host may have changed it.
+    void readOnlyWritten();
 
 protected:
     void hideEvent(QHideEvent* event) override;

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QWidget>
-
 #include "Orvo/store/store.h"
 
 namespace Orvo::Window {
 
-/// Asks in a modal dialog over the panel.
+class PanelScreen;
+
+/// Asks in a modal dialog over the panel, as large as that.
 class PromptDialog final : public Runtime::Prompter {
 public:
-    explicit PromptDialog(QWidget& panel) : panel_(panel) {}
+    explicit PromptDialog(PanelScreen& panel) : panel_(panel) {}
 
     /// Throws Widgets::PromptWithdrawn when the panel goes away or out of sight meanwhile, or isn't
     /// in sight at all. In the first case this has gone with it.
@@ -18,7 +18,7 @@ public:
     void withdraw();
 
 private:
-    QWidget& panel_;
+    PanelScreen& panel_;
 };
 
 }  // namespace Orvo::Window

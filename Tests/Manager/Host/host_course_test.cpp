@@ -49,12 +49,5 @@ TEST_F(HostCourseTest, SkipsWhatCannotBeMadeUpFor) {
     EXPECT_EQ(host_.now(), 10min);
 }
 
-TEST_F(HostCourseTest, BeginsTheLogAfreshBeforeItGetsTooLong) {
-    for (int i = 0; i < 2500; ++i) host_.runQuickTest();
-    const auto& lines = store().get<Runtime::StoredList>(kCommon.log).state().items;
-    EXPECT_LE(lines.size(), 1000U);
-    EXPECT_FALSE(lines.empty());
-}
-
 }  // namespace
 }  // namespace Orvo::Manager

@@ -107,7 +107,7 @@ private:
         line = "scopes";
         for (Integer channel = 1; channel <= 4; ++channel) {
             if (!station_.traces().has(channel)) continue;
-            const auto& samples = station_.traces().samples(channel).elements();
+            const auto& samples = station_.traces().trace(channel).samples.elements();
             const auto [least, greatest] = std::ranges::minmax(samples);
             line += ' ' + std::to_string(samples[20]) + ':' + std::to_string(least) + ".." +
                     std::to_string(greatest);

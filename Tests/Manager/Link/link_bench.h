@@ -3,16 +3,15 @@
 #include <algorithm>
 #include <chrono>
 #include <cstring>
+#include <system_error>
 
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 #include "Manager/Link/link_device.h"
 #include "Manager/Station/station.h"
 #include "Support/owned_panel.h"
-#include "Support/temporary_directory.h"
+#include "Support/socket_stream.h"
 
 namespace Orvo::Manager {
 
@@ -21,56 +20,34 @@ using namespace std::chrono_literals;
 /// A station whose link leads to this test.
 class LinkTest : public Tests::OwnedPanel {
 protected:
-    ~LinkTest() override {
-        hangUp();
-        if (listener_ >= 0) ::close(listener_);
-    }
-
-    void connectLink() { connectLink(path_); }
-    void connectLink(const std::string& path) {
-        station_.connect([this, path] {
+    void connectLink() {
+        station_.connect([this] {
             return std::make_unique<LinkDevice>(
-                owner_, LinkAddress{path}, [this] { return isLocked_; },
+                owner_, LinkAddress{"/dev/link"}, [this] { return isLocked_; },
+                [this](const LinkAddress&) { return open(); },
                 [this] { return now_ += betweenLooks_; });
         });
     }
 
-    void listenOnSocket() {
-        sockaddr_un name{};
-        name.sun_family = AF_UNIX;
-        std::strncpy(name.sun_path, path_.c_str(), sizeof name.sun_path - 1);
-        listener_ = ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0);
-        ASSERT_EQ(::bind(listener_, reinterpret_cast<sockaddr*>(&name), sizeof name), 0);
-        ASSERT_EQ(::listen(listener_, 1), 0);
-    }
-
-    /// The station has connected to the socket.
-    void pickUp() {
-        other_ = ::accept4(listener_, nullptr, nullptr, SOCK_NONBLOCK);
-        ASSERT_GE(other_, 0);
-    }
-
     void goOnline() {
-        listenOnSocket();
         connectLink();
         station_.advance(25ms);
-        pickUp();
+        ASSERT_TRUE(isOnline());
     }
+    [[nodiscard]] bool isOnline() const { return other_.get() >= 0; }
 
-    void hangUp() {
-        if (other_ >= 0) ::close(other_);
-        other_ = -1;
-    }
+    void hangUp() { other_ = Script::FileDescriptor(); }
 
     /// As much as fits.
     std::size_t send(const std::string& text) const {
-        return std::size_t(std::max<ssize_t>(0, ::write(other_, text.data(), text.size())));
+        return std::size_t(
+            std::max<ssize_t>(0, ::send(other_.get(), text.data(), text.size(), MSG_NOSIGNAL)));
     }
 
     std::string received() const {
         std::string text;
         std::string piece(65536, ' ');
-        for (ssize_t count = 0; (count = ::read(other_, piece.data(), piece.size())) > 0;) {
+        for (ssize_t count = 0; (count = ::read(other_.get(), piece.data(), piece.size())) > 0;) {
             text.append(piece, 0, std::size_t(count));
         }
         return text;
@@ -92,15 +69,21 @@ protected:
         return received();
     }
 
-    Tests::TemporaryDirectory directory_;
-    std::string path_ = directory_.path() / "link";
-    int listener_ = -1;
-    int other_ = -1;
+    std::error_code trouble_;  // when set, there is nothing to open
+    Script::FileDescriptor other_;
     // A clock that moves by so much whenever it is looked at.
     std::chrono::steady_clock::time_point now_;
     std::chrono::milliseconds betweenLooks_{0};
     bool isLocked_ = false;  // read-only, by whoever is in front
     Station station_{owner_};
+
+private:
+    std::unique_ptr<ByteStream> open() {
+        if (trouble_) throw std::system_error(trouble_);
+        auto [near, far] = Tests::SocketStream::makePair();
+        other_ = std::move(far);
+        return std::move(near);
+    }
 };
 
 }  // namespace Orvo::Manager

@@ -21,7 +21,6 @@ public:
         hangUp();
         station_.advance(25ms);
         station_.advance(1s);
-        pickUp();
         EXPECT_EQ(ask("get Mute 1\n"), "= 0\n");
     }
 

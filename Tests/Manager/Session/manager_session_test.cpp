@@ -1,27 +1,11 @@
-#include "Manager/Session/manager_session.h"
-
+#include "Manager/Session/session_bench.h"
 #include "Script/recordings.h"
-#include "Support/owned_panel.h"
-#include "Support/temporary_directory.h"
 
 namespace Orvo::Manager {
 namespace {
 
-using namespace std::chrono_literals;
-using namespace Tests;
-
-class SessionTest : public OwnedPanel, public SessionObserver {
+class SessionTest : public SessionBench {
 protected:
-    void begin(const SessionSettings& settings) {
-        session_.reset();
-        owner_.renew();
-        session_.emplace(owner_, owner_, settings, *this);
-    }
-
-    void say(const std::string& message) override { said_ = message; }
-    void warn(const Failure& failure) override { warnings_.push_back(failure.details); }
-    void recordingStopped(const Failure& failure) override { warn(failure); }
-
     void replay(const std::string& script) {
         std::ofstream(file_) << script;
         session_->startReplay(file_);
@@ -36,12 +20,6 @@ protected:
         for (const std::string& line : session_->station().log().lines()) text += line + '\n';
         return eventsIn(text);
     }
-
-    TemporaryDirectory directory_;
-    std::string file_ = directory_.path() / "session.txt";
-    std::vector<std::string> warnings_;
-    std::string said_;
-    std::optional<ManagerSession> session_{std::in_place, owner_, owner_, SessionSettings{}, *this};
 };
 
 TEST_F(SessionTest, RecordsFromTheStartAndInFullWhenTheSettingsSaySo) {
@@ -66,8 +44,11 @@ TEST_F(SessionTest, RecordsFromTheStartAndInFullWhenTheSettingsSaySo) {
 TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
     session_->connectSimulator();
     session_->letPass(2s);
+    store().perform(Runtime::Deed::click(pair(2).waves[0]));
+    click(pair(2).startButton);
+    const std::string before = stateOf(owner_);
     session_->startRecording(file_);
-    EXPECT_FALSE(isLit(kCommon.linkLamp)) << "a fresh panel";
+    EXPECT_EQ(stateOf(owner_), before);
     for (const auto button :
          {channel(1).muteButton, pair(1).startButton, kCommon.internalDataButton}) {
         session_->letPass(1s);
@@ -85,6 +66,8 @@ TEST_F(SessionTest, WhatIsRecordedInTheMidstIsReplayedAlike) {
     EXPECT_EQ(warnings_, std::vector<std::string>());
     EXPECT_EQ(stateOf(owner_), state);
     EXPECT_EQ(loggedEvents(), eventsIn(textIn(file_)));
+    EXPECT_NE(textIn(file_).find("\n# not brought here: Generator: 100 Hz to channel 3 +\n"),
+              std::string::npos);
     EXPECT_GE(loggedEvents().size(), 3U);
     EXPECT_TRUE(session_->station().traces().has(1));
 }
@@ -99,13 +82,33 @@ TEST_F(SessionTest, AReplayTakesItsTime) {
     EXPECT_EQ(panel().Mute(2), kTrue);
 }
 
-TEST_F(SessionTest, AReplayEndsWithWhatItDoesNotUnderstand) {
-    replay("let Mute 1 true\nnew\nlet Mute 2 true\n  jump\nlet Mute 3 true\n");
-    letReplayEnd();
-    ASSERT_EQ(warnings_.size(), 1U);
-    EXPECT_TRUE(warnings_[0].starts_with("session.txt:4:3: "));
-    const std::vector<Boolean> muted{panel().Mute(1), panel().Mute(2), panel().Mute(3)};
-    EXPECT_EQ(muted, (std::vector{kFalse, kTrue, kFalse}));
+TEST_F(SessionTest, AReplayCanBePausedAndPlayedAtOtherSpeedsAndSaysWhereItIs) {
+    replay("wait 3600000\nlet Mute 1 true\nmeanwhile wait 9\nwait 90000\nlet Mute 1 false\n");
+    struct Row {
+        std::size_t speed;
+        bool isPaused;
+        const char* position;
+    };
+    const Row rows[] = {
+        {2, false, "00:00:10 of 01:01:30, 1x, line 1"},
+        {0, false, "00:00:12 of 01:01:30, ¼x, line 1"},
+        {1, false, "00:00:17 of 01:01:30, ½x, line 1"},
+        {4, true, "00:00:17 of 01:01:30, paused, line 1"},
+        {3, false, "00:00:37 of 01:01:30, 2x, line 1"},
+        {4, false, "00:01:17 of 01:01:30, 4x, line 1"},
+        {5, false, "01:01:17 of 01:01:30, as fast as possible, line 4"},
+    };
+    for (const auto& [speed, isPaused, position] : rows) {
+        session_->replay()->setSpeed(kReplaySpeeds[speed]);
+        session_->replay()->setPaused(isPaused);
+        const auto pace = speed == 5 ? 3600ms : 10'000ms;
+        for (auto passed = 0ms; passed < pace; passed += 10ms) session_->letPass(10ms);
+        EXPECT_EQ(session_->replay()->position(), position);
+        EXPECT_LE(store().now() - 12h, 0ms);
+    }
+    EXPECT_EQ(panel().Mute(1), kTrue);
+    session_->letPass(100ms);
+    EXPECT_FALSE(session_->isReplaying());
 }
 
 TEST_F(SessionTest, WhatIsConnectedEndsAReplay) {
@@ -166,12 +169,45 @@ TEST_F(SessionTest, ARecordingWhoseFileIsGoneIsToldOnceAndGoesOnInAnother) {
 }
 
 TEST_F(SessionTest, WhatIsNotRecordedIsNotSaidToBe) {
-    session_->startRecording(file_);
-    std::filesystem::remove(file_);
-    said_.clear();
-    session_->stopRecording();
-    EXPECT_EQ(said_, "");
-    EXPECT_EQ(warnings_, std::vector<std::string>{file_ + ": The file was removed"});
+    const auto stop = [&] { session_->stopRecording(); };
+    const auto letPass = [&] { session_->letPass(1s); };
+    const auto remove = [&] { std::filesystem::remove(file_); };
+    const auto fillMemory = [&] {
+        remove();
+        letPass();
+        for (int i = 0; i < 20; ++i) panel().AggiugiTesto(String(1'000'000, u'x'));
+        letPass();
+        EXPECT_TRUE(session_->hasRecordingStopped());
+        said_.clear();
+        session_->continueRecording(file_);
+    };
+    const auto truncate = [&] { std::filesystem::resize_file(file_, 3); };
+    const auto truncateAndLetPass = [&] {
+        truncate();
+        letPass();
+        EXPECT_TRUE(session_->hasRecordingStopped());
+        said_.clear();
+    };
+    struct Row {
+        std::vector<std::string> warnings;
+        std::function<void()> act;
+        std::function<void()> end;
+    };
+    const std::string lost = ": No more can be kept";
+    const std::string removed = ": The file was removed";
+    const std::string changed = ": Another program has changed the file";
+    for (const auto& [warnings, act, end] :
+         {Row{{removed}, remove, stop}, Row{{removed, lost, lost}, fillMemory, letPass},
+          Row{{changed}, truncate, stop}, Row{{changed, changed}, truncateAndLetPass, stop}}) {
+        session_->startRecording(file_);
+        said_.clear();
+        act();
+        end();
+        EXPECT_EQ(said_, "");
+        for (std::string& warning : warnings_) warning.erase(0, file_.size());
+        EXPECT_EQ(std::exchange(warnings_, {}), warnings);
+        EXPECT_FALSE(session_->isRecording() || session_->hasRecordingStopped());
+    }
 }
 
 TEST_F(SessionTest, WhatCannotBeReplayedInTimeOrWithoutHarmEndsAReplay) {
@@ -181,6 +217,7 @@ TEST_F(SessionTest, WhatCannotBeReplayedInTimeOrWithoutHarmEndsAReplay) {
         {"on Mute shot \"" + picture + "\"\n", "session.txt:1:9: shot is not for here"},
         {'#' + std::string(3'000'000, 'x') + "\nclick Command12\n",
          "session.txt:1:1: the line is too long"},
+        {"new\nlet Mute 2 true\n  jump\nlet Mute 3 true\n", "session.txt:3:3: "},
         {"let TimerVirtualTemp12 true\nmeanwhile wait 2147483647\nclick Command12\n", ""},
     };
     for (const auto& [script, complaint] : rows) {
@@ -189,35 +226,24 @@ TEST_F(SessionTest, WhatCannotBeReplayedInTimeOrWithoutHarmEndsAReplay) {
         letReplayEnd();
         ASSERT_EQ(warnings_.size(), 1U) << complaint;
         EXPECT_TRUE(warnings_[0].starts_with(complaint)) << warnings_[0];
+        EXPECT_EQ(panel().Mute(3), kFalse);
     }
     EXPECT_FALSE(std::filesystem::exists(picture));
 }
 
-TEST_F(SessionTest, ARecordingStaysReadOnlyAndOnItsTab) {
-    session_->setReadOnly(true);
-    store().perform(Runtime::Deed::tab(Layout::kTabs.id, 2));
-    session_->startRecording(file_);
-    EXPECT_TRUE(session_->isReadOnly());
-    EXPECT_EQ(store().get<Runtime::StoredTabs>(Layout::kTabs.id).state().current, 2);
-}
-
-TEST_F(SessionTest, AFreshPanelIsReadOnlyWhenTheSettingsSaySoButForAReplays) {
-    begin({.isReadOnly = true});
-    session_->startRecording(file_);
-    session_->stopRecording();
-    EXPECT_NE(textIn(file_).find("new\nlet ReadOnly -1\n"), std::string::npos);
-    replay("new\nwait 1\n");
-    EXPECT_FALSE(session_->isReadOnly());
-    letReplayEnd();
-    EXPECT_TRUE(session_->isReadOnly());
-}
-
-TEST_F(SessionTest, AFreshPanelIsReadOnlyAsThePersonWantsItWhateverTheHostSaid) {
+TEST_F(SessionTest, AFreshPanelIsReadOnlyAsThePersonWantsItButForAReplays) {
     for (const bool isWanted : {true, false}) {
-        session_->setReadOnly(isWanted);
+        begin({.isReadOnly = isWanted});
         panel().ReadOnly(!isWanted);
         owner_.renew();
         EXPECT_EQ(session_->isReadOnly(), isWanted);
+        replay("new\nwait 1\n");
+        EXPECT_FALSE(session_->isReadOnly());
+        letReplayEnd();
+        EXPECT_EQ(session_->isReadOnly(), isWanted);
+        session_->setReadOnly(!isWanted);
+        owner_.renew();
+        EXPECT_EQ(session_->isReadOnly(), !isWanted);
     }
 }
 

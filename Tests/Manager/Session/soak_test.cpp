@@ -1,17 +1,12 @@
 #include <filesystem>
 #include <iterator>
 
-#include "Manager/Session/manager_session.h"
+#include "Manager/Session/session_bench.h"
 #include "Orvo/core/member_table.h"
 #include "Support/memory.h"
-#include "Support/owned_panel.h"
-#include "Support/temporary_directory.h"
 
 namespace Orvo::Manager {
 namespace {
-
-using namespace std::chrono_literals;
-using namespace Tests;
 
 // Two hours are for fast builds.
 #if !defined(__OPTIMIZE__) || defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -54,7 +49,7 @@ auto openDescriptors() {
     return std::distance(begin(all), end(all));
 }
 
-class SoakTest : public OwnedPanel, public SessionObserver {
+class SoakTest : public SessionBench {
 protected:
     void soak(std::chrono::milliseconds length) {
         for (; length > 0ms; length -= kStep) {
@@ -62,7 +57,7 @@ protected:
                 const Call& call = calls_[called_++ % calls_.size()];
                 panel().invoke(call.member->dispatchId, call.member->kind, call.arguments);
             }
-            session_.letPass(kStep);
+            session_->letPass(kStep);
             actAsAPerson();
         }
     }
@@ -81,10 +76,6 @@ protected:
         store().perform(Deed::slide(pair(1).testSlider, static_cast<int>(acted_ % 100)));
     }
 
-    void say(const std::string& /*message*/) override {}
-    void warn(const Failure& failure) override { FAIL() << failure.text; }
-    void recordingStopped(const Failure& failure) override { warn(failure); }
-
     static constexpr auto kPersonsWidgets = std::to_array<Widgets::WidgetId>(
         {kCommon.powerButton, kCommon.muteButton, channel(3).muteButton, pair(1).startButton,
          kCommon.internalDataButton, channel(4).positive.option});
@@ -92,18 +83,17 @@ protected:
     const std::vector<Call> calls_ = callsOfAHost();
     std::size_t called_ = 0;
     std::size_t acted_ = 0;
-    TemporaryDirectory directory_;
-    const std::string file_ = directory_.path() / "session.txt";
-    ManagerSession session_{owner_, owner_, {.record = file_}, *this};
 };
 
 TEST_F(SoakTest, NeitherMemoryNorDescriptorsNorLinesGrow) {
-    session_.connectSimulator();
+    begin({.record = file_, .log = directory_.path() / "log.txt"});
+    session_->connectSimulator();
     soak(kRecorded / 2);
     soakWithoutGrowth(kRecorded / 2);
     EXPECT_LT(std::filesystem::file_size(file_), called_ * kMostPerLine);
-    session_.stopRecording();
+    session_->stopRecording();
     soakWithoutGrowth(kLength - kRecorded);
+    EXPECT_EQ(warnings_, std::vector<std::string>());
 }
 
 }  // namespace

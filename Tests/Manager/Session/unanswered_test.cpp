@@ -5,15 +5,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "Manager/Session/manager_session.h"
-#include "Support/owned_panel.h"
-#include "Support/temporary_directory.h"
+#include "Manager/Session/session_bench.h"
 
 namespace Orvo::Manager {
 namespace {
 
-using namespace std::chrono_literals;
-using namespace Tests;
 using Simulator::Fault;
 using Widgets::Kind;
 
@@ -21,14 +17,10 @@ using Widgets::Kind;
 enum class Meaning : std::uint8_t { power, volume, thermalTest };
 
 /// A session with a pipe that a link can lead to.
-class UnansweredTest : public OwnedPanel, public SessionObserver {
+class UnansweredTest : public SessionBench {
 protected:
     UnansweredTest() { ::mkfifo(pipe_.c_str(), 0600); }
     ~UnansweredTest() override { hangUp(); }
-
-    void say(const std::string& message) override { said_ = message; }
-    void warn(const Failure&) override {}
-    void recordingStopped(const Failure&) override {}
 
     void pass(std::chrono::milliseconds time) {
         for (; time > 0ms; time -= 25ms) {
@@ -37,13 +29,6 @@ protected:
         }
     }
 
-    void begin() {
-        session_.reset();
-        hangUp();
-        isTalking_ = false;
-        owner_.renew();
-        session_.emplace(owner_, owner_, SessionSettings{}, *this);
-    }
     void run() {
         session_->connectSimulator();
         pass(3s);
@@ -73,11 +58,7 @@ protected:
         return Integer(store().get<Runtime::StoredCheck>(widget).state().value);
     }
 
-    TemporaryDirectory directory_;
     std::string pipe_ = directory_.path() / "link";
-    std::string file_ = directory_.path() / "session.txt";
-    std::optional<ManagerSession> session_;
-    std::string said_;
     int other_ = -1;
     bool isTalking_ = false;
 };
@@ -148,6 +129,8 @@ TEST_F(UnansweredTest, EveryControlShowsInTheEndWhatHolds) {
             for (const Runtime::Deed& deed : deedsThatShow(widget)) {
                 const Meaning meaning = meaningOf(widget);
                 if (std::ranges::count(row.unanswered, meaning) == 0) continue;
+                hangUp();
+                isTalking_ = false;
                 begin();
                 row.prepare();
                 const Integer known = shown(widget);

@@ -32,11 +32,11 @@ TEST_F(ConversationTest, LeavesOutTheSteadyFlowUnlessAskedForEverything) {
 }
 
 TEST_F(ConversationTest, LeavesOutWhatOnlyRepeatsTheLastValueOfTheSameIndex) {
-    for (const bool isOn : {true, true, false}) panel_.Signal(1, isOn);
-    panel_.Signal(2, false);
+    for (const bool isOn : {true, true, false}) panel_.Ready(1, isOn);
+    panel_.Ready(2, false);
     panel_.ClearTest();
     panel_.ClearTest();
-    EXPECT_EQ(log_.lines(), Log({"let Signal 1 -1", "let Signal 1 0", "let Signal 2 0",
+    EXPECT_EQ(log_.lines(), Log({"let Ready 1 -1", "let Ready 1 0", "let Ready 2 0",
                                  "call ClearTest", "call ClearTest"}));
 }
 
@@ -56,12 +56,35 @@ TEST_F(ConversationTest, TellsTheTimeAfterAPause) {
               Log({"let Connected -1", "let PowerOn -1", "# 12.3 s", "let PowerOn 0"}));
 }
 
-TEST(EventLogTest, KeepsTheLastLines) {
-    EventLog log;
-    for (std::size_t i = 0; i < EventLog::kMostLines + 2; ++i) log.add(std::to_string(i));
-    EXPECT_EQ(log.lines().size(), EventLog::kMostLines);
-    EXPECT_EQ(log.lines().front(), "2");
-    EXPECT_EQ(log.added(), EventLog::kMostLines + 2);
+TEST_F(ConversationTest, SaysItInATechniciansWords) {
+    conversation_.setForm(Form::words);
+    conversation_.setClock([] { return "15:09:26"; });
+    const auto events = panel_.connect([&](Long dispatchId, std::span<Value> arguments) {
+        conversation_.raised(dispatchId, arguments);
+        panel_.PowerOn();
+        panel_.Mute(2, true);
+        conversation_.handled();
+    });
+    store_.perform(Runtime::Deed::click(Layout::channel(2).muteButton));
+    panel_.Mute(0, false);
+    panel_.chkTest(1, true);
+    panel_.AggiugiTesto(u"a\nb");
+    conversation_.raised(9, std::array<Value, 3>{Integer(3), Integer(4), Integer(2)});
+    for (int i = 0; i < 2; ++i) {
+        conversation_.raised(8, std::array<Value, 2>{Integer(1), Integer(60)});
+        if (i == 0) conversation_.handled();
+    }
+    conversation_.raised(8, std::array<Value, 2>{Integer(2), Integer(0)});
+    EXPECT_THROW(panel_.chkTest(6, false), Error);
+    EXPECT_EQ(
+        log_.lines(),
+        Log({"15:09:26  Asked to mute or unmute channel 2", "15:09:26    Channel 2 muted",
+             "15:09:26  The whole amplifier unmuted", "15:09:26  Positive power bus test passed",
+             "15:09:26  Asked for Line in on the negative input of channel 3",
+             "15:09:26    Asked for a thermal test of channels 1 and 2 at 60 °C",
+             "15:09:26      Asked to end the thermal test of channels 3 and 4",
+             "15:09:26        Test 6 failed",
+             "15:09:26        Error 340 Control array element '6' doesn't exist"}));
 }
 
 TEST(EventLogTest, CutsALongLineBetweenCharacters) {

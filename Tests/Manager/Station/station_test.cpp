@@ -6,16 +6,14 @@ namespace Orvo::Manager {
 namespace {
 
 using namespace std::chrono_literals;
+using enum Notice::Kind;
 
 /// Says the link up and each event's answer, and calls nothing by itself.
 class Answering final : public Device {
 public:
     explicit Answering(Script::PanelOwner& owner)
-        : events_(owner.panel().connect([&owner](Long, std::span<Value>) {
-              owner.panel().Mute(1, true);
-              owner.panel().Mute(Integer{1});
-          })) {
-        owner.panel().Connected(true);
+        : owner_(owner), renewals_(owner.onRenewed([this] { hear(); })) {
+        hear();
     }
     [[nodiscard]] std::string name() const override { return "Amplifier"; }
     void advance(std::chrono::milliseconds elapsed) override { silence_ += elapsed; }
@@ -24,8 +22,18 @@ public:
     }
 
 private:
+    void hear() {
+        events_ = owner_.panel().connect([this](Long, std::span<Value>) {
+            owner_.panel().Mute(1, true);
+            owner_.panel().Mute(Integer{1});
+        });
+        owner_.panel().Connected(true);
+    }
+
+    Script::PanelOwner& owner_;
     std::chrono::milliseconds silence_{0};
     Connection events_;
+    Connection renewals_;
 };
 
 class StationTest : public Tests::OwnedPanel {
@@ -58,9 +66,48 @@ TEST_F(StationTest, WhatTheDeviceAnswersStandsUnderTheEventOnAFreshPanelToo) {
         panel().Clock(1, true);
         EXPECT_EQ(station_.log().lines(), Lines({"event Mute 1", "  let Mute 1 -1", "  get Mute 1",
                                                  "  = -1", "let Clock 1 -1"}));
-        station_.startAnew();
+        owner_.renew();
         EXPECT_EQ(station_.situation().silence, 0s);
     }
+}
+
+TEST_F(StationTest, NothingThatGoesOnInTheAmplifierIsForgotten) {
+    const auto expectNotices = [&](const std::vector<Notice>& expected) {
+        ASSERT_TRUE(station_.notices());
+        EXPECT_EQ(*station_.notices(), expected);
+    };
+    panel().PowerOn(true);
+    expectNotices({});
+    panel().Protection(0, true);
+    expectNotices({{alarm, "Protection", kCommon.protectionLamp}});
+    panel().Protection(4, true);
+    panel().Mute(2, true);
+    panel().Mute(3, true);
+    store().perform(Runtime::Deed::click(pair(2).waves[0]));
+    store().perform(Runtime::Deed::click(channel(4).negative.option));
+    click(pair(2).startButton);
+    store().perform(Runtime::Deed::move(pair(1).testSlider, 40));
+    const Notice protection{alarm, "Protection: 4", channel(4).protectionLamp};
+    const Notice test{activity, "Thermal test 1 + 2: 40 °C", pair(1).testSlider};
+    // The click that starts the generator is answered by a mute of channel 1.
+    const Notice mutes{activity, "Muted: 1, 2, 3", channel(1).muteButton};
+    expectNotices({protection,
+                   {activity, "Generator: 100 Hz to channel 4 −", pair(2).startButton},
+                   test,
+                   mutes});
+    panel().PowerOn(false);
+    expectNotices({protection, test, mutes});
+    panel().PowerOn(true);
+    expectNotices({protection,
+                   {activity, "Generator: 100 Hz to channel 4 −", pair(2).startButton},
+                   test,
+                   mutes});
+    panel().AbilitaSlave(false);
+    expectNotices({{alarm, "Protection", kCommon.protectionLamp},
+                   test,
+                   {activity, "Muted: 1, 2", channel(1).muteButton}});
+    station_.disconnect();
+    EXPECT_FALSE(station_.notices()) << "old";
 }
 
 }  // namespace

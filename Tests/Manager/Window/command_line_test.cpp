@@ -11,22 +11,21 @@ std::variant<Options, Ending> parse(const QStringList& words) {
 }
 
 TEST(CommandLineTest, SaysHowToStartAndWhatToRunRecordAndConnect) {
-    const auto start = std::get<Options>(
-        parse({"--zoom", "150", "--tab=2", "--read-only", "--fullscreen", "--simulate"}));
+    const auto start = std::get<Options>(parse(
+        {"--zoom", "150", "--tab=2", "--read-only", "--fullscreen", "--simulate", "--reset"}));
     EXPECT_EQ(start.zoom, 150);
     EXPECT_EQ(start.tab, 2);
-    EXPECT_TRUE(start.session.isReadOnly && start.isFullScreen);
+    EXPECT_TRUE(start.session.isReadOnly && start.isFullScreen && start.forgets);
     EXPECT_EQ(start.session.seed, 1U);
     EXPECT_EQ(std::get<Options>(parse({"--simulate=4294967295"})).session.seed, 4294967295U);
     const auto script = std::get<Options>(parse({"--script", "-", "--keep-going"}));
     EXPECT_EQ(script.script, "-");
     EXPECT_TRUE(script.keepsGoing);
     const auto link = std::get<Options>(
-        parse({"--record=session", "--record-answers", "--link", "/dev/ttyS0@9600"}));
+        parse({"--record=session", "--record-answers", "--link", "/dev/ttyS0@9600,7E1"}));
     EXPECT_EQ(link.session.record, "session");
     EXPECT_EQ(link.session.answers, Script::Answers::inFull);
-    EXPECT_EQ(link.link.value().path, "/dev/ttyS0");
-    EXPECT_EQ(link.link.value().speed, 9600U);
+    EXPECT_EQ(link.link.value().text(), "/dev/ttyS0@9600,7E1");
 }
 
 TEST(CommandLineTest, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
@@ -50,8 +49,9 @@ TEST(CommandLineTest, RefusesWhatIsWrongAndSaysWhatWouldBeRight) {
         {{"--script="}, "--script takes the name of a file"},
         {{"--record="}, "--record takes the name of a file"},
         {{"--script", "a", "--record", "b"}, "--script and --record exclude one another"},
+        {{"--script", "a", "--reset"}, "--script and --reset exclude one another"},
         {{"--simulate", "--link", "b"}, "--link and --simulate exclude one another"},
-        {{"--link", "/dev/ttyS0@77"}, "not \"/dev/ttyS0@77\""},
+        {{"--link", "/dev/ttyS0@9"}, "not \"/dev/ttyS0@9\""},
         {{"file"}, "\"file\" is not expected"},
     };
     for (const Row& row : rows) {
@@ -74,10 +74,11 @@ TEST(CommandLineTest, HelpNamesEveryOption) {
 }
 
 TEST(PlatformTest, ADisplayThatCannotBeReachedLeavesOffscreen) {
-    EXPECT_EQ(platformFor(false, false), "offscreen");
-    EXPECT_EQ(platformFor(true, false), "xcb;offscreen");
-    EXPECT_EQ(platformFor(false, true), "wayland;offscreen");
-    EXPECT_EQ(platformFor(true, true), "");
+    EXPECT_EQ(platformFor(false, false, "KDE"), "offscreen");
+    EXPECT_EQ(platformFor(true, false, "KDE"), "xcb;offscreen");
+    EXPECT_EQ(platformFor(false, true, "GNOME"), "wayland;offscreen");
+    EXPECT_EQ(platformFor(true, true, "KDE"), "wayland;xcb;offscreen");
+    EXPECT_EQ(platformFor(true, true, "ubuntu:GNOME"), "xcb;wayland;offscreen");
 }
 
 }  // namespace

@@ -36,13 +36,22 @@ void connectLink(ManagerWindow& window, const QString& text) {
     window.connectLink(LinkAddress{"/nowhere/" + text.toStdString()});
 }
 
+void offerPort(ManagerWindow& window, const QString& text) {
+    window.setPortOffer([text] { return std::vector<OfferedPort>{{text, text, text}}; });
+    window.setLastLinks({text});
+    window.askForLink();
+}
+
 void log(ManagerWindow& window, const QString& text) {
     window.panelWidget().panel().AggiugiTesto(text.toStdU16String());
 }
 
 TEST(HostileTexts, AreShownAsTheyAreByTheProgram) {
-    const std::pair<const char*, Place> places[] = {
-        {"error", fail}, {"warning", warn}, {"link", connectLink}, {"log", log}};
+    const std::pair<const char*, Place> places[] = {{"error", fail},
+                                                    {"warning", warn},
+                                                    {"link", connectLink},
+                                                    {"port", offerPort},
+                                                    {"log", log}};
     const Tests::TrappedFile file;
     for (const auto& [place, show] : places) {
         ManagerWindow window;
@@ -55,7 +64,7 @@ TEST(HostileTexts, AreShownAsTheyAreByTheProgram) {
             QApplication::processEvents();
             EXPECT_EQ(Tests::faultsOnScreen(), "");
             EXPECT_FALSE(file.hasBeenOpened());
-            for (auto* box : window.findChildren<QMessageBox*>()) delete box;
+            for (auto* dialog : window.findChildren<QDialog*>()) delete dialog;
         }
     }
 }

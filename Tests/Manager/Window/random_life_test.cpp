@@ -32,17 +32,17 @@ class RandomLife {
 public:
     explicit RandomLife(Tests::Chance& chance) : chance_(chance) {
         qputenv("HOME", person_.file("").toUtf8());
+        // No port of this machine.
+        const OfferedPort port{"/nowhere/" + person_.text(), person_.text(), person_.text()};
+        window_.setPortOffer([port] { return std::vector{port, port}; });
         window_.session().connectSimulator();
         window_.open();
     }
 
     void run() {
-        for (int deed = 1; deed <= kDeeds; ++deed) {
-            act();
-            QApplication::processEvents();
-            if (deed % kDeedsBetweenLooks == 0) look();
-            if (testing::Test::HasFailure()) return;
-        }
+        if (!Tests::liveOn(
+                kDeeds, kDeedsBetweenLooks, [this] { act(); }, [this] { look(); }))
+            return;
         window_.close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
@@ -65,7 +65,7 @@ private:
             case 5:
                 return window_.resize(200 + chance_.below(1000), 200 + chance_.below(600));
             case 6:
-                return static_cast<void>(window_.connectLink(person_.text()));
+                return window_.connectLink(LinkAddress{person_.text().toStdString()});
             default:
                 return person_.act(window_);
         }

@@ -11,7 +11,6 @@ public:
     void called(const Member& member, std::span<const Value> arguments) override {
         note("called", member);
         values.assign(arguments.begin(), arguments.end());
-        if (act) act();
     }
     void returned(const Member& member, const Value& value) override {
         note("returned", member);
@@ -25,7 +24,6 @@ public:
     std::vector<std::string> lines;
     std::vector<Value> values;
     Value result;
-    std::function<void()> act;
 
 private:
     void note(const char* what, const Member& member) {
@@ -81,12 +79,6 @@ TEST_F(CallListenerTest, HearsNothingOnceItsConnectionHasEnded) {
     listening_.disconnect();
     panel_.Mute(1, true);
     EXPECT_EQ(notes_.lines, Lines());
-}
-
-TEST_F(CallListenerTest, MayReleaseThePanel) {
-    notes_.act = [this] { bench_->release(); };
-    panel_.Mute(1, true);
-    EXPECT_EQ(notes_.lines, Lines({"called 33", "returned 33"}));
 }
 
 }  // namespace

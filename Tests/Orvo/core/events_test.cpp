@@ -56,37 +56,6 @@ TEST_F(EventsTest, LetASinkDisconnectItselfAndAnotherAndConnectANewOne) {
     EXPECT_EQ(heard, (Lines{"self", "added"}));
 }
 
-TEST_F(EventsTest, LetASinkReleaseThePanelInTheMidstOfAHandler) {
-    // The entry goes on after its event, and a click's event is followed by the mouse's release.
-    for (const auto button : {kCommon.muteButton.id, kCommon.powerButton.id, pair(1).powerCheck.id,
-                              pair(1).startButton.id}) {
-        auto bench = makeBench();
-        int heard = 0;
-        const auto one = bench->panel().connect([&](Long, std::span<Value>) {
-            ++heard;
-            bench->release();
-        });
-        const auto two = bench->panel().connect([&](Long, std::span<Value>) { ++heard; });
-        bench->store().perform(Deed::click(button));
-        bench->store().perform(Deed::click(button));
-        EXPECT_EQ(heard, 1) << Layout::describe(button).name;
-    }
-}
-
-TEST_F(EventsTest, LetASinkReleaseThePanelFromWithinAnEventInsideAnother) {
-    auto bench = makeBench();
-    auto& store = bench->store();
-    Lines heard;
-    const auto one = bench->panel().connect([&](Long id, std::span<Value> arguments) {
-        heard.push_back(lineOf(id, arguments));
-        if (id != 1) return bench->release();
-        store.perform(Deed::click(channel(1).muteButton));
-    });
-    const auto two = bench->panel().connect([&](Long, std::span<Value>) { heard.emplace_back(); });
-    store.perform(Deed::click(kCommon.powerButton));
-    EXPECT_EQ(heard, (Lines{"OnOff", "Mute 1"}));
-}
-
 TEST_F(EventsTest, LetGoOfWhatASinkHoldsOnceItIsDisconnected) {
     const auto held = std::make_shared<int>();
     Connection holding;
@@ -116,14 +85,6 @@ TEST_F(EventsTest, GoOnWhenASinkFails) {
     EXPECT_EQ(heard, 2);
     EXPECT_EQ(lines_,
               (Lines{"OnOff", "! 1003 Host handler failed: no link", "Mute 1", "! 6 Overflow"}));
-}
-
-TEST_F(EventsTest, MayOutliveTheirPanel) {
-    auto bench = makeBench();
-    const auto connection = bench->panel().connect([](Long, std::span<Value>) {});
-    EXPECT_TRUE(connection.isConnected());
-    bench->release();
-    EXPECT_FALSE(connection.isConnected());
 }
 
 using ThreadsTest = PanelTest;

@@ -16,8 +16,19 @@ struct TreeCase {
     Lines ports;
 };
 
+// Those of what is no port, too.
+const std::initializer_list<std::string> kNodes = {
+    "dev/ptmx = ",      "dev/tty1 = ",        "dev/ttyS = ",    "dev/ttyS0 = ",   "dev/ttyS1 = ",
+    "dev/ttyS2 = ",     "dev/ttyS02 = ",      "dev/ttyS2a = ",  "dev/ttyS3 = ",   "dev/ttyS4 = ",
+    "dev/ttyS10 = ",    "dev/ttyA10 = ",      "dev/lp0 = ",     "dev/usb/lp1 = ", "dev/parport0 = ",
+    "dev/rack/tty3 = ", "dev/usb/hiddev0 = ", "dev/ttyUSB0 = ", "dev/ttyACM0 = "};
+
 const TreeCase kTrees[] = {
     {"nothing", {}, {}},
+    {"what has no node",
+     {"sys/devices/a/", "sys/class/tty/ttyS8/device -> sys/devices/a",
+      "sys/class/tty/ttyS0/device -> sys/devices/a"},
+     {"/dev/ttyS0, , Serial port, 3"}},
     {"UART on a recent kernel, with devices between it and its port",
      {"sys/devices/pnp0/00:00/00:00:0/00:00:0.0/subsystem -> sys/bus/serial-base",
       "sys/devices/pnp0/00:00/00:00:0/00:00:0.0/driver -> sys/bus/serial-base/drivers/port",
@@ -75,8 +86,13 @@ const TreeCase kTrees[] = {
 TEST(DevicePortsTest, AreThoseThatTheTreeShows) {
     for (const TreeCase& treeCase : kTrees) {
         const TemporaryDirectory root;
+        root.add(kNodes);
         root.add(treeCase.tree);
         EXPECT_EQ(shown(Runtime::devicePorts(root.path())), treeCase.ports) << treeCase.label;
+        const bool isSerial =
+            treeCase.ports.empty() || treeCase.ports[0].find("/lp") == std::string::npos;
+        EXPECT_EQ(shown(Runtime::serialPorts(root.path())), isSerial ? treeCase.ports : Lines())
+            << treeCase.label;
     }
 }
 

@@ -19,7 +19,7 @@ class MachineSpoolerTest : public testing::Test {
 protected:
     MachineSpoolerTest() {
         root_.add({"proc/sys/kernel/hostname = Rack\n", "sys/devices/a/",
-                   "sys/class/tty/ttyS0/device -> sys/devices/a"});
+                   "sys/class/tty/ttyS0/device -> sys/devices/a", "dev/ttyS0 = "});
     }
 
     Lines discover(const String& server) {

@@ -78,19 +78,6 @@ TEST_F(StoreTest, HoldsAPositionThatIsWrittenAndKeepsAPersonWithinTheBounds) {
     EXPECT_EQ(panel_.take(), (Heard{{kSlider, "change"}}));
 }
 
-TEST_F(StoreTest, BringsTheNearestEnabledTabOnTheLeftToTheFront) {
-    auto& tabs = store_[Layout::kTabs];
-    const auto& state = store_.get<Runtime::StoredTabs>(Layout::kTabs.id).state();
-    store_.perform(Deed::tab(Layout::kTabs.id, 2));
-    tabs.setTabEnabled(1, false);
-    EXPECT_EQ(state.current, 2);
-    tabs.setTabEnabled(2, false);
-    EXPECT_EQ(state.current, 0);
-    store_.perform(Deed::tab(Layout::kTabs.id, 2));
-    EXPECT_EQ(state.current, 0);
-    EXPECT_EQ(errorOf([&] { tabs.setTabEnabled(3, true); }), 5);
-}
-
 TEST_F(StoreTest, KeepsTheSegmentsOfATraceBeforeTheOneThatFails) {
     constexpr auto kPicture = channel(1).scope;
     OperationLog log;

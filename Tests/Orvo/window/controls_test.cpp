@@ -1,5 +1,5 @@
-#include <QAbstractButton>
-#include <QComboBox>
+#include <QApplication>
+#include <QHoverEvent>
 #include <QTabBar>
 
 #include "Orvo/window/controls/value_bubble.h"
@@ -23,29 +23,6 @@ TEST_F(ControlsTest, EveryControlIsWhereTheLayoutHasItAndAsTheStoreSays) {
                               !shown->accessibleName().isEmpty() || !store_.isShown(id);
         EXPECT_TRUE(hasWords) << "nothing to read out";
     }
-}
-
-TEST_F(ControlsTest, AControlFollowsTheStore) {
-    toTab(1);
-    store_[channel(2).positive.option].setValue(true);
-    store_[pair(1).powerCheck].setValue(Widgets::CheckValue::checked);
-    store_[pair(1).startButton].setEnabled(false);
-    store_.show(kCommon.resetLogButton, true);
-    store_[kCommon.amplifierIds].setText(u"300");
-    settle();
-    EXPECT_TRUE(control<QAbstractButton>(channel(2).positive.option).isChecked());
-    EXPECT_TRUE(control<QAbstractButton>(pair(1).powerCheck).isChecked());
-    EXPECT_FALSE(control(pair(1).startButton).isEnabled());
-    EXPECT_FALSE(control(kCommon.resetLogButton).isHidden());
-    EXPECT_EQ(control<QComboBox>(kCommon.amplifierIds).currentIndex(), -1);
-}
-
-TEST_F(ControlsTest, WhatHoldsForAContainerHoldsForItsContents) {
-    store_[Widgets::TabsRef{0}].setTabEnabled(1, false);
-    store_.show(Layout::describe(pair(2).waves[4]).container, false);
-    settle();
-    EXPECT_FALSE(control(pair(1).waves[4]).isEnabled());
-    EXPECT_TRUE(control(pair(2).waves[4]).isHidden());
 }
 
 TEST_F(ControlsTest, TheKeyboardStopsOnceInAGroupOfOptions) {
@@ -98,6 +75,30 @@ TEST_F(ControlsTest, ABubbleSaysAFadersValueBesideItsCapWhileItIsHeld) {
         settle();
     }
     EXPECT_EQ(bubble(), nullptr);
+}
+
+TEST_F(ControlsTest, ATabBehindStandsOutWhileThePointerIsOnIt) {
+    auto& strip = control<QTabBar>(Layout::kTabs);
+    for (const int tab : {0, 1}) {
+        const QImage before = strip.grab().toImage();
+        const QPointF place = strip.tabRect(tab).center();
+        QHoverEvent pointing(QEvent::HoverMove, place, place, place);
+        QApplication::sendEvent(&strip, &pointing);
+        EXPECT_EQ(strip.grab().toImage() != before, tab == 1) << tab;
+    }
+}
+
+TEST_F(ControlsTest, AnIdThatHasNoRoomIsNotCutIntoAnother) {
+    QImage pictures[2];
+    for (const int digits : {12, 40}) {
+        store_[kCommon.amplifierIds].setText(String(std::size_t(digits), u'8'));
+        settle();
+        pictures[digits == 40] = control(kCommon.amplifierIds).grab().toImage();
+    }
+    store_[kCommon.amplifierIds].setText(u"8888");
+    settle();
+    EXPECT_EQ(pictures[0], pictures[1]) << "both end with the sign that more is missing";
+    EXPECT_NE(control(kCommon.amplifierIds).grab().toImage(), pictures[0]);
 }
 
 TEST_F(ControlsTest, TheHourglassShowsAtOnce) {

@@ -1,7 +1,6 @@
 #include <functional>
 #include <optional>
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QShortcut>
 #include <QTabBar>
@@ -100,15 +99,19 @@ TEST_F(InputTest, WhatAPersonDoesReachesThePanel) {
         {"slider dragged", channel(1).volumeSlider, dragUp, {"change", "release"}},
         {"click on the groove", channel(1).volumeSlider, clickGroove, {"change", "release"}},
         {"down on a slider", channel(1).volumeSlider, key(Qt::Key_Down), {"change"}},
+        {"up on a slider that grows upwards", pair(1).testSlider, key(Qt::Key_Up), {"change"}},
+        {"down at its least", pair(1).testSlider, key(Qt::Key_Down), {}},
         {"up at the loudest", channel(1).volumeSlider, key(Qt::Key_Up), {}},
         {"wheel without the focus", pair(1).testSlider, wheel(false), {}},
         {"wheel with the focus", pair(1).testSlider, wheel(true), {"change"}},
         {"wheel over the tabs", kTabs, wheel(true), {}},
     };
+    const QShortcut oneOfTheHosts(QKeySequence("Ctrl+R"), &front_);
     for (const InputRow& row : rows) {
         SCOPED_TRACE(row.label);
         toTab(pageOf(row.widget));
-        store_[channel(1).volumeSlider].setPosition(0);
+        for (const auto slider : {channel(1).volumeSlider, pair(1).testSlider})
+            store_[slider].setPosition(0);
         settle();
         panel_.take();
         row.gesture(control(row.widget));
@@ -118,28 +121,6 @@ TEST_F(InputTest, WhatAPersonDoesReachesThePanel) {
         EXPECT_EQ(panel_.take(), expected);
         control(kTabs).setFocus();
     }
-}
-
-TEST_F(InputTest, TheLogGetsItsKeyBeforeAShortcutOfTheHostDoes) {
-    QShortcut refresh(QKeySequence("Ctrl+R"), &front_);
-    QWidget& log = control(kCommon.log);
-    log.setFocus();
-    QTest::keyClick(&log, Qt::Key_R, Qt::ControlModifier);
-    EXPECT_EQ(panel_.take(), (Heard{{kCommon.log, "key18"}}));
-}
-
-TEST_F(InputTest, ACheckBoxFlipsOncePerClick) {
-    toTab(1);
-    auto& power = control<QAbstractButton>(pair(1).powerCheck);
-    QTest::mouseClick(&power, Qt::LeftButton);
-    settle();
-    EXPECT_TRUE(power.isChecked());
-    pressAndReleaseBeside(power);
-    settle();
-    EXPECT_TRUE(power.isChecked());
-    power.click();
-    settle();
-    EXPECT_FALSE(power.isChecked());
 }
 
 TEST_F(InputTest, ASliderIsHeldWhileItsButtonIsDown) {
@@ -155,21 +136,6 @@ TEST_F(InputTest, ASliderIsHeldWhileItsButtonIsDown) {
     QTest::mousePress(&slider, Qt::LeftButton);
     toTab(0);
     EXPECT_FALSE(isHeld()) << "nobody would tell the release";
-}
-
-TEST_F(InputTest, UpIsMoreOnEverySlider) {
-    toTab(1);
-    struct {
-        Widgets::SliderRef slider;
-        Integer before = 0;
-        Integer after = 0;
-    } rows[] = {{channel(1).volumeSlider, 15, 14}, {pair(1).testSlider, 15, 16}};
-    for (const auto& row : rows) {
-        auto& slider = store_[row.slider];
-        slider.setPosition(row.before);
-        key(Qt::Key_Up)(control(row.slider));
-        EXPECT_EQ(slider.position(), row.after) << Layout::describe(row.slider).name;
-    }
 }
 
 TEST_F(InputTest, AComboTakesWhatTheStoreTakes) {

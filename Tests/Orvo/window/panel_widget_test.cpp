@@ -66,21 +66,6 @@ private:
     }
 };
 
-TEST_F(PanelWidgetTest, TheRoundTripIsOnTheScreenAFrameLater) {
-    host_.act = [&] { widget_->panel().PowerOn(true); };
-    QTest::mouseClick(&control(kCommon.powerButton), Qt::LeftButton);
-    auto& power = dynamic_cast<QAbstractButton&>(control(pair(1).powerCheck));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return power.isChecked(); }));
-}
-
-TEST_F(PanelWidgetTest, TimersRunByTheRealClock) {
-    int ticks = 0;
-    widget_->panel().TimerVirtualTemp34(false);
-    widget_->store().perform(Runtime::Deed::slide(pair(1).testSlider, 50));
-    host_.act = [&] { ++ticks; };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 0; }, 10'000));
-}
-
 TEST_F(PanelWidgetTest, ATimerThatIsStartedLateWaitsItsWholeInterval) {
     auto& panel = widget_->panel();
     panel.TimerVirtualTemp12(false);
@@ -174,18 +159,30 @@ TEST_F(PromptTest, TheAnswerIsWhatWasTypedOrNothingWhenCancelled) {
     }
 }
 
-TEST_F(PromptTest, DeletingThePanelWithdrawsIt) {
-    whenAsked([this](QInputDialog&) { delete widget_; });
-    EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
+TEST_F(PromptTest, GrowsWithTheZoom) {
+    QSize sizes[2];
+    for (const int zoom : {1, 2}) {
+        widget_->setZoom(zoom);
+        whenAsked([&](QInputDialog& dialog) {
+            sizes[zoom - 1] = dialog.size();
+            dialog.reject();
+        });
+        ask();
+    }
+    EXPECT_GT(sizes[1].height(), sizes[0].height());
 }
 
-TEST_F(PromptTest, ClosingTheWindowWithdrawsAllThatAreOpen) {
-    whenAsked([this](QInputDialog&) {
-        whenAsked([this](QInputDialog&) { widget_->close(); });
+TEST_F(PromptTest, ClosingTheWindowOrDeletingThePanelWithdrawsAllThatAreOpen) {
+    for (const bool isDeleted : {false, true}) {
+        whenAsked([=, this](QInputDialog&) {
+            whenAsked(
+                [=, this](QInputDialog&) { isDeleted ? delete widget_ : void(widget_->close()); });
+            EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
+        });
         EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
-    });
-    EXPECT_THROW(ask(), Widgets::PromptWithdrawn);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        if (!isDeleted) widget_->show();
+    }
 }
 
 // The password, the two serial numbers, the information: a window that closes leaves none half

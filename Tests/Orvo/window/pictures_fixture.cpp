@@ -1,17 +1,121 @@
 #include "pictures_fixture.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
+#include <limits>
 #include <numbers>
 #include <string>
 
 #include <QDir>
+#include <QRegion>
 #include <QTest>
-
-#include "picture_comparison.h"
 
 namespace Orvo::Window {
 namespace {
+
+/// How a picture differs from another of the same size.
+struct Difference {
+    /// The largest difference of a spot's mean colour, 0 to 255 in the channel that differs most;
+    /// in spots that have text in them, and in the others.
+    int inText = 0;
+    int elsewhere = 0;
+    /// By how many pixels a text has moved at most, as far as one looks.
+    int shift = 0;
+    /// The largest difference of the mean colours of a text's place.
+    int tint = 0;
+    /// Where: the brighter, the more.
+    QImage picture;
+};
+
+constexpr int kSpot = 4;      // pixels, both ways
+constexpr int kFarthest = 3;  // pixels
+
+QSize spotsOf(QSize size) {
+    return {(size.width() + kSpot - 1) / kSpot, (size.height() + kSpot - 1) / kSpot};
+}
+
+QImage meansOf(const QImage& picture) {
+    const QSize spots = spotsOf(picture.size());
+    return picture.copy(QRect(QPoint(), spots * kSpot))
+        .scaled(spots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+int distance(QRgb one, QRgb other) {
+    return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                     std::abs(qBlue(one) - qBlue(other))});
+}
+
+QRgb meanOf(const QImage& picture) {
+    return picture.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0);
+}
+
+void compareSpots(const QImage& one, const QImage& other, const QRegion& text, Difference& result) {
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const int found = distance(one.pixel(x, y), other.pixel(x, y));
+            const bool isText = text.intersects(QRect(x * kSpot, y * kSpot, kSpot, kSpot));
+            int& largest = isText ? result.inText : result.elsewhere;
+            largest = std::max(largest, found);
+            result.picture.scanLine(y)[x] = static_cast<uchar>(std::min(255, 8 * found));
+        }
+    }
+}
+
+std::int64_t mismatch(const QImage& actual, const QImage& reference, const QRect& place,
+                      QPoint shift) {
+    std::int64_t sum = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x) {
+            sum += distance(actual.pixel(QPoint(x, y) + shift), reference.pixel(x, y));
+        }
+    }
+    return sum;
+}
+
+// By how much it is best moved to be where it was; the nearest of those that are equally good.
+int shiftOf(const QImage& actual, const QImage& reference, const QRect& text) {
+    const QRect place =
+        text & reference.rect().adjusted(kFarthest, kFarthest, -kFarthest, -kFarthest);
+    auto least = std::numeric_limits<std::int64_t>::max();
+    int best = 0;
+    for (int reach = 0; reach <= kFarthest; ++reach) {
+        for (int y = -reach; y <= reach; ++y) {
+            for (int x = -reach; x <= reach; ++x) {
+                if (std::max(std::abs(x), std::abs(y)) != reach) continue;
+                const auto found = mismatch(actual, reference, place, {x, y});
+                if (found < least) best = reach;
+                least = std::min(least, found);
+            }
+        }
+    }
+    return best;
+}
+
+// Looks at spots of a few pixels as a whole, since another hinting of a font moves the edges of
+// glyphs, and changes nothing where there is no text.
+Difference differenceOf(const QImage& actual, const QImage& reference,
+                        const std::vector<QRect>& texts) {
+    QRegion text;
+    for (const QRect& place : texts) text += place;
+    Difference result;
+    result.picture = QImage(spotsOf(reference.size()), QImage::Format_Grayscale8);
+    compareSpots(meansOf(actual), meansOf(reference), text, result);
+    result.picture = result.picture.scaled(reference.size());
+    for (const QRect& place : texts) {
+        result.shift = std::max(result.shift, shiftOf(actual, reference, place));
+        result.tint = std::max(result.tint,
+                               distance(meanOf(actual.copy(place)), meanOf(reference.copy(place))));
+    }
+    return result;
+}
+
+// Whether it is no more than what another hinting makes.
+bool isHinting(const Difference& difference) {
+    return difference.inText <= 50 && difference.elsewhere <= 8 && difference.shift <= 1 &&
+           difference.tint <= 5;
+}
 
 IntegerArray trace(int periods) {
     std::vector<Integer> samples(200);

@@ -26,12 +26,9 @@ public:
     RandomLife& operator=(const RandomLife&) = delete;
 
     void run() {
-        for (int deed = 1; deed <= kDeeds; ++deed) {
-            act();
-            QApplication::processEvents();
-            if (deed % kDeedsBetweenLooks == 0) look();
-            if (testing::Test::HasFailure()) return;
-        }
+        if (!Tests::liveOn(
+                kDeeds, kDeedsBetweenLooks, [this] { act(); }, [this] { look(); }))
+            return;
         widget_->close();
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     }

@@ -5,7 +5,6 @@
 #include "Orvo/window/accessible/control_accessible.h"
 #include "Orvo/window/accessible/log_accessible.h"
 #include "Orvo/window/accessible/page_accessible.h"
-#include "Orvo/window/controls/scope.h"
 #include "Orvo/window/spoken/spoken.h"
 
 namespace Orvo::Window {
@@ -17,11 +16,6 @@ QAccessibleInterface* makeFor(QObject* object) {
     auto* widget = dynamic_cast<Widget*>(object);
     return widget != nullptr ? new Accessible(*widget) : nullptr;
 }
-
-class ScopeAccessible final : public QAccessibleWidget {
-public:
-    explicit ScopeAccessible(Scope& scope) : QAccessibleWidget(&scope, QAccessible::Chart) {}
-};
 
 constexpr auto kMakers = std::to_array<QAccessibleInterface* (*)(QObject*)>({
     makeFor<Page, PageAccessible>,

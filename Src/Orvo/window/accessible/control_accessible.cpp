@@ -68,15 +68,24 @@ void CheckableAccessible::doAction(const QString& action) {
     button().animateClick();
 }
 
+ScopeAccessible::ScopeAccessible(Scope& scope) : QAccessibleWidget(&scope, QAccessible::Chart) {}
+
+QString ScopeAccessible::text(QAccessible::Text text) const {
+    const auto& scope = *static_cast<const Scope*>(widget());
+    const bool isValue = text == QAccessible::Value || text == QAccessible::Description;
+    return isValue ? valueOf(scope.store(), scope.id()) : QAccessibleWidget::text(text);
+}
+
 ComboAccessible::ComboAccessible(ComboBox& combo)
     : QAccessibleWidget(&combo, QAccessible::ComboBox) {}
 
 QAccessibleInterface* ComboAccessible::child(int index) const {
-    return index == 0 ? QAccessible::queryAccessibleInterface(combo().view()) : nullptr;
+    return index == 0 && childCount() == 1 ? QAccessible::queryAccessibleInterface(combo().view())
+                                           : nullptr;
 }
 
 int ComboAccessible::indexOfChild(const QAccessibleInterface* child) const {
-    return child != nullptr && child->object() == combo().view() ? 0 : -1;
+    return child != nullptr && child == this->child(0) ? 0 : -1;
 }
 
 QString ComboAccessible::text(QAccessible::Text text) const {

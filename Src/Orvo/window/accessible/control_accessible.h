@@ -4,6 +4,7 @@
 
 #include "Orvo/window/controls/buttons.h"
 #include "Orvo/window/controls/combo_box.h"
+#include "Orvo/window/controls/scope.h"
 #include "Orvo/window/controls/slider.h"
 
 // What assistive technology does goes the person's way and doesn't wait for what comes of it: a
@@ -44,12 +45,21 @@ private:
     [[nodiscard]] PressButton& button() const { return *static_cast<PressButton*>(widget()); }
 };
 
-/// Called by its name, where the toolkit's own is called by what is picked.
+/// Measured when it is asked, and not for each trace.
+class ScopeAccessible final : public QAccessibleWidget {
+public:
+    explicit ScopeAccessible(Scope& scope);
+
+    [[nodiscard]] QString text(QAccessible::Text text) const override;
+};
+
+/// Called by its name, where the toolkit's own is called by what is picked. Its list is there while
+/// its tab is in front.
 class ComboAccessible final : public QAccessibleWidget {
 public:
     explicit ComboAccessible(ComboBox& combo);
 
-    [[nodiscard]] int childCount() const override { return 1; }
+    [[nodiscard]] int childCount() const override { return combo().isVisible() ? 1 : 0; }
     [[nodiscard]] QAccessibleInterface* child(int index) const override;
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override;
     [[nodiscard]] QString text(QAccessible::Text text) const override;

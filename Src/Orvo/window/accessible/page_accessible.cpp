@@ -1,7 +1,6 @@
 #include "Orvo/window/accessible/page_accessible.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "Orvo/window/controls/control.h"
@@ -10,8 +9,6 @@
 
 namespace Orvo::Window {
 
-using Layout::Kind;
-
 PaintedAccessible::PaintedAccessible(Page& page, WidgetId id) : page_(&page), id_(id) {}
 
 QString PaintedAccessible::value() const { return valueOf(page_->store(), id_); }
@@ -19,10 +16,6 @@ QString PaintedAccessible::value() const { return valueOf(page_->store(), id_); 
 void PaintedAccessible::announce() {
     const QString now = value();
     if (std::exchange(told_, now) == now) return;
-    if (valueInterface() != nullptr) {
-        QAccessibleValueChangeEvent value(this, currentValue());
-        QAccessible::updateAccessibility(&value);
-    }
     QAccessibleEvent description(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&description);
 }
@@ -48,25 +41,6 @@ QAccessible::State PaintedAccessible::state() const {
     state.readOnly = true;
     state.invisible = !page_->isVisible() || !page_->store().isShown(id_);
     return state;
-}
-
-void* PaintedAccessible::interface_cast(QAccessible::InterfaceType type) {
-    const bool isCounted = Layout::kindOf(id_) != Kind::label;
-    if (type != QAccessible::ValueInterface || !isCounted) return nullptr;
-    return static_cast<QAccessibleValueInterface*>(this);
-}
-
-QVariant PaintedAccessible::currentValue() const {
-    return numberOf(page_->store(), id_).value_or(0);
-}
-
-QVariant PaintedAccessible::maximumValue() const {
-    const auto* readout = readoutWith(id_);
-    return readout == nullptr ? 1 : int(std::pow(10, readout->width)) - 1;
-}
-
-QVariant PaintedAccessible::minimumValue() const {
-    return readoutWith(id_) == nullptr ? 0 : -maximumValue().toInt();
 }
 
 PageAccessible::PageAccessible(Page& page) : QAccessibleWidget(&page, QAccessible::Pane) {}

@@ -10,9 +10,9 @@
 
 namespace Orvo::Window {
 
-/// A painted lamp, readout or text: a name, and what it says as its value and description. What can
-/// be counted is a number too.
-class PaintedAccessible final : public LeafAccessible, public QAccessibleValueInterface {
+/// A painted lamp, readout or text: a name, and what it says as its value and description. A number
+/// would be offered to be increased.
+class PaintedAccessible final : public LeafAccessible {
 public:
     PaintedAccessible(Page& page, WidgetId id);
 
@@ -27,13 +27,6 @@ public:
     // An indicator's role would suit a lamp, but is unknown on the X desktops.
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::StaticText; }
     [[nodiscard]] QAccessible::State state() const override;
-    void* interface_cast(QAccessible::InterfaceType type) override;
-
-    [[nodiscard]] QVariant currentValue() const override;
-    void setCurrentValue(const QVariant&) override {}
-    [[nodiscard]] QVariant maximumValue() const override;
-    [[nodiscard]] QVariant minimumValue() const override;
-    [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
 
 private:
     [[nodiscard]] QString value() const;

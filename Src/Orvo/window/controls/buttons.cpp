@@ -7,7 +7,6 @@
 
 #include "Artwork/Drawings/drawings.h"
 #include "Orvo/window/drawing/chrome.h"
-#include "Orvo/window/drawing/kept_picture.h"
 #include "Orvo/window/drawing/palette.h"
 
 namespace Orvo::Window {
@@ -88,6 +87,11 @@ void OptionButton::selectNext(int step) {
     }
 }
 
+void PowerButton::layOut(const Scale& scale) {
+    PressButton::layOut(scale);
+    pictures_ = {};
+}
+
 void PowerButton::refresh() {
     PressButton::refresh();
     setChecked(stored<Runtime::StoredCheck>().value == Widgets::CheckValue::checked);
@@ -109,7 +113,7 @@ void PowerButton::paintEvent(QPaintEvent*) {
         Artwork::paint(onto, isSunken ? Artwork::kPowerDown : Artwork::kPowerUp, rect());
     };
     const auto key = [&] { return QString(isSunken ? "down" : "up"); };
-    KeptPicture().paint(painter, rect(), {key, draw});
+    pictures_[isSunken ? 1 : 0].paint(painter, rect(), {key, draw});
     if (!isEnabled()) drawVeil(painter, Palette::kDisabledVeil);
     if (isEnabled() && underMouse()) drawVeil(painter, Palette::kPointedVeil);
     drawFocus(painter, *this, zoom());

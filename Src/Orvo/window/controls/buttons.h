@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
+
 #include "Orvo/window/controls/press_button.h"
+#include "Orvo/window/drawing/kept_picture.h"
 
 namespace Orvo::Window {
 
@@ -32,6 +35,7 @@ private:
 class PowerButton final : public PressButton {
 public:
     using PressButton::PressButton;
+    void layOut(const Scale& scale) override;
     void refresh() override;
 
 protected:
@@ -39,6 +43,8 @@ protected:
 
 private:
     void drawVeil(QPainter& painter, QColor colour) const;
+
+    std::array<KeptPicture, 2> pictures_;  // let out, pressed in
 };
 
 }  // namespace Orvo::Window

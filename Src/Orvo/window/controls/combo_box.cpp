@@ -11,6 +11,7 @@
 #include "Orvo/window/drawing/chrome.h"
 #include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/shown_text.h"
+#include "Orvo/window/drawing/text.h"
 
 namespace Orvo::Window {
 
@@ -41,6 +42,13 @@ void ComboBox::refresh() {
     update();
 }
 
+// The list has room for what the box has none for.
+void ComboBox::showPopup() {
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + bar);
+    QComboBox::showPopup();
+}
+
 // Qt would make the list for its font, which few ever open; made later, it takes the font over.
 void ComboBox::changeEvent(QEvent* event) {
     if (event->type() != QEvent::FontChange) QComboBox::changeEvent(event);
@@ -63,9 +71,16 @@ void ComboBox::paintEvent(QPaintEvent*) {
                                     {right - arrow, middle + arrow / 2},
                                     {right, middle - arrow / 2}}));
     painter.setPen(ink);
-    painter.drawText(QRectF(5 * zoom(), 0, right - 2 * arrow - 6 * zoom(), height()),
-                     Qt::AlignLeft | Qt::AlignVCenter, shown(stored<Runtime::StoredCombo>().text));
+    drawChosen(painter, QRectF(5 * zoom(), 0, right - 2 * arrow - 6 * zoom(), height()));
     drawFocus(painter, *this, zoom());
+}
+
+// What doesn't fit is set narrower, and may not be read as something shorter.
+void ComboBox::drawChosen(QPainter& painter, const QRectF& room) const {
+    const QString text = shown(stored<Runtime::StoredCombo>().text);
+    painter.setFont(narrowed(font(), text, room.width()));
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                     QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, room.width()));
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event) {

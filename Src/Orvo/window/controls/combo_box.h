@@ -12,6 +12,7 @@ class ComboBox final : public QComboBox, public Control {
 public:
     ComboBox(Runtime::Store& store, WidgetId id, QWidget* parent);
     void refresh() override;
+    void showPopup() override;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -21,6 +22,7 @@ protected:
 
 private:
     void pick(int item);
+    void drawChosen(QPainter& painter, const QRectF& room) const;
 };
 
 }  // namespace Orvo::Window

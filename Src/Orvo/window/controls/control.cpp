@@ -31,9 +31,13 @@ void Control::layOut(const Scale& scale) {
     self_.setFont(toQt(looks().font, zoom_));
 }
 
-void Control::refresh() {
+void Control::refreshPresence() {
     self_.setVisible(store_.isShown(id_));
     self_.setEnabled(store_.acceptsInput(id_));
+}
+
+void Control::refresh() {
+    refreshPresence();
     tellValueTo(self_, store_, id_);
 }
 
@@ -67,6 +71,10 @@ using Controls = Widgets::KindTable<
 // clang-format on
 
 }  // namespace
+
+bool Control::isForHost(const QWheelEvent& event) {
+    return event.modifiers().testFlag(Qt::ControlModifier);
+}
 
 void Control::press(QMouseEvent& event) {
     const auto button = mouseButtonOf(event);

@@ -43,6 +43,12 @@ protected:
     bool perform(const Deed& deed) { return store_.perform(deed); }
     [[nodiscard]] double zoom() const { return zoom_; }
 
+    /// The wheel with Ctrl is left to whoever shows the panel.
+    [[nodiscard]] static bool isForHost(const QWheelEvent& event);
+
+    /// Whether it is there, and takes input.
+    void refreshPresence();
+
     /// Hands a mouse button on, but for the further ones that some mice have.
     void press(QMouseEvent& event);
     void release(QMouseEvent& event);

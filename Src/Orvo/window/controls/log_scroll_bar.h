@@ -15,6 +15,11 @@ class LogScrollBar final : public QScrollBar {
 public:
     using QScrollBar::QScrollBar;
 
+    /// The style's is one for all zooms; the toolkit makes as much room as this says.
+    [[nodiscard]] QSize sizeHint() const override {
+        return {minimumWidth(), QScrollBar::sizeHint().height()};
+    }
+
     /// To be called after its range has changed, when its value is final too.
     void settle() {
         if (handle() != shown_) update();

@@ -7,9 +7,11 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QWheelEvent>
 
 #include "Orvo/service/information_entry.h"
 #include "Orvo/window/drawing/palette.h"
@@ -41,6 +43,7 @@ LogView::LogView(Runtime::Store& store, WidgetId id, QWidget* parent)
 // size.
 void LogView::layOut(const Scale& scale) {
     bar_.setFixedWidth(scale.thickness(11));
+    bar_.parentWidget()->layout()->activate();  // which does not by itself while it is hidden
     Control::layOut(scale);
     rowHeight_ = QFontMetrics(font()).height();
     updateGeometries();
@@ -142,6 +145,10 @@ void LogView::currentChanged(const QModelIndex& current, const QModelIndex& befo
     QAccessibleEvent event(this, QAccessible::Focus);
     event.setChild(current.row());
     QAccessible::updateAccessibility(&event);
+}
+
+void LogView::wheelEvent(QWheelEvent* event) {
+    isForHost(*event) ? event->ignore() : QAbstractItemView::wheelEvent(event);
 }
 
 // The one key that the panel waits for here is not left to a shortcut of the host's.

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include "Orvo/window/drawing/palette.h"
+#include "Orvo/window/spoken/hints.h"
 
 namespace Orvo::Window {
 
@@ -24,9 +25,15 @@ void Scope::layOut(const Scale& scale) {
 }
 
 void Scope::refresh() {
-    Control::refresh();
+    refreshPresence();
     isPictureOld_ = true;
     update();
+}
+
+// To measure each trace takes longer than to draw it.
+bool Scope::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) tellValueTo(*this, store(), id());
+    return QWidget::event(event);
 }
 
 void Scope::paintEvent(QPaintEvent*) {
@@ -50,7 +57,10 @@ void Scope::draw() {
 
 // Into the pixels that are there: to give them back each time may be to ask the system for them.
 void Scope::startFromGrid() {
-    if (picture_.size() != grid_.size()) picture_ = grid_.copy();
+    if (picture_.size() != grid_.size()) {
+        picture_ = grid_.copy();
+        return;
+    }
     std::memcpy(picture_.bits(), grid_.constBits(), std::size_t(grid_.sizeInBytes()));
 }
 

@@ -20,6 +20,7 @@ public:
     void refresh() override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -15,11 +15,11 @@ namespace Orvo::Window {
 
 namespace {
 
-constexpr double kCapHeight = 11;  // pixels at zoom 1
-constexpr double kCapInset = 2.5;  // pixels at zoom 1
-constexpr double kEnd = 3;         // pixels at zoom 1
-constexpr double kGroove = 4;      // pixels at zoom 1
-constexpr double kGrooveLeft = 9;  // pixels at zoom 1, its middle
+constexpr double kCapHeight = 11;    // pixels at zoom 1
+constexpr double kCapInset = 2.5;    // pixels at zoom 1
+constexpr double kEnd = 3;           // pixels at zoom 1
+constexpr double kGroove = 4;        // pixels at zoom 1
+constexpr double kGrooveMiddle = 9;  // pixels at zoom 1, from the left
 constexpr int kTicks = 9;
 constexpr int kMainTick = 4;  // every so many ticks
 
@@ -46,7 +46,7 @@ void Slider::showValue() {
     bubble_->say(valueOf(store(), id()), mapToParent(at), zoom());
 }
 
-double Slider::middle() const { return kGrooveLeft * zoom(); }
+double Slider::middle() const { return kGrooveMiddle * zoom(); }
 
 SliderTrack Slider::track() const {
     const double margin = (kEnd + kCapHeight / 2) * zoom();
@@ -120,7 +120,7 @@ void Slider::keyPressEvent(QKeyEvent* event) {
 }
 
 void Slider::wheelEvent(QWheelEvent* event) {
-    if (!hasFocus()) return event->ignore();
+    if (!hasFocus() || isForHost(*event)) return event->ignore();
     wheel_ += event->angleDelta().y();
     const int steps = wheel_ / QWheelEvent::DefaultDeltasPerStep;
     wheel_ %= QWheelEvent::DefaultDeltasPerStep;
@@ -175,7 +175,7 @@ void Slider::drawGroove(QPainter& painter) const {
 void Slider::drawCap(QPainter& painter) const {
     const QRectF place = cap();
     int bright = isEnabled() ? 222 : 112;
-    if (isEnabled() && (underMouse() || grip_)) bright = 244;
+    if (isEnabled() && (underMouse() || stored<Runtime::StoredSlider>().isHeld)) bright = 244;
     const auto metal = [bright](double share) {
         const int level = int(bright * share);
         return QColor(level, level, qMin(255, level + 4));

@@ -1,5 +1,6 @@
 #include "Orvo/window/controls/tab_strip.h"
 
+#include <QHoverEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QWheelEvent>
@@ -15,7 +16,11 @@ struct TabColours {
     QColor text;
 };
 
-TabColours coloursOf(int tab) {
+enum class Standing { inFront, pointedAt, behind };
+
+TabColours coloursOf(int tab, Standing standing) {
+    if (standing == Standing::pointedAt) return {Palette::kPointedTab, Palette::kPointedTabText};
+    if (standing == Standing::behind) return {Palette::kTabBehind, Palette::kTabBehindText};
     if (tab == 0) return {Palette::kCommonTab, toQt(Layout::kCommonText)};
     return {Palette::kPairTab, toQt(Layout::kPairText)};
 }
@@ -28,6 +33,7 @@ TabStrip::TabStrip(Runtime::Store& store, QWidget* parent)
     setExpanding(false);
     setUsesScrollButtons(false);
     setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
     for (const auto caption : Layout::kTabCaptions) addTab(toQt(StringView(caption)));
     connect(this, &QTabBar::currentChanged, this, &TabStrip::select);
 }
@@ -66,6 +72,15 @@ void TabStrip::step(int direction) {
 
 QSize TabStrip::tabSizeHint(int index) const { return {widths_[std::size_t(index)], height()}; }
 
+// A pointer that merely is where the strip comes up points at nothing.
+bool TabStrip::event(QEvent* event) {
+    if (event->type() == QEvent::HoverMove) {
+        pointedAt_ = tabAt(static_cast<QHoverEvent&>(*event).position().toPoint());
+    }
+    if (event->type() == QEvent::HoverLeave) pointedAt_ = -1;
+    return QTabBar::event(event);
+}
+
 void TabStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Palette::kTabStrip);
@@ -75,9 +90,11 @@ void TabStrip::paintEvent(QPaintEvent*) {
 
 void TabStrip::drawTab(QPainter& painter, int tab) const {
     const bool isInFront = tab == currentIndex();
+    const bool isPointedAt = tab == pointedAt_;
     const QRectF place = QRectF(tabRect(tab)).adjusted(zoom(), 2 * zoom(), -zoom(), 0);
-    const TabColours colours =
-        isInFront ? coloursOf(tab) : TabColours{Palette::kTabBehind, Palette::kTabBehindText};
+    const TabColours colours = coloursOf(tab, isInFront     ? Standing::inFront
+                                              : isPointedAt ? Standing::pointedAt
+                                                            : Standing::behind);
     painter.save();
     painter.setClipRect(place);
     painter.setPen(Qt::NoPen);

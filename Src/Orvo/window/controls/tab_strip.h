@@ -21,6 +21,7 @@ public:
 protected:
     [[nodiscard]] QSize tabSizeHint(int index) const override;
     [[nodiscard]] QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
@@ -28,6 +29,7 @@ private:
     void select(int tab);
     void drawTab(QPainter& painter, int tab) const;
 
+    int pointedAt_ = -1;
     std::array<int, Layout::kTabCaptions.size()> widths_{};  // Qt asks for them again and again
 };
 

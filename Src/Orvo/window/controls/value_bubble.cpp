@@ -33,7 +33,7 @@ void ValueBubble::paintEvent(QPaintEvent*) {
     pointer.closeSubpath();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Palette::kBubbleEdge);
+    painter.setPen(Palette::kCapEdge);
     painter.setBrush(Palette::kBubble);
     painter.drawPath(outline.united(pointer));
     painter.setPen(Palette::kBubbleText);

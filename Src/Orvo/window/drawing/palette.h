@@ -48,15 +48,19 @@ constexpr QColor kCapEdge(24, 27, 32);
 constexpr QColor kCapIndex(176, 24, 24);
 constexpr QColor kDisabledCapIndex(60, 62, 66);
 
+// What must not be overlooked, on whatever ground.
+constexpr QColor kWarning(255, 204, 51);
+
 constexpr QColor kBubble(250, 250, 244);
-constexpr QColor kBubbleEdge(24, 27, 32);
 constexpr QColor kBubbleText(20, 24, 32);
 
 constexpr QColor kTabStrip(70, 77, 90);
 constexpr QColor kCommonTab(233, 235, 239);
 constexpr QColor kPairTab(36, 43, 55);
 constexpr QColor kTabBehind(92, 100, 115);
+constexpr QColor kPointedTab(108, 117, 134);
 constexpr QColor kTabBehindText(222, 226, 233);
+constexpr QColor kPointedTabText(255, 255, 255);
 constexpr QColor kDisabledTab(78, 85, 98);
 constexpr QColor kDisabledTabText(130, 137, 150);
 

@@ -1,6 +1,7 @@
 #include "Orvo/window/drawing/shown_text.h"
 
 #include <QFontMetrics>
+#include <QLabel>
 #include <QTextLayout>
 
 namespace Orvo::Window {
@@ -8,8 +9,13 @@ namespace Orvo::Window {
 namespace {
 
 constexpr QChar kEllipsis(u'…');
-constexpr int kWidestLine = 560;  // pixels
+constexpr int kWidestLine = 560;  // pixels, in the font of tooltips
+constexpr int kSurelyFits = 28;   // characters; measured, each tip would have its font loaded
 constexpr int kMostLines = 15;
+
+int widestLineIn(const QFont& font) {
+    return kWidestLine * QFontMetrics(font).height() / QFontMetrics(QToolTip::font()).height();
+}
 
 QString cut(QStringView text) {
     if (text.size() <= kLongestShown) return text.toString();
@@ -78,7 +84,9 @@ QString shown(QStringView text) {
 
 QString onLines(QStringView text, const QFont& font) {
     const QString line = shown(text);
-    if (QFontMetrics(font).horizontalAdvance(line) <= kWidestLine) return unmarked(line);
+    if (line.size() <= kSurelyFits) return unmarked(line);
+    const int widest = widestLineIn(font);
+    if (QFontMetrics(font).horizontalAdvance(line) <= widest) return unmarked(line);
     QTextLayout layout(line, font);
     QTextOption anywhere;
     anywhere.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -90,11 +98,15 @@ QString onLines(QStringView text, const QFont& font) {
             lines.back() += kEllipsis;
             break;
         }
-        next.setLineWidth(kWidestLine);
+        next.setLineWidth(widest);
         lines += line.mid(next.textStart(), next.textLength()).trimmed();
     }
     layout.endLayout();
     return unmarked(lines.join('\n'));
+}
+
+void makePlain(const QWidget& dialog) {
+    for (QLabel* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
 }
 
 // There "[*]" stands for a sign that something has changed, and itself when it is doubled.

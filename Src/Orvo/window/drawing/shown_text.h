@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringView>
 #include <QToolTip>
+#include <QWidget>
 
 // Texts from outside, such as log lines and names of files, as they are shown: plain, whole
 // characters of them, and no more than fits the screen.
@@ -18,6 +19,9 @@ QString shown(QStringView text);
 
 /// The same on a few lines, for tooltips and messages. It is never taken for markup.
 QString onLines(QStringView text, const QFont& font = QToolTip::font());
+
+/// Has the labels of a dialog take their texts for no markup either.
+void makePlain(const QWidget& dialog);
 
 /// The same as the title of a window.
 QString asTitle(QStringView text);

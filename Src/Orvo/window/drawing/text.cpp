@@ -30,6 +30,8 @@ QFont toQt(const Layout::Font& font, double zoom) {
     result.setItalic(font.isItalic);
     result.setUnderline(font.isUnderlined);
     result.setHintingPreference(QFont::PreferVerticalHinting);
+    // A host's own font gives it nothing, neither spacing nor a strike through.
+    result.setResolveMask(QFont::AllPropertiesResolved);
     return result;
 }
 

@@ -4,7 +4,6 @@
 
 #include "Artwork/Drawings/drawings.h"
 #include "Orvo/window/drawing/contrast.h"
-#include "Orvo/window/drawing/kept_picture.h"
 #include "Orvo/window/drawing/palette.h"
 #include "Orvo/window/drawing/text.h"
 
@@ -127,18 +126,14 @@ void PaintedScopeHeader::paint(QPainter& painter) const {
                      Qt::AlignVCenter | Qt::TextDontClip, text);
 }
 
-// On whole pixels of the device, for its fine lines. Nobody holds it but the ground it is part of.
+// On whole pixels of the device, for its fine lines.
 void PaintedImage::paint(QPainter& painter) const {
     const bool isCommon = looks().image == Layout::Image::commonTab;
-    const auto draw = [&](QPainter& onto) {
-        Artwork::paint(onto, isCommon ? Artwork::kCommonTab : Artwork::kPairTab, place());
-    };
-    const auto key = [&] { return QString(isCommon ? "common" : "pair"); };
     const QPointF corner = painter.deviceTransform().map(QPointF(place().topLeft()));
     const QPointF off =
         (QPointF(corner.toPoint()) - corner) / painter.device()->devicePixelRatioF();
     painter.translate(off);
-    KeptPicture().paint(painter, place(), {key, draw, Palette::kPage});
+    Artwork::paint(painter, isCommon ? Artwork::kCommonTab : Artwork::kPairTab, place());
     painter.translate(-off);
 }
 

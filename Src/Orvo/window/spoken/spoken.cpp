@@ -4,10 +4,13 @@
 #include <array>
 #include <cmath>
 
+#include "Orvo/generator/wave_figures.h"
 #include "Orvo/monitor/volume.h"
+#include "Orvo/store/shown.h"
 #include "Orvo/values/indexed.h"
 #include "Orvo/window/drawing/shown_text.h"
 #include "Orvo/window/drawing/slider_track.h"
+#include "Orvo/window/spoken/measures.h"
 #include "Orvo/window/spoken/names.h"
 
 namespace Orvo::Window {
@@ -16,13 +19,10 @@ namespace {
 
 using Layout::Kind;
 using Layout::kindOf;
+using Runtime::isLit;
 
 QString captionOf(const Runtime::Store& store, WidgetId label) {
     return shown(store.get<Runtime::StoredLabel>(label).state().caption).trimmed();
-}
-
-bool isLit(const Runtime::Store& store, WidgetId lamp) {
-    return store.get<Runtime::StoredShape>(lamp).state().isLit();
 }
 
 bool isOn(const Runtime::Store& store, WidgetId check) {
@@ -38,21 +38,26 @@ constexpr auto kReadouts = joined(
     ofEach(Layout::kChannels, [](Integer, const auto& its) { return std::array{&its.volume}; }));
 
 std::optional<int> numberOn(const Runtime::Store& store, const Layout::Readout& readout) {
-    int number = 0;
-    for (const WidgetId id : readout.digits()) {
-        const auto digit = store.get<Runtime::StoredDigit>(id).state().digit;
-        if (!digit) return std::nullopt;
-        number = 10 * number + *digit;
-    }
-    return readout.sign && captionOf(store, *readout.sign) == "-" ? -number : number;
+    const auto number = Runtime::magnitudeOn(store, readout);
+    const bool isNegative = readout.sign && captionOf(store, *readout.sign) == "-";
+    return number && isNegative ? -*number : number;
+}
+
+// How long its samples last isn't known to the panel.
+QString inWords(const Widgets::Trace& trace) {
+    const auto figures = waveFigures(trace.samples, sampleScale(trace.height));
+    if (!figures || !figures->isSignal) return "no signal";
+    QString peak = inVolts(figures->peak()) + " peak";
+    if (!figures->period) return peak;
+    const double cycles = trace.upperBound / *figures->period;
+    return peak + ", " + QString::number(cycles, 'f', 1) + " cycles across";
 }
 
 QString traceOn(const Runtime::Store& store, WidgetId picture) {
     for (const auto& drawn : store.get<Runtime::StoredPicture>(picture).state().drawing) {
-        const auto* trace = std::get_if<Widgets::Trace>(&drawn);
-        if (trace != nullptr) return QString("trace of %1 samples").arg(trace->samples.size());
+        if (const auto* trace = std::get_if<Widgets::Trace>(&drawn)) return inWords(*trace);
     }
-    return "no trace";
+    return "no signal";
 }
 
 QString textOf(const Runtime::Store& store, WidgetId label) {
@@ -88,8 +93,6 @@ int positionAt(const Runtime::Store& store, WidgetId slider, double measure) {
 
 std::optional<int> numberOf(const Runtime::Store& store, WidgetId id) {
     switch (kindOf(id)) {
-        case Kind::shape:
-            return int(isLit(store, id));
         case Kind::digit:
             return numberOn(store, *readoutWith(id));
         case Kind::slider:

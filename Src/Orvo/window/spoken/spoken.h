@@ -9,7 +9,7 @@
 #include "Orvo/store/stored_widgets.h"
 
 // What the named widgets say, in words. A lamp says "lit" or "dark", a readout "-42 V", a result
-// "PASS", a slider "-10 dB", a scope "trace of 240 samples".
+// "PASS", a slider "-10 dB", a scope "12.4 V peak, 2.5 cycles across".
 namespace Orvo::Window {
 
 using Widgets::WidgetId;
@@ -17,7 +17,7 @@ using Widgets::WidgetId;
 /// Empty for widgets that have no state to tell, such as buttons.
 QString valueOf(const Runtime::Store& store, WidgetId id);
 
-/// A lamp's 0 or 1, the number on a readout and what a slider's position stands for.
+/// The number on a readout, and what a slider's position stands for.
 std::optional<int> numberOf(const Runtime::Store& store, WidgetId id);
 
 /// "Protection channel 1: lit"; the name alone where there is no value.
