@@ -90,9 +90,9 @@ Deed deedOf(std::int32_t deed, Widgets::WidgetId widget, int number, const char*
 }
 
 }  // namespace
-}  // namespace Orvo::C
 
-using namespace Orvo::C;
+// The same functions that the header declares outside of any namespace.
+extern "C" {
 
 int32_t orvo_create(const orvo_options* options, orvo_panel** panel, orvo_error* error) {
     return guarded(error, [&] {
@@ -167,3 +167,6 @@ int32_t orvo_event_id(const char* name) {
     }
     return 0;
 }
+
+}  // extern "C"
+}  // namespace Orvo::C
