@@ -13,41 +13,90 @@ function(orvo_warnings target)
         # What a compiler newer than CI's warns of must not stop anyone.
         set_target_properties(${target} PROPERTIES COMPILE_WARNING_AS_ERROR OFF)
     endif()
+    # Two builds in two places are the same.
+    target_compile_options(${target} PRIVATE
+        -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
 endfunction()
 
-# orvo_library(target Name [EXPORT set]): a static library, known as Orvo::Name here and to
-# consumers. What its rooms don't declare as public stays here.
-function(orvo_library target name)
-    cmake_parse_arguments(PARSE_ARGV 2 arg "" "EXPORT" "")
-    if(NOT arg_EXPORT)
-        set(arg_EXPORT OrvoTargets)
+# orvo_library(name Name OUTPUT_NAME file [COMPONENT component] [FOR_C]): two of the same objects.
+# orvo_<name>, static, is for this project, which reaches all that is in it. Orvo::<Name>, shared or
+# static as BUILD_SHARED_LIBS has it, is for hosts, here and where it is installed: they see the
+# public headers, and a shared library's exported names.
+function(orvo_library name exported)
+    cmake_parse_arguments(PARSE_ARGV 2 arg "FOR_C" "OUTPUT_NAME;COMPONENT" "")
+    if(NOT arg_COMPONENT)
+        set(arg_COMPONENT runtime)
     endif()
 
-    add_library(${target} STATIC)
-    add_library(Orvo::${name} ALIAS ${target})
-    set_target_properties(${target} PROPERTIES
-        EXPORT_NAME ${name}
+    add_library(orvo_${name} STATIC EXCLUDE_FROM_ALL)
+    target_compile_features(orvo_${name} PUBLIC cxx_std_20)
+    target_include_directories(orvo_${name} PUBLIC ${PROJECT_SOURCE_DIR}/Src)
+    orvo_warnings(orvo_${name})
+
+    set(package orvo_${name}_package)
+    add_library(${package} $<TARGET_OBJECTS:orvo_${name}>)
+    add_library(Orvo::${exported} ALIAS ${package})
+    target_sources(${package} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_BINARY_DIR}/include)
+    set_target_properties(${package} PROPERTIES
+        EXPORT_NAME ${exported}
+        OUTPUT_NAME ${arg_OUTPUT_NAME}
+        LINKER_LANGUAGE CXX
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
         VERIFY_INTERFACE_HEADER_SETS ON)
-    target_compile_features(${target} PUBLIC cxx_std_20)
-    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Src>)
-    target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/Src)
-    orvo_warnings(${target})
-    install(TARGETS ${target} EXPORT ${arg_EXPORT}
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    if(NOT arg_FOR_C)
+        target_compile_features(${package} PUBLIC cxx_std_20)
+    endif()
+    if(NOT BUILD_SHARED_LIBS)
+        target_compile_definitions(orvo_${name} PUBLIC ORVO_STATIC_DEFINE)
+        target_compile_definitions(${package} PUBLIC ORVO_STATIC_DEFINE)
+    endif()
+    if(ORVO_INSTALL)
+        # A set of its own for what needs Qt: a consumer of the other libraries needs none.
+        install(TARGETS ${package} EXPORT Orvo_${arg_COMPONENT}
+            LIBRARY COMPONENT ${arg_COMPONENT} NAMELINK_COMPONENT development
+            ARCHIVE COMPONENT development
+            FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+    endif()
 endfunction()
 
-# orvo_public_headers(target file...): headers of the current room that are installed. A consumer
-# includes them as this project does, by their path below Src.
-function(orvo_public_headers target)
-    target_sources(${target} PUBLIC FILE_SET HEADERS FILES ${ARGN})
+# orvo_link(name [PUBLIC library...] [PRIVATE library...]): what both of a name's libraries link; by
+# its name, where that is one of ours.
+function(orvo_link name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PUBLIC;PRIVATE")
+    foreach(scope IN ITEMS PUBLIC PRIVATE)
+        foreach(library IN LISTS arg_${scope})
+            if(TARGET orvo_${library}_package)
+                target_link_libraries(orvo_${name} ${scope} orvo_${library})
+                target_link_libraries(orvo_${name}_package ${scope} orvo_${library}_package)
+            else()
+                target_link_libraries(orvo_${name} ${scope} ${library})
+                target_link_libraries(orvo_${name}_package ${scope} ${library})
+            endif()
+        endforeach()
+    endforeach()
 endfunction()
 
-# orvo_program(name): a program in <build>/bin that ./run builds.
-function(orvo_program name)
+# orvo_public_headers(name file...): headers of the current room that are installed. Who adds this
+# project to a build of their own finds these, and no others, in a directory of their own.
+function(orvo_public_headers name)
+    foreach(file IN LISTS ARGN)
+        cmake_path(ABSOLUTE_PATH file NORMALIZE OUTPUT_VARIABLE source)
+        cmake_path(RELATIVE_PATH source BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/Src)
+        set(copy ${PROJECT_BINARY_DIR}/include/${source})
+        configure_file(${PROJECT_SOURCE_DIR}/Src/${source} ${copy} COPYONLY)
+        target_sources(orvo_${name}_package PUBLIC FILE_SET HEADERS FILES ${copy})
+    endforeach()
+endfunction()
+
+# orvo_program(name component): a program in <build>/bin.
+function(orvo_program name component)
     add_executable(${name})
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
     orvo_warnings(${name})
-    add_dependencies(programs ${name})
-    install(TARGETS ${name})
+    add_dependencies(orvo-programs ${name})
+    if(ORVO_INSTALL)
+        install(TARGETS ${name} COMPONENT ${component})
+    endif()
 endfunction()

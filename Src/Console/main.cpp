@@ -6,6 +6,7 @@
 
 #include "Console/options.h"
 #include "Console/terminal.h"
+#include "Orvo/version.h"
 #include "Script/buffered_output.h"
 #include "Script/completion.h"
 #include "Script/help.h"

@@ -12,6 +12,7 @@
 #include "Manager/Window/options.h"
 #include "Manager/Window/platform.h"
 #include "Manager/Window/run_script.h"
+#include "Orvo/version.h"
 #include "Orvo/window/emblem.h"
 #include "Script/program.h"
 

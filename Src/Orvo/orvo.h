@@ -5,6 +5,7 @@
 #include <stddef.h>
 #include <stdint.h>
 
+#include "Orvo/export.h"
 #include "Orvo/orvo_ids.h"
 
 /// @file
@@ -24,12 +25,6 @@
 /// understand each other: whoever makes one sets it to the size that it has there (the macros and
 /// functions below do). Text is UTF-8 with a length, and may contain NUL; what is ill-formed
 /// becomes U+FFFD.
-
-#if defined(__GNUC__)
-#define ORVO_C_EXPORT __attribute__((visibility("default")))
-#else
-#define ORVO_C_EXPORT
-#endif
 
 #ifdef __cplusplus
 extern "C" {
@@ -101,12 +96,11 @@ typedef void (*orvo_event_handler)(void* user, int32_t event, const orvo_value* 
 typedef void (*orvo_error_handler)(void* user, int32_t number, const char* text);
 
 /// Makes a panel, and runs its start-up. `options` may be NULL.
-ORVO_C_EXPORT int32_t orvo_create(const orvo_options* options, orvo_panel** panel,
-                                  orvo_error* error);
+ORVO_EXPORT int32_t orvo_create(const orvo_options* options, orvo_panel** panel, orvo_error* error);
 
 /// Ends a panel with all its subscriptions, also from within a handler: the one that is running is
 /// the last then. NULL is no error.
-ORVO_C_EXPORT int32_t orvo_destroy(orvo_panel* panel, orvo_error* error);
+ORVO_EXPORT int32_t orvo_destroy(orvo_panel* panel, orvo_error* error);
 
 /// Calls a member: `kind` is one of `orvo_kind`, the last argument of a let is the new value. The
 /// panel converts the arguments. `result` may be NULL; otherwise it is overwritten when the call is
@@ -114,27 +108,27 @@ ORVO_C_EXPORT int32_t orvo_destroy(orvo_panel* panel, orvo_error* error);
 ///
 /// Error 438 for an id that no member has, 383 and 394 for a property that can only be read or
 /// written, 450 for a wrong number of arguments, 13 and 6 for one that can't be converted.
-ORVO_C_EXPORT int32_t orvo_invoke(orvo_panel* panel, int32_t member, int32_t kind,
-                                  const orvo_value* arguments, size_t count, orvo_value* result,
-                                  orvo_error* error);
+ORVO_EXPORT int32_t orvo_invoke(orvo_panel* panel, int32_t member, int32_t kind,
+                                const orvo_value* arguments, size_t count, orvo_value* result,
+                                orvo_error* error);
 
 /// Frees what a result of `orvo_invoke` holds, which is no value then; that of another version,
 /// too.
-ORVO_C_EXPORT void orvo_clear(orvo_value* result);
+ORVO_EXPORT void orvo_clear(orvo_value* result);
 
 #define ORVO_ALL_EVENTS 0
 /// Has a handler told of an event, or of all; of one event they are told in the order in which they
 /// subscribed. `subscription` may be NULL.
-ORVO_C_EXPORT int32_t orvo_subscribe(orvo_panel* panel, int32_t event, orvo_event_handler handler,
-                                     void* user, uint32_t* subscription, orvo_error* error);
-ORVO_C_EXPORT int32_t orvo_unsubscribe(orvo_panel* panel, uint32_t subscription, orvo_error* error);
+ORVO_EXPORT int32_t orvo_subscribe(orvo_panel* panel, int32_t event, orvo_event_handler handler,
+                                   void* user, uint32_t* subscription, orvo_error* error);
+ORVO_EXPORT int32_t orvo_unsubscribe(orvo_panel* panel, uint32_t subscription, orvo_error* error);
 
 /// Without a handler, which NULL brings back, these errors are written to standard error.
-ORVO_C_EXPORT int32_t orvo_on_error(orvo_panel* panel, orvo_error_handler handler, void* user,
-                                    orvo_error* error);
+ORVO_EXPORT int32_t orvo_on_error(orvo_panel* panel, orvo_error_handler handler, void* user,
+                                  orvo_error* error);
 
 /// Lets time pass, from 0 milliseconds: every timer that comes due ticks, in order.
-ORVO_C_EXPORT int32_t orvo_advance(orvo_panel* panel, int64_t milliseconds, orvo_error* error);
+ORVO_EXPORT int32_t orvo_advance(orvo_panel* panel, int64_t milliseconds, orvo_error* error);
 
 /// What a person does to a widget, for a host's tests.
 enum orvo_deed {
@@ -149,15 +143,15 @@ enum orvo_deed {
 };
 /// Does it to the widget with this name in the layout, which ignores it when it is hidden, disabled
 /// or of another kind. Prompts are cancelled, unless a window asks them.
-ORVO_C_EXPORT int32_t orvo_perform(orvo_panel* panel, int32_t deed, const char* widget,
-                                   int32_t number, const char* text, orvo_error* error);
+ORVO_EXPORT int32_t orvo_perform(orvo_panel* panel, int32_t deed, const char* widget,
+                                 int32_t number, const char* text, orvo_error* error);
 
 /// The id of a member, without regard to case, or of an event; 0 when there is none.
-ORVO_C_EXPORT int32_t orvo_member_id(const char* name);
-ORVO_C_EXPORT int32_t orvo_event_id(const char* name);
+ORVO_EXPORT int32_t orvo_member_id(const char* name);
+ORVO_EXPORT int32_t orvo_event_id(const char* name);
 
 /// One of several arguments, whichever version made them. There have to be more than `index`.
-ORVO_C_EXPORT const orvo_value* orvo_argument(const orvo_value* arguments, size_t index);
+ORVO_EXPORT const orvo_value* orvo_argument(const orvo_value* arguments, size_t index);
 
 static inline orvo_value orvo_boolean(int truth) {
     orvo_value value = ORVO_VALUE_INIT;

@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kBeginning = R"(#ifndef ORVO_ORVO_IDS_H
 #define ORVO_ORVO_IDS_H
 
-// Generated from the tables: cmake --build BUILD --target reference
+// Generated from the tables: cmake --build BUILD --target orvo-make-reference
 
 /// @file
 /// The panel's members and events in numbers. They are part of the contract: none ever changes.

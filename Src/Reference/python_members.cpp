@@ -15,7 +15,7 @@ namespace Orvo::Script {
 namespace {
 
 constexpr std::string_view kPrologue =
-    R"("""Generated from the tables: cmake --build BUILD --target reference"""
+    R"("""Generated from the tables: cmake --build BUILD --target orvo-make-reference"""
 
 from __future__ import annotations
 

@@ -7,7 +7,7 @@ namespace Orvo::Script {
 
 constexpr std::string_view kScriptIntroduction = R"(# Panel script
 
-<!-- Generated from the tables: cmake --build BUILD --target reference -->
+<!-- Generated from the tables: cmake --build BUILD --target orvo-make-reference -->
 
 A line language that plays both sides of the panel: the host that calls its members, and the person
 in front of it.
@@ -181,7 +181,7 @@ and may not.
 
 constexpr std::string_view kInterfaceIntroduction = R"(# The panel's interface
 
-<!-- Generated from the tables: cmake --build BUILD --target reference -->
+<!-- Generated from the tables: cmake --build BUILD --target orvo-make-reference -->
 
 A late-bound call passes parameters by reference, unless the table says otherwise, and they are only
 read. It has these errors besides a member's own: 6 when a number leaves the parameter's range, 13

@@ -172,8 +172,8 @@ std::string joined(std::initializer_list<std::string_view> parts) {
 }  // namespace
 
 std::string widgetInterfaceHeader() {
-    const auto includes = included(
-        {"<memory>\n", "<QList>", "<QString>", "<QWidget>\n", "\"Orvo/core/connection.h\""});
+    const auto includes = included({"<memory>\n", "<QList>", "<QString>", "<QWidget>\n",
+                                    "\"Orvo/core/connection.h\"", "\"Orvo/export.h\""});
     return joined({"#pragma once\n\n", includes, kHeaderBegin, declarations(), kHeaderSignals,
                    signalDeclarations(), kHeaderEnd});
 }

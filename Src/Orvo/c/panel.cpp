@@ -90,9 +90,10 @@ Deed deedOf(std::int32_t deed, Widgets::WidgetId widget, int number, const char*
 }
 
 }  // namespace
+}  // namespace Orvo::C
 
-// The same functions that the header declares outside of any namespace.
-extern "C" {
+// Not in a header: NOLINTNEXTLINE(google-global-names-in-headers)
+using namespace Orvo::C;
 
 int32_t orvo_create(const orvo_options* options, orvo_panel** panel, orvo_error* error) {
     return guarded(error, [&] {
@@ -167,6 +168,3 @@ int32_t orvo_event_id(const char* name) {
     }
     return 0;
 }
-
-}  // extern "C"
-}  // namespace Orvo::C

@@ -52,9 +52,10 @@ std::int32_t onWindow(orvo_panel* panel, orvo_error* error, const Act& act) {
 }
 
 }  // namespace
+}  // namespace Orvo::C
 
-// The same functions that the header declares outside of any namespace.
-extern "C" {
+// Not in a header: NOLINTNEXTLINE(google-global-names-in-headers)
+using namespace Orvo::C;
 
 int32_t orvo_window_create(const orvo_options* options, orvo_panel** panel, orvo_error* error) {
     return guarded(error, [&] {
@@ -96,6 +97,3 @@ void orvo_process_events(int32_t milliseconds) {
 void orvo_run() {
     if (QCoreApplication::instance() != nullptr) QCoreApplication::exec();
 }
-
-}  // extern "C"
-}  // namespace Orvo::C

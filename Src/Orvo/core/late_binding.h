@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "Orvo/core/member_table.h"
+#include "Orvo/export.h"
 #include "Orvo/values/error.h"
 
 namespace Orvo {
@@ -16,10 +17,10 @@ struct InvokeResult {
 };
 
 /// The dispatch id of a member, without regard to case.
-std::optional<Long> dispatchIdOf(std::string_view name);
+ORVO_EXPORT std::optional<Long> dispatchIdOf(std::string_view name);
 
 /// The member with this dispatch id and kind. Error 438 when there is none, error 383 when it is
 /// written but can only be read, error 394 when it is read but can only be written.
-const Member& findMember(Long dispatchId, MemberKind kind);
+ORVO_EXPORT const Member& findMember(Long dispatchId, MemberKind kind);
 
 }  // namespace Orvo

@@ -7,6 +7,7 @@
 #include "Orvo/core/events.h"
 #include "Orvo/core/interface.h"
 #include "Orvo/core/late_binding.h"
+#include "Orvo/export.h"
 #include "Orvo/service/platform.h"
 #include "Orvo/widgets/widget_tree.h"
 
@@ -22,7 +23,7 @@ class Panel;
 /// error 1001 on any other, and nothing is changed. Whatever is called may end with error 7, when
 /// memory runs out: the panel is as usable afterwards as it was before. Events are raised on that
 /// thread too, and the host's handler may call back into the panel, or release it.
-class MarvaneAssistant final : public MarvaneAssistantInterface {
+class ORVO_EXPORT MarvaneAssistant final : public MarvaneAssistantInterface {
 public:
     /// Creates the panel over a fresh set of widgets and runs its start-up. An error of the
     /// start-up, or error 7 when memory runs out, reaches the caller. The panel and the caller

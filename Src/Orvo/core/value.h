@@ -4,6 +4,7 @@
 #include <type_traits>
 #include <variant>
 
+#include "Orvo/export.h"
 #include "Orvo/values/boolean.h"
 #include "Orvo/values/integer_array.h"
 #include "Orvo/values/types.h"
@@ -34,6 +35,6 @@ inline ValueType typeOf(const Value& value) { return static_cast<ValueType>(valu
 /// half to even; a number becomes a Boolean by being non-zero; a text must be a number, or "True"
 /// or "False" for a Boolean; no value is 0, false or "". Error 6 when a number leaves the type's
 /// range, error 13 when it can't be converted.
-Value convert(const Value& value, ValueType type);
+ORVO_EXPORT Value convert(const Value& value, ValueType type);
 
 }  // namespace Orvo

@@ -3,6 +3,7 @@
 #include <optional>
 #include <span>
 
+#include "Orvo/export.h"
 #include "Orvo/values/types.h"
 
 namespace Orvo {
@@ -17,7 +18,7 @@ struct SampleScale {
 };
 
 /// The scale of a surface of this height in pixels, as its grid has it.
-SampleScale sampleScale(float height);
+ORVO_OWN_EXPORT SampleScale sampleScale(float height);
 
 /// What somebody reads off the n samples x of a trace, in volts:
 ///
@@ -41,10 +42,11 @@ struct WaveFigures {
     bool isSignal = false;  ///< peak to peak is 3 counts or more: less may be noise
 
     [[nodiscard]] double peakToPeak() const { return greatest - least; }
-    [[nodiscard]] double peak() const;
+    [[nodiscard]] ORVO_OWN_EXPORT double peak() const;
 };
 
 /// None without samples.
-std::optional<WaveFigures> waveFigures(std::span<const Integer> samples, const SampleScale& scale);
+ORVO_OWN_EXPORT std::optional<WaveFigures> waveFigures(std::span<const Integer> samples,
+                                                       const SampleScale& scale);
 
 }  // namespace Orvo

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "Orvo/export.h"
 #include "Orvo/service/platform.h"
 
 namespace Orvo::Runtime {
@@ -18,6 +19,6 @@ enum class PrintServers : std::uint8_t {
 /// A print server has two seconds in all to answer with at most 1 MiB; one that doesn't is as if
 /// there were none. Where they are left alone an enumeration never waits: it lists this machine's
 /// devices, and fails for any other name.
-Platform machinePlatform(PrintServers printServers = PrintServers::asked);
+ORVO_EXPORT Platform machinePlatform(PrintServers printServers = PrintServers::asked);
 
 }  // namespace Orvo::Runtime

@@ -7,6 +7,7 @@
 #include <variant>
 #include <vector>
 
+#include "Orvo/export.h"
 #include "Orvo/store/operation.h"
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/lamp.h"
@@ -96,7 +97,7 @@ struct SliderState {
     /// The bound nearest to what is beyond the bounds.
     [[nodiscard]] Integer within(int wanted) const;
     /// Where the cap is drawn: the position, or the bound nearest to it.
-    [[nodiscard]] Integer shown() const;
+    [[nodiscard]] ORVO_OWN_EXPORT Integer shown() const;
 };
 
 }  // namespace Orvo::Runtime

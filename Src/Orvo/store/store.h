@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "Orvo/export.h"
 #include "Orvo/store/deed.h"
 #include "Orvo/widgets/widget_tree.h"
 
@@ -32,10 +33,10 @@ public:
 /// the headless runtime, with a clock that only `advance` moves.
 ///
 /// All calls from one thread, the panel's.
-class Store final : public Widgets::WidgetTree,
-                    Widgets::MousePointer,
-                    Widgets::InputPrompt,
-                    public std::enable_shared_from_this<Store> {
+class ORVO_EXPORT Store final : public Widgets::WidgetTree,
+                                Widgets::MousePointer,
+                                Widgets::InputPrompt,
+                                public std::enable_shared_from_this<Store> {
 public:
     using Milliseconds = std::chrono::milliseconds;
 

@@ -4,6 +4,7 @@
 #include <type_traits>
 #include <variant>
 
+#include "Orvo/export.h"
 #include "Orvo/layout/layout.h"
 #include "Orvo/store/operation.h"
 #include "Orvo/store/screen.h"
@@ -193,8 +194,8 @@ public:
     void trace(Widgets::Trace trace) override;
 
     /// The drawing area in pixels.
-    [[nodiscard]] int width() const;
-    [[nodiscard]] int height() const;
+    [[nodiscard]] ORVO_OWN_EXPORT int width() const;
+    [[nodiscard]] ORVO_OWN_EXPORT int height() const;
 
 private:
     template <class Value>

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "Orvo/export.h"
 #include "Orvo/store/input_observer.h"
 #include "Orvo/values/types.h"
 #include "Orvo/widgets/notification.h"
@@ -20,9 +21,9 @@ public:
     explicit UserInput(Store& store) : store_(store) {}
 
     /// A mouse button goes down on a widget; it gets the release, wherever that happens.
-    void press(WidgetId widget, MouseButton button = MouseButton::left);
-    void release(WidgetId widget, MouseButton button = MouseButton::left,
-                 ReleasedWhere where = ReleasedWhere::onWidget);
+    ORVO_OWN_EXPORT void press(WidgetId widget, MouseButton button = MouseButton::left);
+    ORVO_OWN_EXPORT void release(WidgetId widget, MouseButton button = MouseButton::left,
+                                 ReleasedWhere where = ReleasedWhere::onWidget);
 
     /// Who sees all this; null takes it away again.
     void observeWith(InputObserver* observer) { observer_ = observer; }

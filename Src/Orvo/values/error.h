@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "Orvo/export.h"
 #include "Orvo/values/types.h"
 
 namespace Orvo {
@@ -10,7 +11,7 @@ namespace Orvo {
 /// A run-time error as it reaches a caller: a number and a description (ASCII).
 ///
 /// Numbers below 1000 are those of the component model's run time.
-class Error : public std::runtime_error {
+class ORVO_EXPORT Error : public std::runtime_error {
 public:
     Error(Long number, const std::string& description)
         : std::runtime_error(description), number_(number) {}

@@ -4,6 +4,7 @@
 #include <span>
 #include <vector>
 
+#include "Orvo/export.h"
 #include "Orvo/values/types.h"
 
 namespace Orvo {
@@ -11,7 +12,7 @@ namespace Orvo {
 /// An array of Integer with its own bounds and any number of dimensions, none included.
 ///
 /// Elements are stored with the first index running fastest.
-class IntegerArray {
+class ORVO_EXPORT IntegerArray {
 public:
     /// The lowest and the highest index of one dimension; empty when upper is lower - 1.
     struct Bounds {

@@ -2,9 +2,11 @@
 
 #include <QIcon>
 
+#include "Orvo/export.h"
+
 namespace Orvo::Window {
 
 /// What stands for the panel in a task bar or a window's title. The application has to exist.
-QIcon emblem();
+ORVO_EXPORT QIcon emblem();
 
 }  // namespace Orvo::Window

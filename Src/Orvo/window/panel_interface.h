@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "Orvo/core/connection.h"
+#include "Orvo/export.h"
 
 // Written from the tables by orvo-reference.
 // clang-format off
@@ -27,7 +28,7 @@ namespace Orvo::Window {
 ///
 /// A signal is emitted while its event is raised, before other sinks of the panel are told. A slot
 /// may do what a sink's handler may, deleting the widget included.
-class PanelInterface : public QWidget {
+class ORVO_EXPORT PanelInterface : public QWidget {
     Q_OBJECT
 
 public:

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "Orvo/export.h"
 #include "Orvo/widgets/reference.h"
 #include "Orvo/window/clock.h"
 #include "Orvo/window/panel_interface.h"
@@ -26,7 +27,7 @@ namespace Orvo::Window {
 /// in whatever style, palette, font and language the host's window is; only a style sheet reaches
 /// its controls, if it selects them. What opens over it, a prompt, a tooltip or a list, follows the
 /// desktop.
-class PanelWidget : public PanelInterface {
+class ORVO_EXPORT PanelWidget : public PanelInterface {
     Q_OBJECT
     Q_PROPERTY(double zoom READ zoom WRITE setZoom RESET resetZoom NOTIFY zoomChanged)
     Q_PROPERTY(bool fitsToSize READ fitsToSize WRITE setFitsToSize NOTIFY fitsToSizeChanged)

@@ -1,4 +1,4 @@
-"""Generated from the tables: cmake --build BUILD --target reference"""
+"""Generated from the tables: cmake --build BUILD --target orvo-make-reference"""
 
 from __future__ import annotations
 
