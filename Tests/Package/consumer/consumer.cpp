@@ -1,0 +1,3 @@
+int idOfAPanel();
+
+int main() { return idOfAPanel() == 42 ? 0 : 1; }
