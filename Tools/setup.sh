@@ -12,7 +12,7 @@ declare -A packages_for=(
     # an offscreen window would show no text without any.
     [window]="qt6-base-dev qt6-serialport-dev libgl-dev fonts-dejavu-core fonts-liberation"
     # From xvfb on, what the window is read with from outside; that test is skipped without.
-    [tests]="libgtest-dev xvfb dbus-daemon at-spi2-core"
+    [tests]="libgtest-dev pkg-config xvfb dbus-daemon at-spi2-core"
     # Where the display is Wayland's.
     [wayland]="qt6-wayland"
     # What is measured beside the project; those rows are left out without.
@@ -20,6 +20,8 @@ declare -A packages_for=(
     # For CI only, as this starts a print server on the machine; the tests that
     # need one are skipped without.
     [server]="cups-daemon"
+    # For the plugin, and the test of a form; both are left out without.
+    [designer]="qt6-tools-dev"
     # Another version formats differently and finds other things.
     [lint]="clang-format-14 clang-tidy-14"
     # Of the version that the preset names.
