@@ -89,7 +89,7 @@ function(orvo_public_headers name)
     endforeach()
 endfunction()
 
-# orvo_program(name component): a program in <build>/bin.
+# orvo_program(name component): a program in <build>/bin, which writes its own manual.
 function(orvo_program name component)
     add_executable(${name})
     set_target_properties(${name} PROPERTIES
@@ -98,5 +98,30 @@ function(orvo_program name component)
     add_dependencies(orvo-programs ${name})
     if(ORVO_INSTALL)
         install(TARGETS ${name} COMPONENT ${component})
+        if(NOT CMAKE_CROSSCOMPILING)
+            orvo_manual(${name} ${component})
+        endif()
     endif()
+endfunction()
+
+# orvo_manual(program component): its manual page, and completion for shells.
+function(orvo_manual program component)
+    set(directory ${PROJECT_BINARY_DIR}/manual)
+    file(MAKE_DIRECTORY ${directory})
+    set(forms man bash zsh fish)
+    set(files ${program}.1 ${program} _${program} ${program}.fish)
+    set(destinations ${CMAKE_INSTALL_MANDIR}/man1
+        ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+        ${CMAKE_INSTALL_DATADIR}/zsh/site-functions
+        ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+    foreach(form file destination IN ZIP_LISTS forms files destinations)
+        add_custom_command(OUTPUT ${directory}/${file}
+            COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0
+                $<TARGET_FILE:${program}> --generate=${form} > ${directory}/${file}
+            DEPENDS ${program}
+            VERBATIM)
+        install(FILES ${directory}/${file} DESTINATION ${destination} COMPONENT ${component})
+    endforeach()
+    list(TRANSFORM files PREPEND ${directory}/)
+    add_custom_target(orvo-manual-${program} ALL DEPENDS ${files})
 endfunction()

@@ -55,8 +55,16 @@ int print(const std::string& text) {
     return done;
 }
 
+int generate(const std::string& form) {
+    std::string text = manualAs(form, manual());
+    if (text.empty()) throw WrongUsage{"--generate takes " + std::string(kManualForms)};
+    text.pop_back();  // the line's end is the output's
+    return print(text);
+}
+
 int run(const Options& options) {
-    if (options.wish == Options::Wish::help) return print(std::string(kUsage));
+    if (options.wish == Options::Wish::generate) return generate(options.form);
+    if (options.wish == Options::Wish::help) return print(usage());
     if (options.wish == Options::Wish::version) return print("orvo-console " ORVO_VERSION);
     if (!options.file && ::isatty(STDIN_FILENO) != 0) return talk();
     StorePanel panel;

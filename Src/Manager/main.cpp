@@ -12,6 +12,7 @@
 #include "Manager/Window/options.h"
 #include "Manager/Window/platform.h"
 #include "Manager/Window/run_script.h"
+#include "Manager/Window/shortcuts.h"
 #include "Orvo/version.h"
 #include "Orvo/window/emblem.h"
 #include "Script/program.h"
@@ -29,6 +30,22 @@ std::string logFile() {
     const QDir directory(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
     directory.mkpath(".");
     return nativeName(directory.filePath("messages.txt"));
+}
+
+int generate(const Options& options) {
+    const ManagerWindow window;
+    Script::Manual manual = manualOfOptions();
+    for (const Shortcut& key : shortcutsOf(window)) {
+        if (key.keys.isEmpty()) continue;
+        manual.keys.push_back(
+            {key.group.toStdString(), key.what.toStdString(), key.keys.toStdString()});
+    }
+    const std::string text = manualAs(options.form.toStdString(), manual);
+    if (text.empty()) {
+        return complain(
+            std::runtime_error(std::string("--generate takes ") + Script::kManualForms));
+    }
+    return end({0, QString::fromStdString(text).chopped(1)});
 }
 
 int showWindow(Options options) {
@@ -65,6 +82,7 @@ int main(int argc, char** argv) {
     const auto parsed = parseCommandLine(QApplication::arguments());
     if (const auto* ending = std::get_if<Ending>(&parsed)) return end(*ending);
     const auto& options = std::get<Options>(parsed);
+    if (!options.form.isEmpty()) return generate(options);
     if (!options.script.isEmpty()) return runScript(options);
     return hasDisplay() || options.link ? showWindow(options) : demonstrate(options);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -51,6 +52,16 @@ private:
 
 /// How a program that runs a script ends.
 enum Status { done, notUnderstood, cannotRun };
+
+struct StatusText {
+    Status status;
+    std::string_view text;
+};
+inline constexpr auto kStatusTexts = std::to_array<StatusText>({
+    {done, "all was done"},
+    {notUnderstood, "a command of the script was not understood"},
+    {cannotRun, "the script, or what else was asked for, can't be run"},
+});
 
 /// Runs the script of a file, of standard input for "-", and answers on standard output, before it
 /// waits for more at the latest. Each "?" is reported on standard error with its place.

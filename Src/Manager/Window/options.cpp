@@ -29,12 +29,11 @@ public:
         parser_.setApplicationDescription(
             tr("Shows the front panel of a four-channel power amplifier, and a simulated amplifier "
                "behind it."));
-        parser_.addOptions(
-            {help_, version_, simulate_, zoom_, tab_, readOnly_, fullScreen_, reset_});
-        parser_.addOptions({script_, keepGoing_, record_, recordAnswers_, overwrite_, link_});
+        parser_.addOptions(options_);
     }
 
     std::variant<Options, Ending> parse(const QStringList& words);
+    [[nodiscard]] Script::Manual manual() const;
 
 private:
     [[nodiscard]] Options options() const;
@@ -100,6 +99,15 @@ private:
            "and is answered, except on a pipe. A serial device's speed follows it, and if it "
            "isn't 8N1 its format: /dev/ttyUSB0@115200,8E1."),
         tr("PATH[@SPEED]")};
+    const QCommandLineOption generate_{
+        "generate",
+        tr("Shows the manual page, or what a shell needs to complete this command line, and ends: "
+           "%1.")
+            .arg(Script::kManualForms),
+        tr("FORM")};
+    const QList<QCommandLineOption> options_{
+        help_,   version_,   simulate_, zoom_,          tab_,       readOnly_, fullScreen_, reset_,
+        script_, keepGoing_, record_,   recordAnswers_, overwrite_, link_,     generate_};
     QCommandLineParser parser_;
 };
 
@@ -125,6 +133,7 @@ std::variant<Options, Ending> CommandLine::parse(const QStringList& words) {
         return Ending{
             0, QCoreApplication::applicationName() + ' ' + QCoreApplication::applicationVersion()};
     }
+    if (parser_.isSet(generate_)) return Options{.form = parser_.value(generate_)};
     const QStringList loose = parser_.positionalArguments();
     if (!loose.isEmpty()) {
         return wrongUsage(
@@ -212,7 +221,28 @@ QString CommandLine::helpText() const {
     return text.trimmed();
 }
 
+Script::Manual CommandLine::manual() const {
+    Script::Manual manual{.program = QCoreApplication::applicationName().toStdString(),
+                          .purpose = "front panel of a four-channel power amplifier",
+                          .operands = "",
+                          .description = {parser_.applicationDescription().toStdString()},
+                          .options = {},
+                          .keys = {},
+                          .seeAlso = {"orvo-console(1)"}};
+    for (const QCommandLineOption& option : options_) {
+        std::vector<std::string> names;
+        for (const QString& name : option.names()) {
+            names.push_back((name.size() == 1 ? "-" : "--") + name.toStdString());
+        }
+        manual.options.push_back(
+            {names, option.valueName().toStdString(), option.description().toStdString()});
+    }
+    return manual;
+}
+
 }  // namespace
+
+Script::Manual manualOfOptions() { return CommandLine().manual(); }
 
 QString linkAddressRule() {
     return CommandLine::tr(

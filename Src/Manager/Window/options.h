@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "Manager/Session/manager_session.h"
+#include "Script/manual.h"
 
 namespace Orvo::Manager {
 
@@ -21,6 +22,7 @@ struct Options {
     QString script{};  ///< a file, "-" for standard input; empty: none
     bool keepsGoing = false;
     std::optional<LinkAddress> link{};
+    QString form{};  ///< what is to be generated; empty: nothing
 };
 
 /// There is nothing to start: the program says this and ends. Status 0 is an answer for standard
@@ -37,6 +39,9 @@ QString linkAddressRule();
 
 /// Says in one line on standard error what ends the program, and returns the status for that.
 int complain(const std::exception& failure);
+
+/// What the command line knows, for a manual; the keys are the window's.
+Script::Manual manualOfOptions();
 
 /// The command line, the program's name being its first word. Needs the application object.
 std::variant<Options, Ending> parseCommandLine(const QStringList& words);
