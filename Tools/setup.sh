@@ -22,6 +22,9 @@ declare -A packages_for=(
     [server]="cups-daemon"
     # For the plugin, and the test of a form; both are left out without.
     [designer]="qt6-tools-dev"
+    # For CI only: what checks the programs' desktop entries, icons, manual pages and completions,
+    # and the packages; those tests are skipped without.
+    [packages]="desktop-file-utils appstream libqt6svg6-dev man-db bash-completion dpkg-dev fakeroot lintian"
     # Another version formats differently and finds other things.
     [lint]="clang-format-14 clang-tidy-14"
     # Of the version that the preset names.

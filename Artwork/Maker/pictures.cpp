@@ -5,6 +5,9 @@
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
+#if __has_include(<QSvgGenerator>)
+#include <QSvgGenerator>
+#endif
 
 #include "Artwork/Drawings/drawings.h"
 #include "Artwork/Maker/bitmap.h"
@@ -43,25 +46,45 @@ QByteArray metafileOf(const Drawing& drawing, const char* title) {
     return file.file(title);
 }
 
+template <int size>
+QByteArray iconOf() {
+    return encoded(imageOf(kEmblem, {size, size}), "PNG", -1);
+}
+
+#if __has_include(<QSvgGenerator>)
+QByteArray svgOf(const Drawing& drawing, const char* title) {
+    QBuffer buffer;
+    QSvgGenerator file;
+    file.setOutputDevice(&buffer);
+    file.setSize(drawing.place.size().toSize());
+    file.setViewBox(drawing.place);
+    file.setTitle(title);
+    file.setDescription("");
+    paintOn(file, drawing);
+    return buffer.data();
+}
+#endif
+
 constexpr auto kPictures = std::to_array<Picture>({
     {"common-tab.bmp",
      [] {
          return bitmapOf16Bits(imageOf(kCommonTab, {629, 453}));
      }},
-    {"pair-tab.jpg",
-     [] {
-         return encoded(imageOf(kPairTab, {700, 432}), "JPEG", kJpegQuality);
-     }},
-    {"power-up.emf", [] { return metafileOf(kPowerUp, "Power button, up"); }},
-    {"power-down.emf", [] { return metafileOf(kPowerDown, "Power button, down"); }},
-    {"toolbox.bmp",
-     [] {
-         return bitmapOf16Colours(imageOf(kToolbox, {16, 15}));
-     }},
-    {"marvane-manager.png",
-     [] {
-         return encoded(imageOf(kEmblem, {256, 256}), "PNG", -1);
-     }},
+        {"pair-tab.jpg",
+         [] {
+             return encoded(imageOf(kPairTab, {700, 432}), "JPEG", kJpegQuality);
+         }},
+        {"power-up.emf", [] { return metafileOf(kPowerUp, "Power button, up"); }},
+        {"power-down.emf", [] { return metafileOf(kPowerDown, "Power button, down"); }},
+        {"toolbox.bmp",
+         [] {
+             return bitmapOf16Colours(imageOf(kToolbox, {16, 15}));
+         }},
+        {"marvane-manager-48.png", iconOf<48>}, {"marvane-manager-128.png", iconOf<128>},
+        {"marvane-manager-256.png", iconOf<256>},
+#if __has_include(<QSvgGenerator>)
+        {"marvane-manager.svg", [] { return svgOf(kEmblem, "Marvane Manager"); }},
+#endif
 });
 
 }  // namespace

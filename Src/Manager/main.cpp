@@ -76,7 +76,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("marvane-manager");
     QApplication::setApplicationDisplayName("Marvane Manager");
     QApplication::setApplicationVersion(ORVO_VERSION);
-    QApplication::setDesktopFileName("marvane-manager");
+    QApplication::setDesktopFileName(ORVO_MANAGER_ID);
     QApplication::setWindowIcon(Orvo::Window::emblem());
 
     const auto parsed = parseCommandLine(QApplication::arguments());

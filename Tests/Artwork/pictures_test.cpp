@@ -26,7 +26,9 @@ TEST(PicturesTest, AreOfTheirKindsAndSizes) {
     const Kind kinds[] = {{"common-tab.bmp", "BMP", {629, 453}, 16},
                           {"pair-tab.jpg", "JPG", {700, 432}, 0},
                           {"toolbox.bmp", "BMP", {16, 15}, 4},
-                          {"marvane-manager.png", "PNG", {256, 256}, 0}};
+                          {"marvane-manager-48.png", "PNG", {48, 48}, 0},
+                          {"marvane-manager-128.png", "PNG", {128, 128}, 0},
+                          {"marvane-manager-256.png", "PNG", {256, 256}, 0}};
     for (const Kind& kind : kinds) {
         const QByteArray bytes = kept(kind.file);
         EXPECT_EQ(QImage::fromData(bytes, kind.format).size(), kind.size) << kind.file;
