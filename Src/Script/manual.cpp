@@ -81,10 +81,11 @@ std::string bashCompletion(const Manual& manual) {
     std::string files;
     std::string values;
     for (const ManualOption& option : manual.options) {
-        for (const std::string& name : option.names) all += (all.empty() ? "" : " ") + name;
+        for (const std::string& name : option.names)
+            all.append(all.empty() ? "" : " ").append(name);
         if (option.value.empty()) continue;
         std::string& kind = takesFile(option) ? files : values;
-        kind += (kind.empty() ? "" : " | ") + option.names.back();
+        kind.append(kind.empty() ? "" : " | ").append(option.names.back());
     }
     std::string cases;
     if (!files.empty()) cases += "        " + files + ") return ;;\n";
@@ -108,12 +109,12 @@ std::string zshCompletion(const Manual& manual) {
         std::string what = replaced(replaced(option.text, "'", "'\\''"), "[", "\\[");
         what = replaced(replaced(what, "]", "\\]"), ":", "\\:");
         for (const std::string& name : option.names) {
-            const std::string_view takes = option.value.empty() ? "" : "=";
-            text += "    '" + name + std::string(takes) + '[' + what + ']';
+            text.append("    '").append(name).append(option.value.empty() ? "[" : "=[");
+            text.append(what).append("]");
             if (!option.value.empty()) {
-                text += ':' + option.value + ':' + (takesFile(option) ? "_files" : " ");
+                text.append(":").append(option.value).append(takesFile(option) ? ":_files" : ": ");
             }
-            text += "' \\\n";
+            text.append("' \\\n");
         }
     }
     return text + "    '*:file:_files'\n";
