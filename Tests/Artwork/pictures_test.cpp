@@ -55,7 +55,7 @@ TEST(PicturesTest, AreWhatTheDrawingsMakeToday) {
         const QByteArray file = kept(picture.file);
         const QByteArray made = picture.make();
         EXPECT_TRUE(file == made || difference(file, made) < 24)
-            << picture.file << " is older than its drawing; the target \"artwork\" renews it";
+            << picture.file << " is older than its drawing; \"Tools/accept artwork\" renews it";
     }
 }
 
