@@ -33,7 +33,8 @@ std::string logFile() {
 }
 
 int generate(const Options& options) {
-    const ManagerWindow window;
+    ManagerWindow window;
+    window.showScopes(true);  // which have keys, too
     Script::Manual manual = manualOfOptions();
     for (const Shortcut& key : shortcutsOf(window)) {
         if (key.keys.isEmpty()) continue;
