@@ -25,6 +25,8 @@ declare -A packages_for=(
     # For CI only: what checks the programs' desktop entries, icons, manual pages and completions,
     # and the packages; those tests are skipped without.
     [packages]="desktop-file-utils appstream libqt6svg6-dev man-db bash-completion dpkg-dev fakeroot lintian"
+    # For CI only: the API pages.
+    [docs]="doxygen qt6-documentation-tools"
     # Another version formats differently and finds other things.
     [lint]="clang-format-14 clang-tidy-14"
     # Of the version that the preset names.
