@@ -94,8 +94,10 @@ Contrast contrastOf(const QPalette& desktop) {
     return contrast >= kNearlyBlackOnWhite ? Contrast::high : Contrast::usual;
 }
 
-void paintFrame(Frame frame, Contrast contrast) {
-    const QPalette palette = framePalette(frame, contrast);
+void paintFrame(Frame frame) {
+    // Without the frame's own colours the desktop's are left.
+    QApplication::setPalette({});
+    const QPalette palette = framePalette(frame, contrastOf(QApplication::palette()));
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
 }

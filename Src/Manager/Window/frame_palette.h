@@ -22,7 +22,8 @@ QPalette framePalette(Frame frame, Contrast contrast);
 /// What the desktop asks for by its own colours.
 Contrast contrastOf(const QPalette& desktop);
 
-/// Gives all of the program's windows the frame. The panel has colours of its own.
-void paintFrame(Frame frame, Contrast contrast);
+/// Gives all of the program's windows the frame, in the contrast that the desktop has now. The
+/// panel has colours of its own.
+void paintFrame(Frame frame);
 
 }  // namespace Orvo::Manager

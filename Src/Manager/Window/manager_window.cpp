@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QLayout>
@@ -34,7 +33,6 @@ constexpr qint64 kLongestTick = 1000;
 ManagerWindow::ManagerWindow(const Options& options, QSettings* settings)
     : options_(options),
       settings_(settings),
-      contrast_(contrastOf(QApplication::palette())),
       // Whoever plays the host here, a device or a session's file, may not make the window wait.
       // What is recorded must tick in the replay as it did here, and that can begin at any time.
       panel_(new Window::PanelWidget(Runtime::machinePlatform(Runtime::PrintServers::leftAlone),

@@ -80,6 +80,7 @@ public:
     void showAbout();
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -128,7 +129,6 @@ private:
 
     const Options options_;
     QSettings* const settings_;
-    const Contrast contrast_;
     Window::PanelWidget* const panel_;
     ZoomArea* const zoomArea_;
     StatusLine* const statusLine_;

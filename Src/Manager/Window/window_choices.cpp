@@ -46,11 +46,16 @@ Choices ManagerWindow::choices() {
 
 void ManagerWindow::setFrame(Frame frame) {
     frame_ = frame;
-    paintFrame(frame, contrast_);
+    paintFrame(frame);
 }
 
 void ManagerWindow::setFullScreen(bool isFullScreen) {
     setWindowState(windowState().setFlag(Qt::WindowFullScreen, isFullScreen));
+}
+
+bool ManagerWindow::event(QEvent* event) {
+    if (event->type() == QEvent::ThemeChange) paintFrame(frame_);
+    return QMainWindow::event(event);
 }
 
 void ManagerWindow::changeEvent(QEvent* event) {

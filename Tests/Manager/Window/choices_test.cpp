@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QProxyStyle>
 #include <QScreen>
 
 #include "Manager/Scope/scope_window.h"
@@ -13,6 +14,15 @@
 
 namespace Orvo::Manager {
 namespace {
+
+/// A desktop for better sight.
+class HighContrast : public QProxyStyle {
+public:
+    void polish(QPalette& palette) override {
+        palette = framePalette(Frame::light, Contrast::high);
+    }
+    using QProxyStyle::polish;
+};
 
 /// A program that is started, used and closed again and again.
 class ChoicesTest : public testing::Test {
@@ -114,6 +124,20 @@ TEST(FramePaletteTest, IsReadableAndMoreSoWhereTheDesktopIs) {
             EXPECT_EQ(contrastOf(palette), contrast);
         }
     }
+}
+
+TEST_F(ChoicesTest, OfTheFrameFollowTheDesktopsContrastWhileTheWindowIsOpen) {
+    ManagerWindow& window = start();
+    const QString usual = QApplication::style()->name();
+    const auto expect = [&](Contrast contrast) {
+        QEvent change(QEvent::ThemeChange);
+        QApplication::sendEvent(&window, &change);
+        EXPECT_EQ(QApplication::palette().window(), framePalette(Frame::dark, contrast).window());
+    };
+    QApplication::setStyle(new HighContrast);
+    expect(Contrast::high);
+    QApplication::setStyle(usual);
+    expect(Contrast::usual);
 }
 
 TEST_F(ChoicesTest, OfTheFramesColoursLeaveThePanelAsItIs) {
